@@ -1,0 +1,74 @@
+// What was drawn, for tests to ask. Each window keeps the operations of its last paint: BeginPaint
+// starts anew, and what is drawn through GetDC is added. Each device context in memory keeps its
+// own until it is deleted.
+//
+// Coordinates are device units: pixels of the window's client area (of the whole window for the
+// frame). Colours are COLORREF. What lies outside the clip rectangle is recorded as well, with the
+// rectangle that it is cut to.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "platform/headless/types.h"
+
+namespace headless {
+
+enum class DrawKind {
+    kText,          // text, rect (box of the text as drawn), textColor, backColor, opaque, font
+    kFill,          // rect, color: FillRect, PatBlt, inside of Rectangle, opaque text backgrounds
+    kFrame,         // rect, color: FrameRect, outline of Rectangle
+    kInvert,        // rect
+    kFocus,         // rect: DrawFocusRect
+    kLine,          // points (two), color, width
+    kPolyline,      // points, color, width
+    kPolygon,       // points, color (inside), width and frameColor (outline)
+    kPixel,         // rect (one pixel), color
+    kEdge,          // rect, type (EDGE_*), flags (BF_*)
+    kFrameControl,  // rect, type (DFC_*), flags (DFCS_*)
+    kIcon,          // rect, handle
+    kBlit,          // rect, source (rectangle in the source), handle (the bitmap or 0), operation
+    kMetafile,      // rect, handle, picture
+    kThemePart,     // rect, theme (class name), part, state
+    kThemeParent,   // rect: the parent's background was asked for
+};
+
+struct DrawOp {
+    DrawKind kind = DrawKind::kFill;
+    RECT rect{};
+    RECT clip{};
+    COLORREF color = 0;
+    COLORREF frameColor = 0;
+    COLORREF textColor = 0;
+    COLORREF backColor = 0;
+    bool opaque = false;
+    int width = 0;
+    UINT type = 0;
+    UINT flags = 0;
+    DWORD operation = 0;
+    std::string text;
+    // Place in `text` of the character that is underlined as the mnemonic, or -1.
+    int underlined = -1;
+    LOGFONTA font{};
+    std::vector<POINT> points;
+    RECT source{};
+    HANDLE handle = nullptr;
+    METAFILEPICT picture{};
+    std::string theme;
+    int part = 0;
+    int state = 0;
+};
+
+// The operations of the window's last paint, oldest first; empty for a window that never painted.
+// The reference holds until the window paints again or is destroyed.
+const std::vector<DrawOp>& RecordedOps(HWND hwnd);
+// The same for the window's frame.
+const std::vector<DrawOp>& RecordedFrameOps(HWND hwnd);
+// The operations of a device context; for one of a window these are the window's.
+const std::vector<DrawOp>& RecordedOps(HDC dc);
+
+// The texts among the operations, in their order.
+std::vector<std::string> RecordedTexts(HWND hwnd);
+
+}  // namespace headless
