@@ -37,3 +37,26 @@ function(zx_add_tests name)
   add_test(NAME ${name} COMMAND zx_${name}_tests)
   set_property(GLOBAL APPEND PROPERTY ZX_TEST_PROGRAMS zx_${name}_tests)
 endfunction()
+
+# zx_add_bench(<name> LINKS <target>...)
+#
+# One benchmark program zx_bench_<name> of every source of the current folder.
+function(zx_add_bench name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  add_executable(zx_bench_${name} ${sources})
+  target_link_libraries(zx_bench_${name} PRIVATE zx_compile ${ARG_LINKS})
+  target_include_directories(zx_bench_${name} PRIVATE ${CMAKE_SOURCE_DIR}/bench ${CMAKE_SOURCE_DIR}/tests)
+  set_property(GLOBAL APPEND PROPERTY ZX_BENCH_PROGRAMS zx_bench_${name})
+endfunction()
+
+# zx_add_fuzz(<name> SOURCES <file>... LINKS <target>...)
+#
+# One fuzz target zx_fuzz_<name>.
+function(zx_add_fuzz name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(zx_fuzz_${name} ${ARG_SOURCES})
+  target_link_libraries(zx_fuzz_${name} PRIVATE zx_compile ${ARG_LINKS})
+  target_compile_options(zx_fuzz_${name} PRIVATE -fsanitize=fuzzer)
+  target_link_options(zx_fuzz_${name} PRIVATE -fsanitize=fuzzer)
+endfunction()

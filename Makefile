@@ -1,0 +1,27 @@
+# Each target does all that it needs on a fresh machine; tools/setup.sh installs what is missing.
+.PHONY: demo test test-win64 bench fuzz format lint clean
+
+demo:
+	@tools/demo.sh
+
+test:
+	@tools/test.sh native win32
+
+test-win64:
+	@tools/test.sh win64
+
+bench:
+	@tools/bench.sh
+
+# Minutes per fuzz target: make fuzz FUZZ_SECONDS=600
+fuzz:
+	@tools/fuzz.sh $(FUZZ_SECONDS)
+
+format:
+	@tools/lint.sh --format
+
+lint:
+	@tools/lint.sh
+
+clean:
+	rm -rf build

@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Checks the source tree: formatting, platform conditions where they do not belong, file lengths, and that
+# both resource compilers make the same bytes of every template. --format rewrites instead of checking.
+set -u
+cd "$(dirname "$0")/.." || exit 1
+mkdir -p build
+tools/setup.sh lint || exit 1
+sources=$(git ls-files '*.h' '*.cpp')
+if [ "${1:-}" = --format ]; then
+    # shellcheck disable=SC2086  # a list of files
+    exec clang-format -i $sources
+fi
+status=0
+
+# shellcheck disable=SC2086
+if ! clang-format --dry-run -Werror $sources 2>build/format.log; then
+    grep -oE '^[^:]+:[0-9]+' build/format.log | sort -u | head -n 20
+    echo "lint: not formatted; 'make format' mends it"
+    status=1
+fi
+
+platform='^[[:space:]]*#[[:space:]]*(if|ifdef|ifndef|elif).*(_WIN32|_WIN64|__linux__|__MINGW|_MSC_VER|__unix__|__APPLE__)'
+found=$(git grep -nE "$platform" -- '*.h' '*.cpp' ':!src/platform/' ':!include/ZXADLG.h' ':!resources/')
+if [ -n "$found" ]; then
+    printf '%s\nlint: conditions on the platform belong in src/platform/ alone\n' "$found"
+    status=1
+fi
+
+long=$(git ls-files '*.h' '*.cpp' | grep -v 'headless/constants.h' | xargs wc -l | awk '$1 > 650 && $2 != "total" {print $2 ": " $1 " lines"}')
+if [ -n "$long" ]; then
+    printf '%s\nlint: a file of more than 650 lines holds two ideas\n' "$long"
+    status=1
+fi
+
+for rc in $(git ls-files '*.rc'); do
+    python3 tools/compare_resources.py "$rc" || status=1
+done
+[ $status = 0 ] && echo "lint: clean"
+exit $status

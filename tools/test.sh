@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# Builds and runs the suite on the systems named: native (headless window system, sanitizers), win32 and
+# win64 (Windows programs under Wine). Closes with one line of counts over all of them.
+set -u
+cd "$(dirname "$0")/.." || exit 1
+root=$PWD
+mkdir -p build
+passed=0 failed=0 skipped=0 broken=0
+
+# The tests in the source tree that a system must run; parameterised ones count once.
+tests_in_tree() {
+    local folders
+    folders=$(find tests -mindepth 1 -maxdepth 1 -type d ! -name support)
+    [ "$1" = native ] || folders=$(printf '%s\n' "$folders" | grep -v '_native$')
+    # shellcheck disable=SC2086  # a list of folders
+    grep -hE '^(TEST|TEST_F|TEST_P|TYPED_TEST)\(' -r $folders --include='*_test.cpp' | wc -l
+}
+
+run_program() {  # SYSTEM PROGRAM
+    local system=$1 program=$2 folder=$root/build/$1 report result
+    report=$folder/reports/$program.json
+    rm -f "$report"
+    echo "--- $system: $program"
+    case $system in
+        native) ASAN_OPTIONS=detect_leaks=1 timeout 900 "$folder/bin/$program" --gtest_brief=1 \
+                    --gtest_output=json:"$report" ;;
+        *) ZX_WINE_PREFIX=$folder/wine ZX_WINE_TIMEOUT=900 "$root/tools/run-wine.sh" \
+               "$folder/bin/$program.exe" --gtest_brief=1 "--gtest_output=json:reports\\$program.json" ;;
+    esac
+    result=$?
+    read -r p f s < <(python3 tools/count_tests.py "$report")
+    echo "    $p passed, $f failed, $s skipped"
+    passed=$((passed + p)) failed=$((failed + f)) skipped=$((skipped + s)) ran=$((ran + p + f + s))
+    if [ $result != 0 ] && [ "$f" = 0 ]; then
+        echo "    $program ended with $result"
+        broken=1
+    fi
+}
+
+run_system() {
+    local system=$1 program ran=0 in_tree
+    echo "=== $system: build"
+    cmake --preset "$system" >"build/$system-configure.log" 2>&1 || { cat "build/$system-configure.log"; return 1; }
+    cmake --build --preset "$system" 2>&1 | grep -vE '^\[[0-9]+/[0-9]+\]' ; [ "${PIPESTATUS[0]}" = 0 ] || return 1
+    mkdir -p "build/$system/reports"
+    while read -r program; do
+        [ -n "$program" ] && run_program "$system" "$program"
+    done <"build/$system/test-programs.txt"
+    in_tree=$(tests_in_tree "$system")
+    echo "=== $system: $ran tests ran, $in_tree are in the tree"
+    if [ "$ran" -lt "$in_tree" ]; then
+        echo "    fewer tests ran than are in the tree"
+        return 1
+    fi
+}
+
+for system in "$@"; do
+    if [ "$system" = native ]; then
+        tools/setup.sh native || exit 1
+    else
+        reason=$(tools/setup.sh windows 2>&1 | tee /dev/stderr | tail -n 1)
+        if ! command -v wine >/dev/null || ! command -v i686-w64-mingw32-g++-posix >/dev/null; then
+            count=$(tests_in_tree "$system")
+            echo "=== $system: $count tests skipped, no Windows tools: $reason"
+            skipped=$((skipped + count))
+            continue
+        fi
+    fi
+    run_system "$system" || broken=1
+done
+
+[ $broken = 0 ] || { [ $failed -gt 0 ] || failed=1; }
+echo "$passed passed, $failed failed, $skipped skipped"
+[ $failed = 0 ]
