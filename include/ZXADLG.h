@@ -1,0 +1,188 @@
+// The interface of ZXANALYSISDIALOGS, the modal dialogs of an electrophysiology analysis.
+//
+// A host calls one Show function per analysis. It passes an option record and usually a
+// data-selection record, both edited in place when the user presses OK, an object through which the
+// dialog sees the host's data (ZXADLG_CDlgDataSource, written by the host), and the parameters of
+// the dialog. A Show function never runs an analysis. All calls are made on the thread of the owner
+// window and block until the dialog ends; the library must not be entered from two threads at once.
+// No exception leaves a Show function, and nothing that the host supplies may throw.
+//
+// One header serves the platform vendor's compiler and clang in that compiler's mode, MinGW, and
+// g++ on systems with the headless window system: the abstract classes have the same table in all
+// of them, with the destructor as its one first place.
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+
+#include "zxadlg/DataOptions.h"
+#include "zxadlg/DlgParams.h"
+#include "zxadlg/NormalizeOptions.h"
+
+struct HWND__;
+
+#if defined(_WIN32)
+#define ZXADLG_CALL __cdecl
+#else
+#define ZXADLG_CALL
+#endif
+
+// Results of every Show function.
+enum {
+    ZXADLG_OK = 1,              // accepted; the records were copied back unless bReadOnly is set
+    ZXADLG_CANCEL = 2,          // cancelled, closed, or the dialog gave up during its set-up
+    ZXADLG_NO_TEMPLATE = 0,     // no instance handle or no template
+    ZXADLG_CREATE_FAILED = -1,  // the platform could not create the dialog
+};
+
+// Selects points of a set. Passed by pointer; valid during the call.
+struct ZXADLG_DataRange {
+    uint32_t uRegionId;     // region to confine the points to, or 0
+    uint32_t uFirstIndex;   // used where bUseFullRange is 0
+    uint32_t uLastIndex;    // inclusive
+    uint32_t reserved;      // 0
+    uint8_t bUseFullRange;  // ignore the two indices
+    uint8_t undefined[3];
+};
+static_assert(sizeof(ZXADLG_DataRange) == 20, "layout");
+static_assert(offsetof(ZXADLG_DataRange, bUseFullRange) == 16, "layout");
+
+// What GetRegionInfo fills. The library zeroes it before its first call and reads the fields named.
+struct ZXADLG_RegionInfo {
+    uint32_t uGroup;       // group of the last lookup
+    uint32_t uSet;         // set of the last lookup
+    uint32_t uFirstPoint;  // first point index of the region
+    uint32_t uLastPoint;   // last point index of the region
+    double dStart;         // region start on the x axis
+    double dEnd;           // region end on the x axis
+    uint8_t host[24];      // the host's own
+};
+static_assert(sizeof(ZXADLG_RegionInfo) == 56, "layout");
+static_assert(offsetof(ZXADLG_RegionInfo, dStart) == 16, "layout");
+
+// The special members of an abstract class, in the form that gives its table one first place.
+#if defined(_MSC_VER)
+#define ZXADLG_CLASS __declspec(dllimport)
+#define ZXADLG_SPECIAL_MEMBERS(name) \
+    name();                          \
+    name(const name&);               \
+    virtual ~name();                 \
+    name& operator=(const name&);
+#else
+#define ZXADLG_CLASS
+// These compilers give a virtual destructor two places, so the one place is declared as what it is
+// in the vendor's table: an operation that destroys, and frees with its low bit. The library never
+// calls it.
+#define ZXADLG_SPECIAL_MEMBERS(name)     \
+    virtual void* DeleteSelf(unsigned) { \
+        return this;                     \
+    }                                    \
+    name() {}                            \
+    name(const name&) {}                 \
+    name& operator=(const name&) {       \
+        return *this;                    \
+    }                                    \
+                                         \
+  protected:                             \
+    ~name() {}                           \
+                                         \
+  public:
+#endif
+
+// The host's data. Indices are 0-based unless told otherwise; counts and indices are 32-bit
+// unsigned. Returned texts and arrays stay the host's and stay valid until the next call; the
+// library copies what it keeps. A null text means that there is no name, a null array that there is
+// no data.
+class ZXADLG_CLASS ZXADLG_CDlgDataSource {
+  public:
+    ZXADLG_SPECIAL_MEMBERS(ZXADLG_CDlgDataSource)
+
+    // Name of the store for the settings; null switches persistence off.
+    virtual const char* GetProfileName() = 0;
+    // The x and y values of a set under a range. y values are always asked for with bUseFullRange
+    // set.
+    virtual const double* GetXValues(uint32_t group, uint32_t set, const ZXADLG_DataRange* range,
+                                     uint32_t reserved) = 0;
+    virtual const double* GetYValues(uint32_t group, uint32_t set, const ZXADLG_DataRange* range,
+                                     uint32_t reserved) = 0;
+    // Points of a set, under the range when one is given; 0: the set has no data.
+    virtual uint32_t GetPointCount(uint32_t group, uint32_t set, const ZXADLG_DataRange* range,
+                                   uint32_t reserved) = 0;
+    virtual uint32_t GetGroupCount() = 0;
+    virtual uint32_t GetSetCount(uint32_t group) = 0;
+    // A number per group that the library only copies into the data record.
+    virtual uint32_t GetGroupCode(uint32_t group) = 0;
+    virtual void Reserved8() = 0;
+    // The nouns for a group and a set, singular; null for "Group" and "Set".
+    virtual const char* GetGroupLabel() = 0;
+    virtual const char* GetSetLabel() = 0;
+    // Display names. A group with a null or empty name is left out of the combo boxes.
+    virtual const char* GetGroupName(uint32_t group) = 0;
+    virtual const char* GetSetName(uint32_t group, uint32_t set) = 0;
+    // Units text; `index` is the selected set minus 1 where the units of the y axis are asked for.
+    virtual const char* GetUnits(uint32_t group, int32_t index) = 0;
+    virtual void Reserved14() = 0;
+    // 0 data file, 1 other set-oriented data, 2 sheet.
+    virtual uint32_t GetDataKind() = 0;
+    // Hz; data files only.
+    virtual double GetSamplingFrequency() = 0;
+    virtual uint32_t GetRegionCount() = 0;
+    // Waveforms in the data; 0 for a file without one.
+    virtual uint32_t GetEpochCount() = 0;
+    // Bytes that CopyBlob copies, at most 200.
+    virtual uint32_t GetBlobSize() = 0;
+    // Number of the active set, 1-based; 0 means none.
+    virtual uint32_t GetActiveSet(uint32_t group) = 0;
+    virtual uint32_t GetActiveGroup() = 0;
+    // Null leaves the region out of the combo boxes.
+    virtual const char* GetRegionName(uint32_t position) = 0;
+    // Name of a waveform, and in *value the number that stands for it in the option records.
+    virtual const char* GetEpochName(uint32_t position, uint32_t* value) = 0;
+    // False when the region has no extent for this data.
+    virtual bool GetRegionInfo(uint32_t position, ZXADLG_RegionInfo* info, uint32_t group,
+                               uint32_t set) = 0;
+    virtual bool IsGroupVisible(uint32_t group) = 0;
+    virtual bool IsSetVisible(uint32_t group, uint32_t set) = 0;
+    // Copies the block counted by GetBlobSize; must not write more than `size` bytes.
+    virtual void CopyBlob(void* dest, uint32_t size) = 0;
+    // The data has no single continuous length.
+    virtual bool IsSegmented() = 0;
+    // The stable number of a region; negative hides it, 26 to 45 stand for the epoch variables.
+    virtual int32_t GetRegionId(uint32_t position) = 0;
+    // The host keeps a user-defined list of x values.
+    virtual bool HasUserList() = 0;
+    // Position of a cursor; cursors are numbered from 1.
+    virtual int32_t GetCursor(uint32_t cursor) = 0;
+    virtual void SetCursor(uint32_t cursor, int32_t position) = 0;
+};
+
+// A control file that the user can change while Subtract Control is open.
+class ZXADLG_CLASS ZXADLG_CDlgFileSource {
+  public:
+    ZXADLG_SPECIAL_MEMBERS(ZXADLG_CDlgFileSource)
+
+    // Groups of the current file; 0 when none is open.
+    virtual int32_t GetGroupCount() = 0;
+    // Identifier of the file just chosen, kept in the option record.
+    virtual uint32_t GetFileHandle() = 0;
+    virtual const char* GetGroupName(uint32_t group) = 0;
+    // Text for the description line; the arguments are those of the dialog's initialisation.
+    virtual const char* GetTitle(HWND__* dialog, HWND__* focus, intptr_t parameter) = 0;
+    // Lets the user pick a file: its path, or null when the user gave up.
+    virtual const char* BrowseForFile(HWND__* owner) = 0;
+    // Makes the file with this identifier the current one.
+    virtual void SelectFile(uint32_t file) = 0;
+};
+
+#undef ZXADLG_CLASS
+#undef ZXADLG_SPECIAL_MEMBERS
+
+extern "C" {
+
+// Normalize: over all points, or between a baseline and a peak region.
+int32_t ZXADLG_CALL ZXADLG_ShowNormalizeDialog(HWND__* parent, ZXADLG_NormalizeOptions* options,
+                                               ZXADLG_DataOptions* data,
+                                               ZXADLG_CDlgDataSource* source,
+                                               const ZXADLG_DlgParams* params);
+
+}  // extern "C"
