@@ -1,0 +1,95 @@
+// Equations against muParser and against the same operations written by hand: one table, each row a
+// ratio of median times of one run, with its target. The rounds of the competitors take turns, so
+// that what else the machine does meets all of them.
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <functional>
+#include <vector>
+
+#include "Competitors.h"
+
+namespace {
+
+constexpr int kPoints = 1000000;
+constexpr int kRounds = 9;
+constexpr int kCompileRounds = 401;
+
+double Seconds(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// The median time of each of the works.
+std::vector<double> Medians(int nRounds, const std::vector<std::function<void()>>& works) {
+    std::vector<std::vector<double>> times(works.size());
+    for (int nRound = 0; nRound < nRounds; ++nRound) {
+        for (std::size_t i = 0; i < works.size(); ++i) times[i].push_back(Seconds(works[i]));
+    }
+    std::vector<double> medians;
+    for (auto& list : times) {
+        std::sort(list.begin(), list.end());
+        medians.push_back(list[list.size() / 2]);
+    }
+    return medians;
+}
+
+bool g_bAllGood = true;
+
+void PrintRow(const char* pszEquation, const char* pszWhat, double dRatio, double dTarget) {
+    const bool bGood = dRatio <= dTarget;
+    g_bAllGood = g_bAllGood && bGood;
+    std::printf("%-24s %-32s %6.3f  %5.2f  %s\n", pszEquation, pszWhat, dRatio, dTarget,
+                bGood ? "ok" : "MISSED");
+}
+
+// A ratio of times says nothing when the results are not those of the same operations.
+bool SameResults(const std::vector<double>& a, const std::vector<double>& b) {
+    return std::memcmp(a.data(), b.data(), a.size() * sizeof(double)) == 0;
+}
+
+void Measure(const Equation& equation) {
+    std::vector<double> x(kPoints);
+    for (int i = 0; i < kPoints; ++i) x[i] = 0.01 + 2.0 * i / kPoints;
+    std::vector<double> points(kPoints), block(kPoints), hand(kPoints), peer(kPoints),
+        bulk(kPoints);
+    const Parameters parameters = BenchmarkParameters();
+    OurCompetitor ours(equation);
+    MuParserCompetitor theirs(equation);
+    MuParserCompetitor theirsBulk(equation);
+
+    const auto t = Medians(
+        kRounds, {[&] { ours.EvaluatePoints(x.data(), points.data(), kPoints); },
+                  [&] { ours.EvaluateBlock(x.data(), block.data(), kPoints); },
+                  [&] { equation.pHandWritten(parameters, x.data(), hand.data(), kPoints); },
+                  [&] { theirs.EvaluatePoints(x.data(), peer.data(), kPoints); },
+                  [&] { theirsBulk.EvaluateBulk(x.data(), bulk.data(), kPoints); }});
+    const auto c = Medians(kCompileRounds, {[&] { OurCompetitor::Compile(equation); },
+                                            [&] { MuParserCompetitor::Compile(equation); }});
+
+    std::printf(
+        "%-24s points %.1f, block %.1f, by hand %.1f, muParser %.1f, its bulk %.1f ns a point; "
+        "compile %.2f, muParser %.2f us\n",
+        equation.pszName, t[0] * 1e9 / kPoints, t[1] * 1e9 / kPoints, t[2] * 1e9 / kPoints,
+        t[3] * 1e9 / kPoints, t[4] * 1e9 / kPoints, c[0] * 1e6, c[1] * 1e6);
+    PrintRow(equation.pszName, "points / muParser", t[0] / t[3], 0.85);
+    PrintRow(equation.pszName, "block / by hand", t[1] / t[2], 1.25);
+    if (equation.bBulkTarget) {
+        PrintRow(equation.pszName, "block / muParser bulk", t[1] / t[4], 0.50);
+    }
+    PrintRow(equation.pszName, "compile / muParser", c[0] / c[1], 0.10);
+    if (!SameResults(points, block) || !SameResults(points, hand)) {
+        g_bAllGood = false;
+        std::printf("%-24s RESULTS DIFFER\n", equation.pszName);
+    }
+}
+
+}  // namespace
+
+int main() {
+    std::printf("%-24s %-32s %6s  %5s\n", "name", "what", "ratio", "target");
+    for (const Equation& equation : kEquations) Measure(equation);
+    return g_bAllGood ? 0 : 1;
+}

@@ -1,0 +1,19 @@
+// The classes of characters that the equation syntax knows. A text is single bytes; bytes above 127
+// are in none of the classes, whatever the locale says.
+#pragma once
+
+#include <string_view>
+
+inline bool IsLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+inline bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+inline char ToUpper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+// The terminator is in no set.
+inline bool IsOneOf(char c, std::string_view set) {
+    return set.find(c) != std::string_view::npos;
+}
