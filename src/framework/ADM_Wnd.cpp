@@ -2,9 +2,15 @@
 
 #include <cstring>
 
+#include "framework/ADM_Dialog.h"
 #include "support/MessageDialog.h"
 
-ADM_Wnd::~ADM_Wnd() = default;
+ADM_Wnd::~ADM_Wnd() {
+    if (m_hWnd == nullptr) return;
+    // A dialog that is still open must not meet this object again.
+    if (ADM_Dialog* pDialog = ADM_Dialog::FromWindow(::GetParent(m_hWnd)))
+        pDialog->ForgetControl(this);
+}
 
 void ADM_Wnd::Attach(HWND hWnd) {
     if (hWnd != nullptr) {

@@ -1,0 +1,36 @@
+#include "framework/MessageFilter.h"
+
+#include "framework/ADM_Dialog.h"
+
+namespace {
+
+HHOOK g_hHook = nullptr;
+int g_nUsers = 0;
+
+LRESULT CALLBACK FilterProc(int nCode, WPARAM wParam, LPARAM lParam) {
+    const LRESULT nNext = CallNextHookEx(g_hHook, nCode, wParam, lParam);
+    if (nCode != MSGF_DIALOGBOX) return nNext;
+    MSG* pMsg = reinterpret_cast<MSG*>(lParam);
+    ADM_Dialog* pDialog = ADM_Dialog::FromWindow(pMsg->hwnd);
+    return pDialog != nullptr && pDialog->PreTranslateMessage(pMsg) ? 1 : nNext;
+}
+
+}  // namespace
+
+void InstallMessageFilter(HWND hDialog) {
+    if (g_nUsers == 0) {
+        g_hHook = SetWindowsHookExA(WH_MSGFILTER, FilterProc, nullptr,
+                                    GetWindowThreadProcessId(hDialog, nullptr));
+    }
+    ++g_nUsers;
+}
+
+void RemoveMessageFilter() {
+    if (g_nUsers == 0 || --g_nUsers > 0) return;
+    if (g_hHook != nullptr) UnhookWindowsHookEx(g_hHook);
+    g_hHook = nullptr;
+}
+
+int MessageFilterUsers() {
+    return g_nUsers;
+}
