@@ -36,6 +36,9 @@ class ProfileText {
     void RemoveKey(std::string_view sSection, std::string_view sKey);
     void RemoveSection(std::string_view sSection);
 
+    // Removes every entry of a section, which is made if it isn't there. Comments stay.
+    void ClearSection(std::string_view sSection);
+
     // Call `visit` with each section's name, or with each entry's key, value and whether it has a
     // "=". Comments and blank lines are left out. EachEntry returns false when there is no such
     // section.
@@ -82,6 +85,7 @@ class ProfileText {
     static Line ReadLine(std::string_view sLine);
 
     Section* FindSection(std::string_view sName);
+    Section* FindOrAddSection(std::string_view sName);
     static void Parse(Section& section);
     static void AddToIndex(Section& section, std::uint32_t uLine);
     static Line* FindLine(Section& section, std::string_view sKey);
@@ -260,20 +264,23 @@ inline std::string_view ProfileText::Keep(std::string_view s) {
     return sKept;
 }
 
+inline ProfileText::Section* ProfileText::FindOrAddSection(std::string_view sName) {
+    if (Section* pSection = FindSection(sName)) return pSection;
+    auto pNew = std::make_unique<Section>();
+    pNew->sName = Keep(Trim(sName));
+    pNew->bParsed = true;
+    m_sections.push_back(std::move(pNew));
+    m_bChanged = true;
+    return m_pLast = m_sections.back().get();
+}
+
 inline void ProfileText::Set(std::string_view sSection, std::string_view sKey,
                              std::string_view sValue) {
     sKey = Trim(sKey);
     if (sKey.empty()) return;
     // Only what a reader will see is kept of the value.
     sValue = Trim(sValue.substr(0, sValue.find_first_of("\r\n")));
-    Section* pSection = FindSection(sSection);
-    if (pSection == nullptr) {
-        auto pNew = std::make_unique<Section>();
-        pNew->sName = Keep(Trim(sSection));
-        pNew->bParsed = true;
-        m_sections.push_back(std::move(pNew));
-        m_pLast = pSection = m_sections.back().get();
-    }
+    Section* pSection = FindOrAddSection(sSection);
     Line* pLine = FindLine(*pSection, sKey);
     if (pLine != nullptr) {
         if (pLine->bHasEqual && pLine->sValue == sValue) return;
@@ -307,6 +314,16 @@ inline void ProfileText::RemoveSection(std::string_view sSection) {
     pSection->bRemoved = true;
     m_pLast = nullptr;
     m_bChanged = true;
+}
+
+inline void ProfileText::ClearSection(std::string_view sSection) {
+    Section* pSection = FindOrAddSection(sSection);
+    if (!pSection->bParsed) Parse(*pSection);
+    for (Line& line : pSection->lines) {
+        if (!line.bEntry || line.bRemoved) continue;
+        line.bRemoved = true;
+        m_bChanged = true;
+    }
 }
 
 template <typename Visit>
