@@ -7,63 +7,38 @@
 
 namespace {
 
+using enum OptionType;
+using Record = ZXADLG_DataOptions;
+
 constexpr OptionKey kDataKeys[] = {
-    {.szKey = "szUnitarySelectionList1",
-     .eType = OptionType::kText,
-     .uOffset = offsetof(ZXADLG_DataOptions, szUnitarySelectionList1),
-     .uSize = 1000},
-    {.szKey = "szUnitarySelectionList2",
-     .eType = OptionType::kText,
-     .uOffset = offsetof(ZXADLG_DataOptions, szUnitarySelectionList2),
-     .uSize = 1000},
-    {.szKey = "szDepVarSelectionList",
-     .eType = OptionType::kText,
-     .uOffset = offsetof(ZXADLG_DataOptions, szDepVarSelectionList),
-     .uSize = 1000,
-     .eUse = OptionUse::kDependent},
-    {"eDataGroup1SelectionMode", OptionType::kInt32,
-     offsetof(ZXADLG_DataOptions, eDataGroup1SelectionMode)},
-    {"eDataGroup2SelectionMode", OptionType::kInt32,
-     offsetof(ZXADLG_DataOptions, eDataGroup2SelectionMode)},
-    {"eDataSet1SelectionMode", OptionType::kInt32,
-     offsetof(ZXADLG_DataOptions, eDataSet1SelectionMode)},
-    {"eDataSet2SelectionMode", OptionType::kInt32,
-     offsetof(ZXADLG_DataOptions, eDataSet2SelectionMode)},
-    {"eAnalysisRegion", OptionType::kInt32, offsetof(ZXADLG_DataOptions, eAnalysisRegion)},
-    {"uGroup1Index", OptionType::kUInt32, offsetof(ZXADLG_DataOptions, uGroup1Index)},
-    {"uGroup2Index", OptionType::kUInt32, offsetof(ZXADLG_DataOptions, uGroup2Index)},
-    {"uPairedGroupIndex", OptionType::kUInt32, offsetof(ZXADLG_DataOptions, uPairedGroupIndex)},
-    {.szKey = "uIndepVarDataSetIndex",
-     .eType = OptionType::kUInt32,
-     .uOffset = offsetof(ZXADLG_DataOptions, uIndepVarDataSetIndex),
-     .eUse = OptionUse::kDependent},
-    {.szKey = "uDepVarDataSetIndex",
-     .eType = OptionType::kUInt32,
-     .uOffset = offsetof(ZXADLG_DataOptions, uDepVarDataSetIndex),
-     .eUse = OptionUse::kDependent},
-    {"uFirstDataIndex", OptionType::kUInt32, offsetof(ZXADLG_DataOptions, uFirstDataIndex)},
-    {"uLastDataIndex", OptionType::kUInt32, offsetof(ZXADLG_DataOptions, uLastDataIndex)},
-    {"uExtrapolationCursor", OptionType::kUInt32,
-     offsetof(ZXADLG_DataOptions, uExtrapolationCursor)},
-    {"uSelectedDataSet", OptionType::kUInt32, offsetof(ZXADLG_DataOptions, uSelectedDataSet)},
-    {"bUseFullDataRange", OptionType::kBool8, offsetof(ZXADLG_DataOptions, bUseFullDataRange)},
-    {"bExtrapolate", OptionType::kBool8, offsetof(ZXADLG_DataOptions, bExtrapolate)},
-    {"bForceExcludedRegionToZero", OptionType::kBool8,
-     offsetof(ZXADLG_DataOptions, bForceExcludedRegionToZero)},
+    Text("szUnitarySelectionList1", offsetof(Record, szUnitarySelectionList1), 1000),
+    Text("szUnitarySelectionList2", offsetof(Record, szUnitarySelectionList2), 1000),
+    Dependent(Text("szDepVarSelectionList", offsetof(Record, szDepVarSelectionList), 1000)),
+    Single("eDataGroup1SelectionMode", kInt32, offsetof(Record, eDataGroup1SelectionMode)),
+    Single("eDataGroup2SelectionMode", kInt32, offsetof(Record, eDataGroup2SelectionMode)),
+    Single("eDataSet1SelectionMode", kInt32, offsetof(Record, eDataSet1SelectionMode)),
+    Single("eDataSet2SelectionMode", kInt32, offsetof(Record, eDataSet2SelectionMode)),
+    Single("eAnalysisRegion", kInt32, offsetof(Record, eAnalysisRegion)),
+    Single("uGroup1Index", kUInt32, offsetof(Record, uGroup1Index)),
+    Single("uGroup2Index", kUInt32, offsetof(Record, uGroup2Index)),
+    Single("uPairedGroupIndex", kUInt32, offsetof(Record, uPairedGroupIndex)),
+    Dependent(Single("uIndepVarDataSetIndex", kUInt32, offsetof(Record, uIndepVarDataSetIndex))),
+    Dependent(Single("uDepVarDataSetIndex", kUInt32, offsetof(Record, uDepVarDataSetIndex))),
+    Single("uFirstDataIndex", kUInt32, offsetof(Record, uFirstDataIndex)),
+    Single("uLastDataIndex", kUInt32, offsetof(Record, uLastDataIndex)),
+    Single("uExtrapolationCursor", kUInt32, offsetof(Record, uExtrapolationCursor)),
+    Single("uSelectedDataSet", kUInt32, offsetof(Record, uSelectedDataSet)),
+    Single("bUseFullDataRange", kBool8, offsetof(Record, bUseFullDataRange)),
+    Single("bExtrapolate", kBool8, offsetof(Record, bExtrapolate)),
+    Single("bForceExcludedRegionToZero", kBool8, offsetof(Record, bForceExcludedRegionToZero)),
 };
 
 constexpr OptionKey kDataIsConstantKeys[] = {
-    {.szKey = "IsConstant%d",
-     .eType = OptionType::kBool8,
-     .uOffset = offsetof(ZXADLG_DataOptions, abIsConstant),
-     .uStride = 1},
+    Repeated("IsConstant%d", kBool8, offsetof(Record, abIsConstant), 1),
 };
 
 constexpr OptionKey kDataConstantKeys[] = {
-    {.szKey = "Constant%d",
-     .eType = OptionType::kDouble,
-     .uOffset = offsetof(ZXADLG_DataOptions, adConstants),
-     .uStride = 8},
+    Repeated("Constant%d", kDouble, offsetof(Record, adConstants), 8),
 };
 
 constexpr OptionBlock kDataBlocks[] = {

@@ -7,72 +7,49 @@
 
 namespace {
 
+using enum OptionType;
+using Record = ZXADLG_SignalProcessingOptions;
+
 constexpr OptionKey kLowpassFilterKeys[] = {
-    {"m_eFilterFamily", OptionType::kInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, lowpass.m_eFilterFamily)},
-    {"m_eFilterType", OptionType::kInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, lowpass.m_eFilterType)},
-    {"m_uNumAveragePoints", OptionType::kUInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, lowpass.m_uNumAveragePoints)},
-    {"m_dCornerFreq", OptionType::kFloatInDouble,
-     offsetof(ZXADLG_SignalProcessingOptions, lowpass.m_dCornerFreq)},
-    {"m_dPrevFilterFreq", OptionType::kFloatInDouble,
-     offsetof(ZXADLG_SignalProcessingOptions, lowpass.m_dPrevFilterFreq)},
-    {"m_bIsSelected", OptionType::kBool8,
-     offsetof(ZXADLG_SignalProcessingOptions, lowpass.m_bIsSelected)},
+    Single("m_eFilterFamily", kInt32, offsetof(Record, lowpass.m_eFilterFamily)),
+    Single("m_eFilterType", kInt32, offsetof(Record, lowpass.m_eFilterType)),
+    Single("m_uNumAveragePoints", kUInt32, offsetof(Record, lowpass.m_uNumAveragePoints)),
+    Single("m_dCornerFreq", kFloatInDouble, offsetof(Record, lowpass.m_dCornerFreq)),
+    Single("m_dPrevFilterFreq", kFloatInDouble, offsetof(Record, lowpass.m_dPrevFilterFreq)),
+    Single("m_bIsSelected", kBool8, offsetof(Record, lowpass.m_bIsSelected)),
 };
 constexpr OptionBlock kLowpassFilterBlocks[] = {{kLowpassFilterKeys}};
 
 constexpr OptionKey kHighpassFilterKeys[] = {
-    {"m_eFilterFamily", OptionType::kInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, highpass.m_eFilterFamily)},
-    {"m_eFilterType", OptionType::kInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, highpass.m_eFilterType)},
-    {"m_uNumAveragePoints", OptionType::kUInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, highpass.m_uNumAveragePoints)},
-    {"m_dCornerFreq", OptionType::kFloatInDouble,
-     offsetof(ZXADLG_SignalProcessingOptions, highpass.m_dCornerFreq)},
-    {"m_dPrevFilterFreq", OptionType::kFloatInDouble,
-     offsetof(ZXADLG_SignalProcessingOptions, highpass.m_dPrevFilterFreq)},
-    {"m_bIsSelected", OptionType::kBool8,
-     offsetof(ZXADLG_SignalProcessingOptions, highpass.m_bIsSelected)},
+    Single("m_eFilterFamily", kInt32, offsetof(Record, highpass.m_eFilterFamily)),
+    Single("m_eFilterType", kInt32, offsetof(Record, highpass.m_eFilterType)),
+    Single("m_uNumAveragePoints", kUInt32, offsetof(Record, highpass.m_uNumAveragePoints)),
+    Single("m_dCornerFreq", kFloatInDouble, offsetof(Record, highpass.m_dCornerFreq)),
+    Single("m_dPrevFilterFreq", kFloatInDouble, offsetof(Record, highpass.m_dPrevFilterFreq)),
+    Single("m_bIsSelected", kBool8, offsetof(Record, highpass.m_bIsSelected)),
 };
 constexpr OptionBlock kHighpassFilterBlocks[] = {{kHighpassFilterKeys}};
 
 constexpr OptionKey kNotchFilterKeys[] = {
-    {"m_eFilterFamily", OptionType::kInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, notch.m_eFilterFamily)},
-    {"m_eFilterType", OptionType::kInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, notch.m_eFilterType)},
-    {"m_dCornerFreq", OptionType::kFloatInDouble,
-     offsetof(ZXADLG_SignalProcessingOptions, notch.m_dCornerFreq)},
-    {"m_dPrevFilterFreq", OptionType::kFloatInDouble,
-     offsetof(ZXADLG_SignalProcessingOptions, notch.m_dPrevFilterFreq)},
-    {"m_d3dbWidth", OptionType::kFloatInDouble,
-     offsetof(ZXADLG_SignalProcessingOptions, notch.m_d3dbWidth)},
-    {"m_bIsSelected", OptionType::kBool8,
-     offsetof(ZXADLG_SignalProcessingOptions, notch.m_bIsSelected)},
+    Single("m_eFilterFamily", kInt32, offsetof(Record, notch.m_eFilterFamily)),
+    Single("m_eFilterType", kInt32, offsetof(Record, notch.m_eFilterType)),
+    Single("m_dCornerFreq", kFloatInDouble, offsetof(Record, notch.m_dCornerFreq)),
+    Single("m_dPrevFilterFreq", kFloatInDouble, offsetof(Record, notch.m_dPrevFilterFreq)),
+    Single("m_d3dbWidth", kFloatInDouble, offsetof(Record, notch.m_d3dbWidth)),
+    Single("m_bIsSelected", kBool8, offsetof(Record, notch.m_bIsSelected)),
 };
 constexpr OptionBlock kNotchFilterBlocks[] = {{kNotchFilterKeys}};
 
 constexpr OptionKey kAdaptiveFilterKeys[] = {
-    {"m_eReferenceGeneration", OptionType::kInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, adaptive.m_eReferenceGeneration)},
+    Single("m_eReferenceGeneration", kInt32, offsetof(Record, adaptive.m_eReferenceGeneration)),
     // The load has always read this key twice.
-    {.szKey = "m_eReferenceGeneration",
-     .eType = OptionType::kInt32,
-     .uOffset = offsetof(ZXADLG_SignalProcessingOptions, adaptive.m_eReferenceGeneration),
-     .eUse = OptionUse::kLoadOnly},
-    {"m_uAveragingCycles", OptionType::kUInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, adaptive.m_uAveragingCycles)},
-    {"m_uHarmonicNumberStart", OptionType::kUInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, adaptive.m_uHarmonicNumberStart)},
-    {"m_uHarmonicNumberEnd", OptionType::kUInt32,
-     offsetof(ZXADLG_SignalProcessingOptions, adaptive.m_uHarmonicNumberEnd)},
-    {"m_bEndEffectCompensation", OptionType::kBool8,
-     offsetof(ZXADLG_SignalProcessingOptions, adaptive.m_bEndEffectCompensation)},
-    {"m_bIsSelected", OptionType::kBool8,
-     offsetof(ZXADLG_SignalProcessingOptions, adaptive.m_bIsSelected)},
+    LoadOnly(Single("m_eReferenceGeneration", kInt32,
+                    offsetof(Record, adaptive.m_eReferenceGeneration))),
+    Single("m_uAveragingCycles", kUInt32, offsetof(Record, adaptive.m_uAveragingCycles)),
+    Single("m_uHarmonicNumberStart", kUInt32, offsetof(Record, adaptive.m_uHarmonicNumberStart)),
+    Single("m_uHarmonicNumberEnd", kUInt32, offsetof(Record, adaptive.m_uHarmonicNumberEnd)),
+    Single("m_bEndEffectCompensation", kBool8, offsetof(Record, adaptive.m_bEndEffectCompensation)),
+    Single("m_bIsSelected", kBool8, offsetof(Record, adaptive.m_bIsSelected)),
 };
 constexpr OptionBlock kAdaptiveFilterBlocks[] = {{kAdaptiveFilterKeys}};
 

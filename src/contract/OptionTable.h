@@ -4,6 +4,7 @@
 // host's record holds them. Nothing is reported; a failed write is dropped.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -35,6 +36,49 @@ struct OptionKey {
     std::uint32_t uInnerStride = 0;
     OptionUse eUse = OptionUse::kBoth;
 };
+
+// The rows of a table, so that it reads as one.
+constexpr OptionKey Single(const char* szKey, OptionType eType, std::size_t uOffset) {
+    return {.szKey = szKey, .eType = eType, .uOffset = static_cast<std::uint32_t>(uOffset)};
+}
+constexpr OptionKey Text(const char* szKey, std::size_t uOffset, std::uint32_t uSize) {
+    OptionKey key = Single(szKey, OptionType::kText, uOffset);
+    key.uSize = uSize;
+    return key;
+}
+constexpr OptionKey Repeated(const char* szKey, OptionType eType, std::size_t uOffset,
+                             std::uint32_t uStride) {
+    OptionKey key = Single(szKey, eType, uOffset);
+    key.uStride = uStride;
+    return key;
+}
+constexpr OptionKey RepeatedText(const char* szKey, std::size_t uOffset, std::uint32_t uSize,
+                                 std::uint32_t uStride) {
+    OptionKey key = Text(szKey, uOffset, uSize);
+    key.uStride = uStride;
+    return key;
+}
+constexpr OptionKey RepeatedTwice(const char* szKey, OptionType eType, std::size_t uOffset,
+                                  std::uint32_t uStride, std::uint32_t uInner,
+                                  std::uint32_t uInnerStride) {
+    OptionKey key = Repeated(szKey, eType, uOffset, uStride);
+    key.uInner = uInner;
+    key.uInnerStride = uInnerStride;
+    return key;
+}
+constexpr OptionKey WithUse(OptionKey key, OptionUse eUse) {
+    key.eUse = eUse;
+    return key;
+}
+constexpr OptionKey SaveOnly(OptionKey key) {
+    return WithUse(key, OptionUse::kSaveOnly);
+}
+constexpr OptionKey LoadOnly(OptionKey key) {
+    return WithUse(key, OptionUse::kLoadOnly);
+}
+constexpr OptionKey Dependent(OptionKey key) {
+    return WithUse(key, OptionUse::kDependent);
+}
 
 // Keys that are walked uRepeat times in turn.
 struct OptionBlock {
