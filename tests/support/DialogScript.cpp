@@ -17,6 +17,8 @@ constexpr DWORD kHardLimitMargin = 40000;  // ms that a failed script has to end
 constexpr unsigned kIdleTicksAtEnd = 30;   // ticks that a dialog may stay open after the last step
 constexpr unsigned kTicksToEnd = 100;      // ticks until a dialog that does not end is destroyed
 
+const char kMenuClass[] = "#32768";
+
 // Scripts may nest (a step may run a script of its own); timers go to the innermost.
 DialogScript* innermost = nullptr;
 
@@ -85,8 +87,7 @@ DialogScript& DialogScript::AddForNewDialog(const std::string& name, Where where
     return *this;
 }
 
-// --- Input
-// ----------------------------------------------------------------------------------------
+// --- Input ---
 
 HWND DialogScript::Control(HWND dialog, int id, bool forInput) {
     HWND control = FindControl(dialog, id);
@@ -328,8 +329,7 @@ DialogScript& DialogScript::CloseByFrame(Where where) {
     });
 }
 
-// --- Dialogs on top
-// -------------------------------------------------------------------------------
+// --- Dialogs on top ---
 
 DialogScript& DialogScript::Answer(int answer, Where where) {
     return AddForNewDialog(
@@ -368,93 +368,7 @@ DialogScript& DialogScript::EnterDialog(Where where) {
     });
 }
 
-// --- Expectations
-// ---------------------------------------------------------------------------------
-
-namespace {
-
-template <class T>
-void ExpectSame(const T& seen, const T& wanted, int id, const char* what,
-                const std::source_location& where) {
-    if (seen == wanted) return;
-    ADD_FAILURE_AT(where.file_name(), static_cast<int>(where.line()))
-        << "Control " << id << ": its " << what << " is " << testing::PrintToString(seen)
-        << " and should be " << testing::PrintToString(wanted);
-}
-
-}  // namespace
-
-DialogScript& DialogScript::ExpectText(int id, const std::string& text, Where where) {
-    return Add("ExpectText", where, [id, text, where](DialogScript& script, HWND dialog) {
-        if (HWND control = script.Control(dialog, id, false))
-            ExpectSame(TextOf(control), text, id, "text", where);
-        return State::kDone;
-    });
-}
-
-DialogScript& DialogScript::ExpectEnabled(int id, bool enabled, Where where) {
-    return Add("ExpectEnabled", where, [id, enabled, where](DialogScript& script, HWND dialog) {
-        if (HWND control = script.Control(dialog, id, false))
-            ExpectSame(IsWindowEnabled(control) != FALSE, enabled, id, "enabled state", where);
-        return State::kDone;
-    });
-}
-
-DialogScript& DialogScript::ExpectVisible(int id, bool visible, Where where) {
-    return Add("ExpectVisible", where, [id, visible, where](DialogScript& script, HWND dialog) {
-        if (HWND control = script.Control(dialog, id, false))
-            ExpectSame(IsWindowVisible(control) != FALSE, visible, id, "visibility", where);
-        return State::kDone;
-    });
-}
-
-DialogScript& DialogScript::ExpectChecked(int id, UINT state, Where where) {
-    return Add("ExpectChecked", where, [id, state, where](DialogScript& script, HWND dialog) {
-        if (HWND control = script.Control(dialog, id, false))
-            ExpectSame(static_cast<UINT>(SendMessageA(control, BM_GETCHECK, 0, 0)), state, id,
-                       "check state", where);
-        return State::kDone;
-    });
-}
-
-DialogScript& DialogScript::ExpectFocus(int id, Where where) {
-    return Add("ExpectFocus", where, [id, where](DialogScript& script, HWND dialog) {
-        HWND control = script.Control(dialog, id, false);
-        HWND focus = GetFocus();
-        if (control && focus != control && !IsChild(control, focus))
-            ADD_FAILURE_AT(where.file_name(), static_cast<int>(where.line()))
-                << "The focus should be on " << id << " and is on "
-                << (focus ? GetDlgCtrlID(focus) : -1) << " " << ClassOf(focus);
-        return State::kDone;
-    });
-}
-
-DialogScript& DialogScript::ExpectSelected(int id, const std::string& text, Where where) {
-    return Add("ExpectSelected", where, [id, text, where](DialogScript& script, HWND dialog) {
-        if (HWND control = script.Control(dialog, id, false))
-            ExpectSame(SelectedText(control), text, id, "selected item", where);
-        return State::kDone;
-    });
-}
-
-DialogScript& DialogScript::ExpectItems(int id, const std::vector<std::string>& items,
-                                        Where where) {
-    return Add("ExpectItems", where, [id, items, where](DialogScript& script, HWND dialog) {
-        if (HWND control = script.Control(dialog, id, false))
-            ExpectSame(ItemsOf(control), items, id, "items", where);
-        return State::kDone;
-    });
-}
-
-DialogScript& DialogScript::ExpectTitle(const std::string& title, Where where) {
-    return Add("ExpectTitle", where, [title, where](DialogScript&, HWND dialog) {
-        ExpectSame(TextOf(dialog), title, 0, "title", where);
-        return State::kDone;
-    });
-}
-
-// --- Waiting
-// --------------------------------------------------------------------------------------
+// --- Waiting ---
 
 DialogScript& DialogScript::WaitUntil(std::function<bool()> condition, Where where) {
     return Add("WaitUntil", where, [condition](DialogScript& script, HWND) {
@@ -475,8 +389,7 @@ bool DialogScript::StepIsLate() const {
     return GetTickCount() - stepTime_ > kStepLimit;
 }
 
-// --- Running
-// --------------------------------------------------------------------------------------
+// --- Running ---
 
 void DialogScript::Begin(Where where) {
     running_ = {"start", where, nullptr, false};
@@ -605,7 +518,10 @@ void DialogScript::EndAllDialogs() {
             DestroyWindow(hwnd);
     }
     const HWND active = ActiveDialog();
-    if (active && ClassOf(active) != "#32770") PostMessageA(active, WM_CLOSE, 0, 0);
+    if (active && ClassOf(active) == kMenuClass)
+        PostMessageA(active, WM_KEYDOWN, VK_ESCAPE, 0);
+    else if (active && ClassOf(active) != "#32770")
+        PostMessageA(active, WM_CLOSE, 0, 0);
     // A loop that waits for a message ends only when one comes.
     PostMessageA(nullptr, WM_NULL, 0, 0);
     if (endingTicks_ > 2 * kTicksToEnd) PostQuitMessage(IDCANCEL);

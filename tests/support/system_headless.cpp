@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/headless/diagnostics.h"
+#include "support/KnownGap.h"
 #include "support/system.h"
 
 namespace test_support {
@@ -34,6 +35,10 @@ std::vector<std::string> TakeSystemFaults() {
     for (const std::string& what : headless::TakeUnsupported())
         faults.push_back("The headless system does not support: " + what);
     return faults;
+}
+
+TestSystem CurrentSystem() {
+    return TestSystem::kHeadless;
 }
 
 bool IsSystemWindowClass(const char*) {

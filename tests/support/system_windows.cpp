@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "support/KnownGap.h"
 #include "support/system.h"
 
 namespace test_support {
@@ -99,6 +100,10 @@ std::vector<std::string> TakeSystemFaults() {
     if (heap != _HEAPOK && heap != _HEAPEMPTY)
         faults.push_back("The heap is damaged: _heapchk gives " + std::to_string(heap));
     return faults;
+}
+
+TestSystem CurrentSystem() {
+    return RunsUnderWine() ? TestSystem::kWine : TestSystem::kWindows;
 }
 
 bool IsSystemWindowClass(const char* className) {
