@@ -83,6 +83,11 @@ def main():
         flat = os.path.join(scratch, "flat.rc")
         subprocess.run(["i686-w64-mingw32-cpp", "-P", "-DRC_INVOKED", "-I", root, "-I", folder, script, "-o", flat],
                        check=True, cwd=folder)
+        # One compiler ignores the code page pragma, and stops at it where nothing preprocesses.
+        with open(flat, encoding="utf-8") as source:
+            lines = [line for line in source if not line.startswith("#")]
+        with open(flat, "w", encoding="utf-8") as target:
+            target.writelines(lines)
         subprocess.run(["llvm-rc", "/no-preprocess", "/C", "65001", "/I", root, "/I", folder, "/FO", llvm, flat],
                        check=True, cwd=folder)
         first, second = resources(gnu), resources(llvm)
