@@ -13,7 +13,15 @@ inline bool IsDigit(char c) {
 inline char ToUpper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
-// The terminator is in no set.
-inline bool IsOneOf(char c, std::string_view set) {
-    return set.find(c) != std::string_view::npos;
-}
+
+// A set of characters, asked in one step. The terminator is in no set.
+class CharacterSet {
+  public:
+    constexpr explicit CharacterSet(std::string_view characters) {
+        for (char c : characters) m_bHas[static_cast<unsigned char>(c)] = true;
+    }
+    constexpr bool Has(char c) const { return m_bHas[static_cast<unsigned char>(c)]; }
+
+  private:
+    bool m_bHas[256] = {};
+};

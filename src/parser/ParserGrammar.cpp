@@ -21,6 +21,8 @@
 
 namespace {
 
+constexpr CharacterSet kAfterParentheses(" +-*/%^)");
+
 double ReadNumber(const char* pszNumber) {
     double dValue = 0.0;
     std::from_chars(pszNumber, pszNumber + std::strlen(pszNumber), dValue);
@@ -138,7 +140,7 @@ bool CZDCParser::ParsePrimary() {
     Emit(OPCODE_PARENTHESES, nInner).dValue = dValue;
     if (!Next()) return false;
     // The space among them is no delimiter, but it is the token of NORM, whose opcode has its code.
-    if (m_szToken[0] != '\0' && !IsOneOf(m_szToken[0], " +-*/%^)")) {
+    if (m_szToken[0] != '\0' && !kAfterParentheses.Has(m_szToken[0])) {
         return Fail(PARSER_MISSING_OPERATOR);
     }
     return true;

@@ -1,12 +1,13 @@
 // The form of one compiled equation that evaluation runs on: the steps in a straight line, without
-// the recursion, with every distinct operation once and with what depends on parameters and numbers
-// only computed once per change of a parameter. It is derived from the steps after a compilation
-// and changes no bit of a result: each operation is the one that the step walk does, on the same
-// operands.
+// the recursion, with every distinct operation once, with what depends on parameters and numbers
+// only computed once per change of a parameter, and with equal operations side by side. It is
+// derived from the steps after a compilation and changes no bit of a result: each operation is the
+// one that the step walk does, on the same operands.
 //
 // An equation has a program when it names independent variables and parameters only. The program
-// looks into the parser's steps and variables and writes the value of every step, as the walk does;
-// it must be cleared when these move. It allocates in Build and nowhere else.
+// looks into the parser's steps and variables and must be cleared when these move. It leaves the
+// value of every step as the walk does, once BringUpToDate has been called. It allocates in Build
+// and nowhere else.
 #pragma once
 
 #include <cstddef>
@@ -21,11 +22,13 @@ class CParserProgram {
     // Derives the program of a dependent variable's equation, or leaves none when it needs the
     // walk.
     void Build(CZDCParser& parser, int nVariable);
-    void Clear() { m_nVariable = -1; }
+    void Clear();
 
     // The variable that the program evaluates, -1 without a program.
     int DependentVariable() const { return m_nVariable; }
     void ParametersChanged() { m_bParametersChanged = true; }
+    // Gives the steps that only repeat another value theirs.
+    void BringUpToDate() const;
 
     // Evaluates at the present values of the variables.
     double Run(const CZDCParser& parser);
@@ -43,11 +46,24 @@ class CParserProgram {
   private:
     class CBuilder;
 
+    // An operation at one point: all of a run have the same opcode.
+    struct Operation {
+        double* pResult;  // the step's value
+        const double* pLeft;
+        const double* pRight;
+        double* pState;  // the history slot of the step's argument
+    };
+    struct OperationRun {
+        int eOpcode;
+        int nCount;
+    };
+    // The opcode of a run of terms: each is a power, the product on it and the sum on that.
+    static constexpr int RUN_TERMS = 64;
     // What an operand or a result is during a block.
     enum Place : unsigned char {
         PLACE_SCALAR,  // the same for all points
         PLACE_INPUT,   // an independent variable's array
-        PLACE_ROW,     // a row of CHUNK values in the scratch memory
+        PLACE_ROW,     // a row of CHUNK values in the memory
         PLACE_RESULT,  // the caller's results
     };
     struct Operand {
@@ -55,19 +71,30 @@ class CParserProgram {
         Place ePlace = PLACE_SCALAR;
         short nIndex = 0;  // of the input or the row
     };
+    // An operation at all points of a chunk. An exponential does the light operations around it as
+    // well: offset + scale * exp((-)left (*|/) inner).
     struct Instruction {
         Operand left;
         Operand right;
-        double* pResult = nullptr;  // the step's value
-        double* pState = nullptr;   // the history slot of the step's argument
+        double* pState = nullptr;
+        const double* pInner = nullptr;
+        const double* pScale = nullptr;
+        const double* pOffset = nullptr;
         Place eResultPlace = PLACE_ROW;
         unsigned char eOpcode = 0;
+        unsigned char eInner = 0;
+        bool bNegate = false;
         short nResultRow = 0;
     };
     // A step that has the value of a variable or of an equal step.
     struct Copy {
         const double* pFrom;
         double* pTo;
+    };
+    // An independent variable that the equation names.
+    struct Input {
+        int nVariable;
+        const double* pValue;
     };
     // One pass of a block.
     struct Chunk {
@@ -78,28 +105,42 @@ class CParserProgram {
         int nPoints;
     };
 
-    void RunInstructions(const CZDCParser& parser, std::size_t nFirst, std::size_t nEnd);
+    // The value last computed, and where it stands.
+    struct Handed {
+        const double* pFrom;
+        double dValue;
+    };
+    static Handed RunOperations(const CZDCParser& parser, const Operation* pOperation,
+                                const OperationRun* pRun, const OperationRun* pEnd, Handed handed);
     void RunParameters(const CZDCParser& parser);
     void RunChunk(const Chunk& chunk);
+    static void RunExponential(const Instruction& instruction, const double* pArgument,
+                               double* pResult, int n);
     void RunFunction(const Chunk& chunk, const Instruction& instruction, double* pResult);
-    double* Row(int nRow) { return m_pRows.get() + static_cast<std::size_t>(nRow) * CHUNK; }
+    double* Row(int nRow) { return m_pRows + static_cast<std::size_t>(nRow) * CHUNK; }
     // The array of an operand; one value is spread over the row kept for that.
     const double* Array(const Chunk& chunk, const Operand& operand);
 
     int m_nVariable = -1;
     bool m_bParametersChanged = true;
-    // Instructions and copies: first those that depend on parameters and numbers only, up to the
-    // counts.
-    std::vector<Instruction> m_Instructions;
-    std::size_t m_nParameterInstructions = 0;
+    mutable bool m_bCopiesDue = false;
+    // Operations, runs and copies: first those that depend on parameters and numbers only, up to
+    // the counts.
+    std::vector<Operation> m_Operations;
+    std::vector<OperationRun> m_Runs;
     std::vector<Copy> m_Copies;
+    std::size_t m_nParameterOperations = 0;
+    std::size_t m_nParameterRuns = 0;
     std::size_t m_nParameterCopies = 0;
+    std::vector<Instruction> m_Instructions;
     Operand m_Root;
     double* m_pAssigned = nullptr;  // the value of the assignment step
     double* m_pVariable = nullptr;  // the value of the dependent variable
-    std::vector<int> m_Inputs;      // the independent variables that the equation names
+    std::vector<Input> m_Inputs;
     std::vector<double*> m_States;  // the history slots in use
-    std::vector<double> m_SavedStates;
-    std::unique_ptr<double[]> m_pRows;
+    // The values of the inputs, a copy of the history, and the rows.
+    std::unique_ptr<double[]> m_pMemory;
+    double* m_pSavedStates = nullptr;
+    double* m_pRows = nullptr;
     int m_nSpreadRow = 0;
 };

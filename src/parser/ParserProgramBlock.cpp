@@ -43,8 +43,8 @@ bool HasNonFinite(const double* p, int n) {
 }  // namespace
 
 bool CParserProgram::HasInputs(const ParserBlock& block) const {
-    for (int v : m_Inputs) {
-        if (!block.ppIndependent || !block.ppIndependent[v]) return false;
+    for (const Input& input : m_Inputs) {
+        if (!block.ppIndependent || !block.ppIndependent[input.nVariable]) return false;
     }
     return true;
 }
@@ -63,6 +63,38 @@ const double* CParserProgram::Array(const Chunk& chunk, const Operand& operand) 
     double* pSpread = Row(m_nSpreadRow);
     for (int i = 0; i < chunk.nPoints; ++i) pSpread[i] = *operand.pScalar;
     return pSpread;
+}
+
+void CParserProgram::RunExponential(const Instruction& instruction, const double* pArgument,
+                                    double* pResult, int n) {
+    const double dInner = instruction.pInner ? *instruction.pInner : 0.0;
+    const double dScale = instruction.pScale ? *instruction.pScale : 0.0;
+    const double dOffset = instruction.pOffset ? *instruction.pOffset : 0.0;
+    // One loop for each form: what is done before, then what is done behind.
+    const auto mapBehind = [&](auto before) {
+        if (instruction.pOffset) {
+            Map(pArgument, pResult, n,
+                [=](double x) { return dScale * std::exp(before(x)) + dOffset; });
+        } else if (instruction.pScale) {
+            Map(pArgument, pResult, n, [=](double x) { return dScale * std::exp(before(x)); });
+        } else {
+            Map(pArgument, pResult, n, [=](double x) { return std::exp(before(x)); });
+        }
+    };
+    const auto mapInner = [&](auto sign) {
+        if (instruction.eInner == OPCODE_DIVIDE) {
+            mapBehind([=](double x) { return sign(x) / dInner; });
+        } else if (instruction.eInner == OPCODE_MULTIPLY) {
+            mapBehind([=](double x) { return sign(x) * dInner; });
+        } else {
+            mapBehind(sign);
+        }
+    };
+    if (instruction.bNegate) {
+        mapInner([](double x) { return -x; });
+    } else {
+        mapInner([](double x) { return x; });
+    }
 }
 
 void CParserProgram::RunFunction(const Chunk& chunk, const Instruction& instruction,
@@ -86,7 +118,7 @@ void CParserProgram::RunFunction(const Chunk& chunk, const Instruction& instruct
         case OPCODE_COS:
             return Map(pArgument, pResult, n, [](double x) { return Cosine(x); });
         case OPCODE_EXP:
-            return Map(pArgument, pResult, n, [](double x) { return std::exp(x); });
+            return RunExponential(instruction, pArgument, pResult, n);
         case OPCODE_LN:
             return Map(pArgument, pResult, n, [](double x) { return std::log(x); });
         case OPCODE_LOG:
@@ -121,8 +153,7 @@ void CParserProgram::RunFunction(const Chunk& chunk, const Instruction& instruct
 
 void CParserProgram::RunChunk(const Chunk& chunk) {
     const int n = chunk.nPoints;
-    for (std::size_t i = m_nParameterInstructions; i < m_Instructions.size(); ++i) {
-        const Instruction& instruction = m_Instructions[i];
+    for (const Instruction& instruction : m_Instructions) {
         double* pResult =
             instruction.eResultPlace == PLACE_RESULT ? chunk.pResults : Row(instruction.nResultRow);
         if (instruction.eOpcode < OPCODE_MULTIPLY || instruction.eOpcode > OPCODE_SUBTRACT) {
@@ -167,13 +198,13 @@ int CParserProgram::RunBlock(const CZDCParser& parser, const ParserBlock& block,
         const int nRest = nPoints - nDone;
         Chunk chunk{parser, block, pResults + nFirst + nDone, nFirst + nDone,
                     nRest < CHUNK ? nRest : CHUNK};
-        for (std::size_t i = 0; i < m_States.size(); ++i) m_SavedStates[i] = *m_States[i];
+        for (std::size_t i = 0; i < m_States.size(); ++i) m_pSavedStates[i] = *m_States[i];
         RunChunk(chunk);
         if (!HasNonFinite(chunk.pResults, chunk.nPoints)) continue;
         // Stop before the bad point, with the history as it stood there.
         int nGood = 0;
         while (std::isfinite(chunk.pResults[nGood])) ++nGood;
-        for (std::size_t i = 0; i < m_States.size(); ++i) *m_States[i] = m_SavedStates[i];
+        for (std::size_t i = 0; i < m_States.size(); ++i) *m_States[i] = m_pSavedStates[i];
         chunk.nPoints = nGood;
         RunChunk(chunk);
         return nDone + nGood;

@@ -1,4 +1,5 @@
 // Derives the program from the steps of one equation.
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 
@@ -17,22 +18,29 @@ class CParserProgram::CBuilder {
         while (HasOperand(Step(m_nFirst))) m_nFirst = Step(m_nFirst).nOperand1;
     }
 
-    bool Build() {
-        const int nSteps = m_nRoot - m_nFirst + 1;
-        if (nSteps > MAX_STEPS || !NumberValues()) return false;
-        FindLastUses();
-        m_Program.m_Instructions.clear();
+    void Build() {
+        m_nSteps = m_nRoot - m_nFirst + 1;
+        if (m_nSteps > MAX_STEPS || !NumberValues()) return;
+        FindUses();
+        FuseTerms();
+        FuseExponentials();
+        PlaceMemory();
         m_Program.m_Copies.clear();
-        m_Program.m_Inputs.clear();
-        m_Program.m_States.clear();
-        m_Program.m_Instructions.reserve(m_nInstructions);
-        m_Program.m_Copies.reserve(nSteps);
-        Write(true);
-        m_Program.m_nParameterInstructions = m_Program.m_Instructions.size();
+        m_Program.m_Copies.reserve(static_cast<std::size_t>(m_nSteps));
+        m_Program.m_Operations.clear();
+        m_Program.m_Operations.reserve(static_cast<std::size_t>(m_nInstructions));
+        m_Program.m_Runs.clear();
+        m_Program.m_Runs.reserve(static_cast<std::size_t>(m_nInstructions));
+        WriteCopies(true);
+        WriteOperations(true);
         m_Program.m_nParameterCopies = m_Program.m_Copies.size();
-        Write(false);
+        m_Program.m_nParameterOperations = m_Program.m_Operations.size();
+        m_Program.m_nParameterRuns = m_Program.m_Runs.size();
+        m_nPartRuns = m_Program.m_nParameterRuns;
+        WriteCopies(false);
+        WriteOperations(false);
+        WriteInstructions();
         Finish();
-        return true;
     }
 
   private:
@@ -41,10 +49,29 @@ class CParserProgram::CBuilder {
 
     // What is known of a step, by its place in the equation.
     struct Value {
-        short nSame;      // the first step of the same value
-        short nLastUse;   // the last step that reads that value
-        short nRow;       // its row in a block
-        bool bParameter;  // it depends on parameters and numbers only
+        short nSame;          // the first step of the same value
+        short nLastUse;       // the last operation that reads that value
+        short nUses;          // how many do
+        short nRow;           // its row in a block, or the place of its input
+        short nLevel;         // 0 for an operand, else one more than its operands have
+        short nNext;          // the next operation of the level
+        bool bParameter;      // it depends on parameters and numbers only
+        bool bTerm;           // a sum that does the product and the power on its right as well
+        bool bInTerm;         // one of these two
+        bool bInExponential;  // done in the block by the operation that m_Fused tells
+        short nFused;         // the place in m_Fused, -1 for none
+    };
+
+    // An exponential with the operations around it, in the order in which they are done.
+    struct Fused {
+        int nArgument;
+        bool bNegate;
+        int eInner;  // OPCODE_DIVIDE or OPCODE_MULTIPLY by the inner value, or 0
+        int nInner;
+        bool bScale;
+        int nScale;
+        bool bOffset;
+        int nOffset;
     };
 
     static bool HasOperand(const ParserStep& step) {
@@ -73,14 +100,23 @@ class CParserProgram::CBuilder {
     // Gives every step the first step of the same value; false when the equation needs the walk.
     bool NumberValues() {
         for (short& n : m_Table) n = -1;
+        m_Program.m_Inputs.clear();
+        m_Program.m_States.clear();
         for (int i = m_nFirst; i <= m_nRoot; ++i) {
-            const ParserStep& step = Step(i);
+            ParserStep& step = Step(i);
             Value& value = At(i);
+            value = {};
             value.nSame = static_cast<short>(i - m_nFirst);
+            value.nFused = -1;
             if (step.eOpcode == OPCODE_VARIABLE) {
                 if (step.nVariable >= m_Parser.FirstDependent()) return false;
                 value.bParameter = step.nVariable >= m_Parser.m_nIndependent;
                 ShareValue(i, step.eOpcode, step.nVariable, 0);
+                if (!value.bParameter && Same(i) == i) {
+                    value.nRow = static_cast<short>(m_Program.m_Inputs.size());
+                    m_Program.m_Inputs.push_back(
+                        {step.nVariable, &m_Parser.m_Variables[step.nVariable].dValue});
+                }
             } else if (step.eOpcode == OPCODE_NUMBER) {
                 value.bParameter = true;
                 const auto uBits = std::bit_cast<std::uint64_t>(step.dValue);
@@ -89,16 +125,24 @@ class CParserProgram::CBuilder {
             } else if (step.eOpcode == OPCODE_PARENTHESES) {
                 value = At(step.nOperand1);
             } else {
-                const bool bTwo = HasTwoOperands(step);
-                const int nLeft = Same(step.nOperand1);
-                const int nRight = bTwo ? Same(step.nOperand2) : 0;
-                value.bParameter = At(nLeft).bParameter && (!bTwo || At(nRight).bParameter) &&
-                                   !HasHistory(step) && !FollowsSettings(step);
-                if (!HasHistory(step)) ShareValue(i, step.eOpcode, nLeft, nRight);
-                if (Same(i) == i) ++m_nInstructions;
+                NumberOperation(i, step, value);
             }
         }
         return true;
+    }
+
+    void NumberOperation(int nStep, const ParserStep& step, Value& value) {
+        const bool bTwo = HasTwoOperands(step);
+        const int nLeft = Same(step.nOperand1);
+        const int nRight = bTwo ? Same(step.nOperand2) : nLeft;
+        value.bParameter = At(nLeft).bParameter && At(nRight).bParameter && !HasHistory(step) &&
+                           !FollowsSettings(step);
+        if (HasHistory(step)) {
+            m_Program.m_States.push_back(&Step(step.nOperand1).dState);
+        } else {
+            ShareValue(nStep, step.eOpcode, nLeft, nRight);
+        }
+        if (Same(nStep) == nStep) ++m_nInstructions;
     }
 
     // Looks an operation on given operands up among the earlier ones.
@@ -119,27 +163,134 @@ class CParserProgram::CBuilder {
         }
     }
 
-    void FindLastUses() {
+    void FindUses() {
         for (int i = m_nFirst; i <= m_nRoot; ++i) {
             if (!IsInstruction(i)) continue;
-            At(i).nLastUse = -1;
-            const short nUse = static_cast<short>(i - m_nFirst);
-            At(Same(Step(i).nOperand1)).nLastUse = nUse;
-            if (HasTwoOperands(Step(i))) At(Same(Step(i).nOperand2)).nLastUse = nUse;
+            Use(Same(Step(i).nOperand1), i);
+            if (HasTwoOperands(Step(i))) Use(Same(Step(i).nOperand2), i);
         }
+    }
+    void Use(int nStep, int nUser) {
+        Value& value = At(nStep);
+        value.nLastUse = static_cast<short>(nUser - m_nFirst);
+        ++value.nUses;
+    }
+
+    // An operation on something variable that only one other reads, and that does no other's work.
+    bool IsPassed(int nStep, int eOpcode) {
+        return Step(nStep).eOpcode == eOpcode && At(nStep).nUses == 1 && !At(nStep).bParameter &&
+               At(nStep).nFused < 0;
+    }
+    int Left(int nStep) { return Same(Step(nStep).nOperand1); }
+    int Right(int nStep) { return Same(Step(nStep).nOperand2); }
+    short LevelOf(int nStep) { return At(nStep).nLevel; }
+
+    // Finds the terms of polynomials, sum + factor * base ^ exponent, and gives all operations
+    // their level.
+    void FuseTerms() {
+        for (int i = m_nFirst; i <= m_nRoot; ++i) {
+            if (!IsInstruction(i)) continue;
+            Value& value = At(i);
+            value.nLevel = LevelOf(Left(i));
+            if (!HasTwoOperands(Step(i))) {
+                ++value.nLevel;
+                continue;
+            }
+            const int nRight = Right(i);
+            if (Step(i).eOpcode == OPCODE_ADD && IsPassed(nRight, OPCODE_MULTIPLY) &&
+                IsPassed(Right(nRight), OPCODE_POWER)) {
+                const int nPower = Right(nRight);
+                value.bTerm = true;
+                At(nRight).bInTerm = true;
+                At(nPower).bInTerm = true;
+                value.nLevel = std::max({value.nLevel, LevelOf(Left(nRight)), LevelOf(Left(nPower)),
+                                         LevelOf(Right(nPower))});
+            } else {
+                value.nLevel = std::max(value.nLevel, LevelOf(nRight));
+            }
+            ++value.nLevel;
+        }
+    }
+
+    // Finds the exponentials of scaled arguments, with a scale and an offset behind them: in a
+    // block their light operations cost nothing beside the heavy one.
+    void FuseExponentials() {
+        for (int i = m_nFirst; i <= m_nRoot; ++i) {
+            if (!IsInstruction(i) || At(i).bParameter || Step(i).eOpcode != OPCODE_EXP) continue;
+            Fused fused{};
+            int nArgument = Left(i);
+            const auto absorb = [&](int nStep) { At(nStep).bInExponential = true; };
+            for (int eOpcode : {OPCODE_DIVIDE, OPCODE_MULTIPLY}) {
+                if (!IsPassed(nArgument, eOpcode) || !At(Right(nArgument)).bParameter) continue;
+                fused.eInner = eOpcode;
+                fused.nInner = Right(nArgument);
+                absorb(nArgument);
+                nArgument = Left(nArgument);
+                break;
+            }
+            if (IsPassed(nArgument, OPCODE_NEGATE)) {
+                fused.bNegate = true;
+                absorb(nArgument);
+                nArgument = Left(nArgument);
+            }
+            fused.nArgument = nArgument;
+            int nHead = i;
+            if (const int nUser = UserWithParameter(nHead, OPCODE_MULTIPLY, fused.nScale)) {
+                absorb(nHead);
+                nHead = nUser;
+                fused.bScale = true;
+                if (const int nSum = UserWithParameter(nHead, OPCODE_ADD, fused.nOffset)) {
+                    absorb(nHead);
+                    nHead = nSum;
+                    fused.bOffset = true;
+                }
+            }
+            Value& argument = At(nArgument);
+            argument.nLastUse = std::max(argument.nLastUse, static_cast<short>(nHead - m_nFirst));
+            At(nHead).nFused = m_nFused;
+            m_Fused[m_nFused++] = fused;
+        }
+    }
+
+    // The only reader of a step, if it has this opcode and a parameter's value on its other side;
+    // else 0.
+    int UserWithParameter(int nStep, int eOpcode, int& nOther) {
+        if (At(nStep).nUses != 1) return 0;
+        const int nUser = At(nStep).nLastUse + m_nFirst;
+        if (Step(nUser).eOpcode != eOpcode) return 0;
+        nOther = Left(nUser) == nStep ? Right(nUser) : Left(nUser);
+        return At(nOther).bParameter ? nUser : 0;
+    }
+
+    // One piece of memory: the inputs, the copy of the history, the rows.
+    void PlaceMemory() {
+        const std::size_t nInputs = m_Program.m_Inputs.size();
+        const std::size_t nStates = m_Program.m_States.size();
+        const std::size_t nRows = CountRows() + 1;
+        m_Program.m_pMemory =
+            std::make_unique_for_overwrite<double[]>(nInputs + nStates + nRows * CHUNK);
+        m_Program.m_pSavedStates = m_Program.m_pMemory.get() + nInputs;
+        m_Program.m_pRows = m_Program.m_pSavedStates + nStates;
+        m_Program.m_nSpreadRow = static_cast<int>(nRows) - 1;
+    }
+
+    // The value of a step outside a block.
+    const double* ValueOf(int nStep) {
+        const int nSame = Same(nStep);
+        ParserStep& step = Step(nSame);
+        if (step.eOpcode != OPCODE_VARIABLE) return &step.dValue;
+        if (At(nSame).bParameter) return &m_Parser.m_Variables[step.nVariable].dValue;
+        return m_Program.m_pMemory.get() + At(nSame).nRow;
     }
 
     Operand OperandOf(int nStep) {
         const int nSame = Same(nStep);
-        ParserStep& step = Step(nSame);
         Operand operand;
-        operand.pScalar = step.eOpcode == OPCODE_VARIABLE
-                              ? &m_Parser.m_Variables[step.nVariable].dValue
-                              : &step.dValue;
+        operand.pScalar = ValueOf(nStep);
         if (At(nSame).bParameter) return operand;
-        if (step.eOpcode == OPCODE_VARIABLE) {
+        if (Step(nSame).eOpcode == OPCODE_VARIABLE) {
             operand.ePlace = PLACE_INPUT;
-            operand.nIndex = static_cast<short>(step.nVariable);
+            operand.nIndex = static_cast<short>(Step(nSame).nVariable);
         } else {
             operand.ePlace = PLACE_ROW;
             operand.nIndex = At(nSame).nRow;
@@ -147,46 +298,111 @@ class CParserProgram::CBuilder {
         return operand;
     }
 
-    // Writes the instructions and copies of one of the two halves, in the order of the steps.
-    void Write(bool bParameter) {
+    void WriteCopies(bool bParameter) {
         for (int i = m_nFirst; i <= m_nRoot; ++i) {
-            if (At(i).bParameter != bParameter) continue;
-            ParserStep& step = Step(i);
-            if (!IsInstruction(i)) {
-                const double* pFrom = OperandOf(i).pScalar;
-                if (pFrom != &step.dValue) m_Program.m_Copies.push_back({pFrom, &step.dValue});
-                if (step.eOpcode == OPCODE_VARIABLE && Same(i) == i && !bParameter) {
-                    m_Program.m_Inputs.push_back(step.nVariable);
-                }
+            if (At(i).bParameter != bParameter || IsInstruction(i)) continue;
+            const double* pFrom = ValueOf(i);
+            if (pFrom != &Step(i).dValue) m_Program.m_Copies.push_back({pFrom, &Step(i).dValue});
+        }
+    }
+
+    // Writes the operations of one of the two halves, level after level and in each level equal
+    // opcodes together: they run in one loop, and independent ones side by side.
+    void WriteOperations(bool bParameter) {
+        short nLevels = 0;
+        for (int i = m_nRoot; i >= m_nFirst; --i) {
+            Value& value = At(i);
+            if (value.bParameter != bParameter || value.bInTerm || !IsInstruction(i)) continue;
+            for (; nLevels <= value.nLevel; ++nLevels) m_Levels[nLevels] = -1;
+            value.nNext = m_Levels[value.nLevel];
+            m_Levels[value.nLevel] = static_cast<short>(i - m_nFirst);
+        }
+        for (short nLevel = 1; nLevel < nLevels; ++nLevel) {
+            short& nHead = m_Levels[nLevel];
+            while (nHead >= 0) WriteRun(nHead, RunOpcode(nHead + m_nFirst));
+        }
+    }
+    int RunOpcode(int nStep) { return At(nStep).bTerm ? RUN_TERMS : Step(nStep).eOpcode; }
+
+    // Takes the operations of an opcode out of a level's list.
+    void WriteRun(short& nHead, int eOpcode) {
+        std::vector<OperationRun>& runs = m_Program.m_Runs;
+        if (runs.size() == m_nPartRuns || runs.back().eOpcode != eOpcode) {
+            runs.push_back({eOpcode, 0});
+        }
+        for (short* pLink = &nHead; *pLink >= 0;) {
+            const int nStep = *pLink + m_nFirst;
+            if (RunOpcode(nStep) != eOpcode) {
+                pLink = &At(nStep).nNext;
                 continue;
             }
+            if (eOpcode == RUN_TERMS) {
+                WriteOperation(Right(Right(nStep)));
+                WriteOperation(Right(nStep));
+            }
+            WriteOperation(nStep);
+            *pLink = At(nStep).nNext;
+        }
+    }
+
+    void WriteOperation(int nStep) {
+        ParserStep& step = Step(nStep);
+        m_Program.m_Operations.push_back({&step.dValue, ValueOf(step.nOperand1),
+                                          HasTwoOperands(step) ? ValueOf(step.nOperand2) : nullptr,
+                                          &Step(step.nOperand1).dState});
+        ++m_Program.m_Runs.back().nCount;
+    }
+
+    void WriteInstructions() {
+        m_Program.m_Instructions.clear();
+        m_Program.m_Instructions.reserve(m_Program.m_Operations.size() -
+                                         m_Program.m_nParameterOperations);
+        for (int i = m_nFirst; i <= m_nRoot; ++i) {
+            if (At(i).bParameter || At(i).bInExponential || !IsInstruction(i)) continue;
+            const ParserStep& step = Step(i);
             Instruction& instruction = m_Program.m_Instructions.emplace_back();
             instruction.eOpcode = static_cast<unsigned char>(step.eOpcode);
             instruction.left = OperandOf(step.nOperand1);
             if (HasTwoOperands(step)) instruction.right = OperandOf(step.nOperand2);
-            instruction.pResult = &step.dValue;
             instruction.pState = &Step(step.nOperand1).dState;
-            if (HasHistory(step)) m_Program.m_States.push_back(instruction.pState);
-            if (!bParameter) AssignRow(i, instruction);
+            instruction.eResultPlace = PLACE_ROW;
+            instruction.nResultRow = At(i).nRow;
+            if (At(i).nFused >= 0) WriteExponential(instruction, m_Fused[At(i).nFused]);
         }
     }
 
-    // The result gets a row before the operands give theirs up: a loop never reads what it writes.
-    void AssignRow(int nStep, Instruction& instruction) {
-        const short nRow = m_nFree > 0 ? m_Free[--m_nFree] : m_nRows++;
-        At(nStep).nRow = nRow;
-        instruction.nResultRow = nRow;
-        const short nHere = static_cast<short>(nStep - m_nFirst);
-        const int nLeft = Same(Step(nStep).nOperand1);
-        ReleaseRow(instruction.left, At(nLeft), nHere);
-        if (!HasTwoOperands(Step(nStep))) return;
-        const int nRight = Same(Step(nStep).nOperand2);
-        if (nRight != nLeft) ReleaseRow(instruction.right, At(nRight), nHere);
+    void WriteExponential(Instruction& instruction, const Fused& fused) {
+        instruction.eOpcode = OPCODE_EXP;
+        instruction.left = OperandOf(fused.nArgument);
+        instruction.bNegate = fused.bNegate;
+        instruction.eInner = static_cast<unsigned char>(fused.eInner);
+        if (fused.eInner != 0) instruction.pInner = ValueOf(fused.nInner);
+        if (fused.bScale) instruction.pScale = ValueOf(fused.nScale);
+        if (fused.bOffset) instruction.pOffset = ValueOf(fused.nOffset);
     }
-    void ReleaseRow(const Operand& operand, const Value& value, short nHere) {
-        if (operand.ePlace == PLACE_ROW && value.nLastUse == nHere) {
-            m_Free[m_nFree++] = operand.nIndex;
+
+    // Gives every operation a row. A result gets its row before the operands give theirs up, so
+    // that no loop reads what it writes.
+    std::size_t CountRows() {
+        short nRows = 0;
+        short nFree = 0;
+        const auto release = [&](int nOperand, int nStep) {
+            const Value& value = At(nOperand);
+            if (!value.bParameter && value.nLevel > 0 && value.nLastUse == nStep - m_nFirst) {
+                m_Free[nFree++] = value.nRow;
+            }
+        };
+        for (int i = m_nFirst; i <= m_nRoot; ++i) {
+            if (At(i).bParameter || At(i).bInExponential || !IsInstruction(i)) continue;
+            At(i).nRow = nFree > 0 ? m_Free[--nFree] : nRows++;
+            if (At(i).nFused >= 0) {
+                release(m_Fused[At(i).nFused].nArgument, i);
+                continue;
+            }
+            release(Left(i), i);
+            if (HasTwoOperands(Step(i)) && Right(i) != Left(i)) release(Right(i), i);
         }
+        return static_cast<std::size_t>(nRows);
     }
 
     void Finish() {
@@ -197,14 +413,11 @@ class CParserProgram::CBuilder {
             m_Program.m_Root.ePlace = PLACE_RESULT;
             m_Program.m_Instructions.back().eResultPlace = PLACE_RESULT;
         }
-        m_Program.m_nSpreadRow = m_nRows;
-        m_Program.m_pRows =
-            std::make_unique_for_overwrite<double[]>(static_cast<std::size_t>(m_nRows + 1) * CHUNK);
-        m_Program.m_SavedStates.resize(m_Program.m_States.size());
         ParserVariable& variable = m_Parser.m_Variables[m_nVariable];
         m_Program.m_pVariable = &variable.dValue;
         m_Program.m_pAssigned = &Step(variable.nStep).dValue;
         m_Program.m_bParametersChanged = true;
+        m_Program.m_bCopiesDue = false;
         m_Program.m_nVariable = m_nVariable;
     }
 
@@ -220,12 +433,15 @@ class CParserProgram::CBuilder {
     int m_nVariable;
     int m_nRoot;
     int m_nFirst;
+    int m_nSteps = 0;
     int m_nInstructions = 0;
-    short m_nRows = 0;
-    short m_nFree = 0;
     Value m_Values[MAX_STEPS];
     Key m_Keys[MAX_STEPS];
     short m_Table[TABLE_SIZE];
+    short m_Levels[MAX_STEPS + 1];
+    Fused m_Fused[MAX_STEPS / 4];  // an exponential has at least a name and two parentheses
+    short m_nFused = 0;
+    std::size_t m_nPartRuns = 0;  // the runs of the half before
     short m_Free[MAX_STEPS];
 };
 

@@ -9,10 +9,14 @@
 
 namespace {
 
-constexpr std::string_view kDelimiters = "+*-/%^=()";
-constexpr std::string_view kOperators = "+*-/%^";
+constexpr CharacterSet kDelimiters("+*-/%^=()");
+constexpr CharacterSet kOperators("+*-/%^");
 // What ends the word that decides between number and name. '%' and the space are not among them.
-constexpr std::string_view kNumberWordEnds = "=+-*/^()";
+constexpr CharacterSet kNumberWordEnds("=+-*/^()");
+
+constexpr CharacterSet kAfterNumber("+*-/%^)");
+// What cannot stand behind an operator.
+constexpr CharacterSet kNoOperands("*/%^=");
 
 struct Keyword {
     std::string_view name;
@@ -87,7 +91,7 @@ void CZDCParser::NextToken() {
     const char c = m_szText[m_nPosition];
     if (IsLetter(c) || c == '_' || c == '$') {
         if (!ScanFunction()) ScanName();
-    } else if (IsOneOf(c, kDelimiters)) {
+    } else if (kDelimiters.Has(c)) {
         ScanDelimiter();
     } else if (IsDigit(c) || c == '.') {
         ScanNumber();
@@ -102,6 +106,8 @@ void CZDCParser::NextToken() {
 // A keyword is a function only where no letter follows, so LOG10 is LOG without its parentheses.
 bool CZDCParser::ScanFunction() {
     const char* pszWord = m_szText + m_nPosition;
+    // Every keyword begins with two letters; most names do not.
+    if (!IsLetter(pszWord[1])) return false;
     const int nRest = m_nTextLength - m_nPosition;
     for (const Keyword& keyword : kKeywords) {
         const int nLength = static_cast<int>(keyword.name.size());
@@ -124,7 +130,7 @@ bool CZDCParser::ScanFunction() {
 void CZDCParser::ScanName() {
     m_eTokenKind = TOKEN_NAME;
     int n = 0;
-    while (m_nPosition < m_nTextLength && !IsOneOf(m_szText[m_nPosition], kDelimiters)) {
+    while (m_nPosition < m_nTextLength && !kDelimiters.Has(m_szText[m_nPosition])) {
         m_szToken[n++] = m_szText[m_nPosition++];
     }
     m_szToken[n] = '\0';
@@ -134,7 +140,7 @@ void CZDCParser::ScanNumber() {
     m_eTokenKind = TOKEN_NUMBER;
     int nEnd = m_nPosition;
     bool bName = false;
-    while (nEnd < m_nTextLength && !IsOneOf(m_szText[nEnd], kNumberWordEnds)) {
+    while (nEnd < m_nTextLength && !kNumberWordEnds.Has(m_szText[nEnd])) {
         const char c = m_szText[nEnd++];
         if (!IsDigit(c) && c != '.' && c != ' ') bName = true;
     }
@@ -194,7 +200,7 @@ void CZDCParser::ScanExponent() {
 void CZDCParser::TestAfterNumber() {
     if (AtEnd()) return;
     SkipSpaces();
-    if (m_nPosition < m_nTextLength && !IsOneOf(m_szText[m_nPosition], "+*-/%^)")) {
+    if (m_nPosition < m_nTextLength && !kAfterNumber.Has(m_szText[m_nPosition])) {
         RaiseError(PARSER_MISSING_OPERATOR);
     }
 }
@@ -203,8 +209,8 @@ void CZDCParser::ScanDelimiter() {
     m_eTokenKind = TOKEN_DELIMITER;
     const char c = m_szText[m_nPosition];
     const char next = m_szText[m_nPosition + 1];
-    const bool bOperator = c == '=' || IsOneOf(c, kOperators);
-    if (bOperator && (next == '\0' || IsOneOf(next, "*/%^="))) {
+    const bool bOperator = c == '=' || kOperators.Has(c);
+    if (bOperator && (next == '\0' || kNoOperands.Has(next))) {
         RaiseError(PARSER_MISSING_OPERAND);
         return;
     }

@@ -10,7 +10,10 @@ CZDCParser::CZDCParser(int nIndependent, int nDependent, int nParameters, int nE
     : m_nIndependent(std::max(nIndependent, 0)),
       m_nDependent(std::max(nDependent, 0)),
       m_nParameters(std::max(nParameters, 0)),
-      m_Equations(static_cast<std::size_t>(std::max(nEquations, 0))) {}
+      m_Equations(static_cast<std::size_t>(std::max(nEquations, 0))) {
+    const long long nVariables = FirstDependent() + m_nDependent;
+    m_Variables.reserve(static_cast<std::size_t>(std::min(nVariables, 64LL)));
+}
 
 const char* CZDCParser::GetErrorText(int nError) const {
     return ParserErrorText(nError);
@@ -109,6 +112,9 @@ int CZDCParser::Compile() {
         RaiseError(PARSER_VARIABLE_COUNT);
         return 0;
     }
+    std::size_t nSteps = m_Steps.size();
+    for (const auto& equation : m_Equations) nSteps += strnlen(equation.data(), PARSER_TEXT_LIMIT);
+    m_Steps.reserve(nSteps);
     for (const auto& equation : m_Equations) {
         m_strLeftName.clear();
         if (!ParseEquation(equation.data())) return 0;

@@ -99,7 +99,10 @@ class CZDCParser {
 
     int GetTokenKind() const { return m_eTokenKind; }
     const char* GetToken() const { return m_szToken; }
-    const std::vector<ParserStep>& GetSteps() const { return m_Steps; }
+    const std::vector<ParserStep>& GetSteps() const {
+        m_Program.BringUpToDate();
+        return m_Steps;
+    }
     const std::vector<ParserVariable>& GetVariables() const { return m_Variables; }
 
   private:
