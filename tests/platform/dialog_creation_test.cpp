@@ -375,11 +375,8 @@ TEST(ModalLoop, SendsIdleMessagesToItsOwner) {
     TestDialog dialog;
     DialogTemplate shape = TwoEdits();
     DialogScript script;
-    script
-        .Do([&](HWND dlg) {
-            EXPECT_GT(idle, 0);
-            EXPECT_EQ(dlg, idleDialog);
-        })
+    script.WaitUntil([&] { return idle > 0; })
+        .Do([&](HWND dlg) { EXPECT_EQ(dlg, idleDialog); })
         .Click(IDOK);
     script.Run([&] { dialog.Run(shape, owner); });
 }
