@@ -217,6 +217,49 @@ using WINDOWPOS = struct tagWINDOWPOS {
     UINT flags;
 };
 
+using NCCALCSIZE_PARAMS = struct tagNCCALCSIZE_PARAMS {
+    RECT rgrc[3];
+    WINDOWPOS* lppos;
+};
+using CWPSTRUCT = struct tagCWPSTRUCT {
+    LPARAM lParam;
+    WPARAM wParam;
+    UINT message;
+    HWND hwnd;
+};
+using CBT_CREATEWNDA = struct tagCBT_CREATEWNDA {
+    struct tagCREATESTRUCTA* lpcs;
+    HWND hwndInsertAfter;
+};
+using CBTACTIVATESTRUCT = struct tagCBTACTIVATESTRUCT {
+    BOOL fMouse;
+    HWND hWndActive;
+};
+
+using MOUSEINPUT = struct tagMOUSEINPUT {
+    LONG dx;
+    LONG dy;
+    DWORD mouseData;
+    DWORD dwFlags;
+    DWORD time;
+    ULONG_PTR dwExtraInfo;
+};
+using KEYBDINPUT = struct tagKEYBDINPUT {
+    WORD wVk;
+    WORD wScan;
+    DWORD dwFlags;
+    DWORD time;
+    ULONG_PTR dwExtraInfo;
+};
+using INPUT = struct tagINPUT {
+    DWORD type;
+    union {
+        MOUSEINPUT mi;
+        KEYBDINPUT ki;
+    };
+};
+using LPINPUT = INPUT*;
+
 using MINMAXINFO = struct tagMINMAXINFO {
     POINT ptReserved;
     POINT ptMaxSize;
