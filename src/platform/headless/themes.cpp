@@ -147,3 +147,6 @@ HRESULT SetWindowTheme(HWND hwnd, LPCWSTR appName, LPCWSTR idList) {
     SendMessageA(hwnd, WM_THEMECHANGED, 0, 0);
     return S_OK;
 }
+
+// The classes of the common controls stand ready from the start.
+void InitCommonControls() {}
