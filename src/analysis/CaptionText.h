@@ -1,0 +1,24 @@
+// Captions and messages that hold one place for a text from outside, such as the host's noun.
+#pragma once
+
+#include <cstddef>
+
+#include "platform/platform.h"
+
+// Writes szTemplate with the first "%s" or "%d" replaced by szArgument, cut at the buffer's end.
+// "%%" gives "%", any other conversion nothing; the argument stands as it is, whatever it holds.
+// Null texts are empty.
+void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char* szArgument);
+
+template <std::size_t N>
+void FormatCaption(char (&szBuffer)[N], const char* szTemplate, const char* szArgument) {
+    FormatCaption(szBuffer, static_cast<int>(N), szTemplate, szArgument);
+}
+
+// Copies a noun in lower case, for the middle of a caption.
+void LowerNoun(char* szBuffer, int nSize, const char* szNoun);
+
+template <std::size_t N>
+void LowerNoun(char (&szBuffer)[N], const char* szNoun) {
+    LowerNoun(szBuffer, static_cast<int>(N), szNoun);
+}
