@@ -1,5 +1,5 @@
-// A window with one control in it, for the tests of edits, lists and combo boxes: makes the control in
-// the dialog font, sends it keys and mouse messages, and tells what it told its parent.
+// A window with one control in it, for the tests of edits, lists and combo boxes: makes the control
+// in the dialog font, sends it keys and mouse messages, and tells what it told its parent.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -189,9 +189,6 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CAPTURECHANGED:
             m_buttonDown = false;
             return 0;
-        case WM_CANCELMODE:
-            if (m_dropped) RollUp(false);
-            return 0;
         case WM_MOUSEWHEEL:
             if (m_dropped) return ToList(message, wParam, lParam);
             if (m_edit == nullptr && m_focused) {

@@ -257,8 +257,15 @@ void Edit::ScrollToCaret() {
         if (m_caret < m_firstChar) m_firstChar = m_caret;
         const ControlDc dc(m_hwnd, m_font);
         const int room = m_format.right - m_format.left;
-        while (m_firstChar < m_caret && TextWidth(dc, m_firstChar, m_caret - m_firstChar) > room) {
-            ++m_firstChar;
+        // The first character from which on the text up to the caret fits.
+        size_t last = m_caret;
+        while (m_firstChar < last) {
+            const size_t middle = m_firstChar + (last - m_firstChar) / 2;
+            if (TextWidth(dc, middle, m_caret - middle) <= room) {
+                last = middle;
+            } else {
+                m_firstChar = middle + 1;
+            }
         }
         return;
     }

@@ -85,6 +85,8 @@ size_t Edit::FittingLength(std::string_view text, size_t start, size_t end) cons
         const size_t middle = low + (high - low) / 2;
         (fits(middle) ? low : high) = middle;
     }
+    // A line end goes in whole or not at all.
+    if (low > 0 && text[low - 1] == '\r' && text[low] == '\n') --low;
     return low;
 }
 

@@ -154,10 +154,10 @@ LRESULT ListBox::OnKeyDown(int key) {
                 caret = starts ? m_caret : m_caret + page;
                 break;
             case VK_HOME:
-                caret = 0;
+                caret = starts ? m_caret : 0;
                 break;
             case VK_END:
-                caret = Count() - 1;
+                caret = starts ? m_caret : Count() - 1;
                 break;
             case VK_SPACE:
                 if (m_extended) {
