@@ -192,10 +192,19 @@ std::uint32_t CDataOptionsInterface::GetYSet() const {
                             : m_pRecord->uDepVarDataSetIndex;
 }
 
-ZXADLG_DataRange CDataOptionsInterface::RegionRange() const {
+namespace {
+
+ZXADLG_DataRange RegionRange(int nRegionId) {
     ZXADLG_DataRange range = {};
-    range.uRegionId = static_cast<std::uint32_t>(m_nRegionId);
+    range.uRegionId = static_cast<std::uint32_t>(nRegionId);
     return range;
+}
+
+}  // namespace
+
+std::uint32_t CDataOptionsInterface::GetPointCountInRegion(int nRegionId) const {
+    const ZXADLG_DataRange range = RegionRange(nRegionId);
+    return m_pSource->GetPointCount(GetGroup(), GetYSet(), &range, 0);
 }
 
 std::uint32_t CDataOptionsInterface::GetPointCount() const {
@@ -204,8 +213,7 @@ std::uint32_t CDataOptionsInterface::GetPointCount() const {
         return std::min(m_pSource->GetPointCount(uGroup, GetXSet(), nullptr, 0),
                         m_pSource->GetPointCount(uGroup, GetYSet(), nullptr, 0));
     }
-    const ZXADLG_DataRange range = RegionRange();
-    return m_pSource->GetPointCount(uGroup, GetYSet(), &range, 0);
+    return GetPointCountInRegion(m_nRegionId);
 }
 
 std::uint32_t CDataOptionsInterface::GetFewestPoints(const std::int32_t* pnSets, int nSets) const {
@@ -225,7 +233,7 @@ std::uint32_t CDataOptionsInterface::GetSelectedPointCount() const {
 
 const double* CDataOptionsInterface::Fetch(bool bY, std::vector<double>& vdValues) {
     const std::uint32_t uCount = GetPointCount();
-    ZXADLG_DataRange range = RegionRange();
+    ZXADLG_DataRange range = RegionRange(m_nRegionId);
     range.uLastIndex = uCount - 1;
     range.bUseFullRange = bY || m_pRecord->bUseFullDataRange != 0 ? 1 : 0;
     const std::uint32_t uGroup = GetGroup();
@@ -330,7 +338,7 @@ bool CDataOptionsInterface::ListSets(std::uint32_t uGroup, std::vector<std::int3
 ZXADLG_DataRange CDataOptionsInterface::ExtentRange() const {
     ZXADLG_DataRange range = {};
     if (IsFileData()) {
-        range.uRegionId = static_cast<std::uint32_t>(m_nRegionId);
+        range = RegionRange(m_nRegionId);
         range.bUseFullRange = 1;
         return range;
     }

@@ -113,6 +113,8 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     std::uint32_t GetXSet() const;
     std::uint32_t GetYSet() const;
     std::uint32_t GetPointCount() const;
+    // Points of the current y set in a region of the host's.
+    std::uint32_t GetPointCountInRegion(int nRegionId) const;
     // The smallest count over n sets of the current group; 0 for none.
     std::uint32_t GetFewestPoints(const std::int32_t* pnSets, int nSets) const;
     std::uint32_t GetSelectedPointCount() const;
@@ -133,7 +135,6 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
   private:
     void CorrectStoredIndices();
     std::uint32_t FirstOfCurrentList() const;
-    ZXADLG_DataRange RegionRange() const;
     const double* Fetch(bool bY, std::vector<double>& vdValues);
     bool ListGroups(std::vector<std::uint32_t>& vGroups) const;
     bool ListSets(std::uint32_t uGroup, std::vector<std::int32_t>& vSets) const;

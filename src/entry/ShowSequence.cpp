@@ -10,11 +10,13 @@ HINSTANCE OwnModule() {
     HMODULE hModule = nullptr;
     const auto pAddress = reinterpret_cast<LPCSTR>(&PrepareLibrary);
     GetModuleHandleExA(
-        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT, pAddress,
-        &hModule);
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        pAddress, &hModule);
     return hModule;
 }
 
 }  // namespace
 
-void PrepareLibrary() { InitDialogFramework(OwnModule()); }
+void PrepareLibrary() {
+    InitDialogFramework(OwnModule());
+}

@@ -2,9 +2,10 @@
 //
 //     copies in, restore, dialog, and on OK outside read-only mode: copies back, store
 //
-// The dialog sees the working copies alone. In deferred mode nothing is restored and nothing stored; in
-// read-only mode nothing is copied back either. A null profile name of the source makes restore and store
-// do nothing. No exception passes: one that reaches the sequence ends the call with ZXADLG_CREATE_FAILED.
+// The dialog sees the working copies alone. In deferred mode nothing is restored and nothing
+// stored; in read-only mode nothing is copied back either. A null profile name of the source makes
+// restore and store do nothing. No exception passes: one that reaches the sequence ends the call
+// with ZXADLG_CREATE_FAILED.
 #pragma once
 
 #include "ZXADLG.h"
@@ -27,7 +28,8 @@ struct ShowRow {
     void (*pLoad)(const char* pszProfile, Record* pRecord);
     void (*pSave)(const char* pszProfile, const Record* pRecord);
     // Changes the working copies before the dialog is built; null: nothing.
-    void (*pPrepare)(Record* pOptions, ZXADLG_DataOptions* pData, const ZXADLG_DlgParams& params) = nullptr;
+    void (*pPrepare)(Record* pOptions, ZXADLG_DataOptions* pData,
+                     const ZXADLG_DlgParams& params) = nullptr;
     // Hands the record back; null: a flat copy.
     void (*pReturn)(Record* pTo, const Record& from) = nullptr;
     // Whether the keys of the data record are stored; null: always.
@@ -41,7 +43,8 @@ void PrepareLibrary();
 template <class Record, class Run>
 int RunShowSequence(const ShowRow<Record>& row, Record* pOptions, ZXADLG_DataOptions* pData,
                     ZXADLG_CDlgDataSource* pSource, const ZXADLG_DlgParams* pParams, Run run) {
-    if (pOptions == nullptr || pSource == nullptr || pParams == nullptr) return ZXADLG_CREATE_FAILED;
+    if (pOptions == nullptr || pSource == nullptr || pParams == nullptr)
+        return ZXADLG_CREATE_FAILED;
     if (pData == nullptr && row.eData == DataRecord::kPassedThrough) return ZXADLG_CREATE_FAILED;
     try {
         PrepareLibrary();
@@ -58,7 +61,8 @@ int RunShowSequence(const ShowRow<Record>& row, Record* pOptions, ZXADLG_DataOpt
             row.pLoad(pSource->GetProfileName(), &options);
             const bool bLoadsData = row.szAnalysis != nullptr || row.eDataLoad == kDataOptionsReset;
             if (bUsesData && bLoadsData) {
-                LoadDataOptions(pSource->GetProfileName(), &data, pParams, row.eDataLoad, row.szAnalysis);
+                LoadDataOptions(pSource->GetProfileName(), &data, pParams, row.eDataLoad,
+                                row.szAnalysis);
             }
         }
         if (row.pPrepare != nullptr) row.pPrepare(&options, pWorkingData, *pParams);

@@ -1,0 +1,49 @@
+// The data tab of every analysis that takes one family of sets: groups and sets by radio buttons,
+// by list or by a typed list, and the analysis region.
+//
+// A dialog that has one selection uses the template IDD_UNITARY_DATA, one with two
+// IDD_UNITARY_DATA_DUAL.
+#pragma once
+
+#include "analysis/CDataTabBase.h"
+
+class CUnitaryDataTab : public CDataTabBase {
+  public:
+    CUnitaryDataTab(CDataOptionsInterface* pData, UINT uTemplateId, bool bReadOnly);
+
+    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
+    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
+    BOOL OnPageShow() override;
+    void ReadControls() override;
+    // At least one set must be selected.
+    BOOL Validate(BOOL bSilent, ADM_Wnd** ppFailed) override;
+    void SetDisabled(bool bDisabled) override;
+
+    // Shows the stored selection; the combo boxes are filled only with bFill.
+    void ShowSelection(bool bFill);
+
+  private:
+    int GetSetMode();
+    void ShowRegion(bool bFill);
+    void ShowCount();
+    void ShowSetCaptions();
+    void ShowGroupCaptions();
+    void SelectByMode(int eMode);
+    void EnableByMode(int eMode);
+    void EnableRadios();
+    void ApplySetMode();
+    void ApplyGroupMode();
+    void ChangeRegion();
+    void AfterTool();
+
+    int m_eGroupMode = CDataOptionsInterface::kVisibleGroups;  // in force
+    std::uint32_t m_uSpecifiedGroup = 0;
+    int m_nRegionPosition = 0;
+    bool m_bSetsMode;
+
+    ADM_RadioButtons m_radSets;
+    ADM_RadioButtons m_radGroups;
+    ADM_Static m_lblRegion;
+    CZxDlgRegionCombo m_cmbRegion;
+    ADM_Button m_chkForceToZero;
+};
