@@ -1,0 +1,207 @@
+// Normalize from end to end, as its host and its user meet it.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "ZXADLG.h"
+#include "contract/OptionPersistence.h"
+#include "ids.h"
+#include "support/DialogScript.h"
+#include "support/ProfileStore.h"
+#include "support/ScratchStore.h"
+#include "support/TestDataSource.h"
+
+namespace {
+
+using test_support::DialogScript;
+using test_support::ScratchStore;
+using test_support::TestDataSource;
+
+class Normalize : public testing::Test {
+  protected:
+    Normalize() {
+        source.Region(0, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
+        source.Region(4, "Cursors 3..4", 500, 999);
+        std::memset(&data, 0, sizeof data);
+        data.eDataSet1SelectionMode = 1;
+        data.eDataGroup1SelectionMode = 1;
+        CopyList("0..2");
+        params.bUseDataOptions = 1;
+        params.bShowGroupSelector = 1;
+        params.bShowDestination = 1;
+        params.bShowDynamicLink = 1;
+        params.bShowWriteRegionInfo = 1;
+        options.eBaselineRegion = 3;
+        options.ePeakRegion = 4;
+    }
+
+    void CopyList(const char* text) {
+        std::snprintf(data.szUnitarySelectionList1, sizeof data.szUnitarySelectionList1, "%s",
+                      text);
+    }
+
+    int Show(DialogScript& script) {
+        return script.Run(
+            [&] { return ZXADLG_ShowNormalizeDialog(nullptr, &options, &data, &source, &params); });
+    }
+
+    TestDataSource source;
+    ZXADLG_NormalizeOptions options = {};
+    ZXADLG_DataOptions data;
+    ZXADLG_DlgParams params = {};
+};
+
+TEST_F(Normalize, ShowsTheRecordAndHandsBackTheEdits) {
+    DialogScript script;
+    script.ExpectTitle("Normalize")
+        .ExpectChecked(IDC_NORMALIZE_ALL_POINTS, BST_CHECKED)
+        .ExpectEnabled(IDC_NORMALIZE_BASELINE, false)
+        .ExpectEnabled(IDC_NORMALIZE_BASELINE_LABEL, false)
+        .ExpectEnabled(IDC_NORMALIZE_PEAK_COUNT, false)
+        .ExpectSelected(IDC_NORMALIZE_BASELINE, "Cursors 1..2")
+        .ExpectSelected(IDC_NORMALIZE_PEAK, "Cursors 3..4")
+        .ExpectText(IDC_NORMALIZE_BASELINE_COUNT, "= 100 points")
+        .ExpectText(IDC_NORMALIZE_PEAK_COUNT, "= 500 points")
+        .Click(IDC_NORMALIZE_REGIONS)
+        .ExpectEnabled(IDC_NORMALIZE_BASELINE, true)
+        .ExpectEnabled(IDC_NORMALIZE_PEAK_LABEL, true)
+        .Choose(IDC_NORMALIZE_PEAK, "Whole trace")
+        .ExpectText(IDC_NORMALIZE_PEAK_COUNT, "= 1000 points")
+        .Click(IDC_DESTINATION_REPLACE)
+        .Click(IDC_DYNAMIC_LINK)
+        .Click(IDC_WRITE_REGION_INFO)
+        .Click(IDOK);
+    EXPECT_EQ(Show(script), 1);
+    EXPECT_EQ(options.bUseAllPoints, 1);
+    EXPECT_EQ(options.eBaselineRegion, 3u);
+    EXPECT_EQ(options.ePeakRegion, 0u);
+    EXPECT_EQ(options.common.eDestinationOption, 1);
+    EXPECT_EQ(options.common.bDynamicLink, 1);
+    EXPECT_EQ(options.common.bWriteRegionInfo, 1);
+    EXPECT_EQ(data.uGroupCount, 2u);
+    EXPECT_EQ(data.dMinValue, 0.0);
+    EXPECT_EQ(data.dMaxValue, 100.0 * 11 + 999);
+}
+
+TEST_F(Normalize, StoredUseAllPointsShowsTheSecondButtonAndEnablesTheRegions) {
+    options.bUseAllPoints = 1;
+    DialogScript script;
+    script.ExpectChecked(IDC_NORMALIZE_REGIONS, BST_CHECKED)
+        .ExpectChecked(IDC_NORMALIZE_ALL_POINTS, BST_UNCHECKED)
+        .ExpectEnabled(IDC_NORMALIZE_BASELINE, true)
+        .Click(IDCANCEL);
+    EXPECT_EQ(Show(script), 2);
+}
+
+TEST_F(Normalize, RegionThatTheDataLackSelectsTheFirstEntry) {
+    options.eBaselineRegion = 77;
+    DialogScript script;
+    script.ExpectSelected(IDC_NORMALIZE_BASELINE, "Whole trace").Click(IDOK);
+    EXPECT_EQ(Show(script), 1);
+    EXPECT_EQ(options.eBaselineRegion, 0u);
+}
+
+TEST_F(Normalize, CancelLeavesTheRecordsAndTheStoreAsTheyWere) {
+    const ScratchStore store;
+    source.Profile(store.ProfileFile());
+    const bool old = SetUseProfileFile(true);
+    const ZXADLG_NormalizeOptions optionsBefore = options;
+    const ZXADLG_DataOptions dataBefore = data;
+    DialogScript script;
+    script.Click(IDC_NORMALIZE_REGIONS)
+        .Choose(IDC_NORMALIZE_PEAK, 0)
+        .Click(IDC_DESTINATION_REPLACE)
+        .SelectTab("Data")
+        .Click(IDC_SETS_ACTIVE)
+        .Click(IDCANCEL);
+    EXPECT_EQ(Show(script), 2);
+    EXPECT_EQ(std::memcmp(&options, &optionsBefore, sizeof options), 0);
+    EXPECT_EQ(std::memcmp(&data, &dataBefore, sizeof data), 0);
+    char text[8];
+    EXPECT_FALSE(ReadString("NormalizeSection", "bUseAllPoints", "", text, sizeof text,
+                            store.ProfileFile().c_str()));
+    SetUseProfileFile(old);
+}
+
+TEST_F(Normalize, OkStoresAndASecondOpeningShowsIt) {
+    const ScratchStore store;
+    source.Profile(store.ProfileFile());
+    const bool old = SetUseProfileFile(true);
+    {
+        DialogScript script;
+        script.Click(IDC_NORMALIZE_REGIONS)
+            .Choose(IDC_NORMALIZE_BASELINE, "Cursors 3..4")
+            .Click(IDOK);
+        EXPECT_EQ(Show(script), 1);
+    }
+    char text[32];
+    EXPECT_TRUE(ReadString("NormalizeSection", "bUseAllPoints", "", text, sizeof text,
+                           store.ProfileFile().c_str()));
+    EXPECT_STREQ(text, "TRUE");
+    EXPECT_TRUE(ReadString("NormalizeDataSection", "uGroup1Index", "", text, sizeof text,
+                           store.ProfileFile().c_str()));
+    EXPECT_STREQ(text, "0");
+    options = {};
+    {
+        DialogScript script;
+        script.ExpectChecked(IDC_NORMALIZE_REGIONS, BST_CHECKED)
+            .ExpectSelected(IDC_NORMALIZE_BASELINE, "Cursors 3..4")
+            .Click(IDCANCEL);
+        EXPECT_EQ(Show(script), 2);
+    }
+    SetUseProfileFile(old);
+}
+
+TEST_F(Normalize, WithoutDataOptionsThereIsOneTabAndTheDataRecordIsNeverWritten) {
+    params.bUseDataOptions = 0;
+    const ZXADLG_DataOptions before = data;
+    DialogScript script;
+    script
+        .Do([](HWND dialog) {
+            EXPECT_EQ(SendMessageA(GetDlgItem(dialog, IDC_TABS), TCM_GETITEMCOUNT, 0, 0), 1);
+        })
+        .Click(IDOK);
+    EXPECT_EQ(Show(script), 1);
+    EXPECT_EQ(std::memcmp(&data, &before, sizeof data), 0);
+}
+
+TEST_F(Normalize, ReadOnlyShowsItsDressAndChangesNothing) {
+    params.bReadOnly = 1;
+    const ZXADLG_NormalizeOptions before = options;
+    DialogScript script;
+    script.ExpectTitle("Normalize (read only)")
+        .ExpectVisible(IDOK, false)
+        .ExpectText(IDCANCEL, "Close")
+        .Click(IDC_NORMALIZE_REGIONS)
+        .ExpectChecked(IDC_NORMALIZE_ALL_POINTS, BST_CHECKED)
+        .ExpectFocus(IDCANCEL)
+        .Click(IDCANCEL);
+    EXPECT_EQ(Show(script), 2);
+    EXPECT_EQ(std::memcmp(&options, &before, sizeof options), 0);
+}
+
+TEST_F(Normalize, TabOfTheLastOkIsShownAgainAndCancelKeepsIt) {
+    const auto shownTab = [](HWND dialog) {
+        return SendMessageA(GetDlgItem(dialog, IDC_TABS), TCM_GETCURSEL, 0, 0);
+    };
+    DialogScript first;
+    first.SelectTab("Data").Click(IDOK);
+    EXPECT_EQ(Show(first), 1);
+    DialogScript second;
+    second.Do([&](HWND dialog) { EXPECT_EQ(shownTab(dialog), 1); })
+        .SelectTab("Options")
+        .Click(IDCANCEL);
+    EXPECT_EQ(Show(second), 2);
+    DialogScript third;
+    third.Do([&](HWND dialog) { EXPECT_EQ(shownTab(dialog), 1); }).SelectTab("Options").Click(IDOK);
+    EXPECT_EQ(Show(third), 1);
+}
+
+TEST_F(Normalize, NullArgumentsOpenNothing) {
+    EXPECT_EQ(ZXADLG_ShowNormalizeDialog(nullptr, nullptr, &data, &source, &params), -1);
+    EXPECT_EQ(ZXADLG_ShowNormalizeDialog(nullptr, &options, &data, nullptr, &params), -1);
+    EXPECT_EQ(ZXADLG_ShowNormalizeDialog(nullptr, &options, &data, &source, nullptr), -1);
+}
+
+}  // namespace
