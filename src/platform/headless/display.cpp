@@ -170,6 +170,8 @@ int GetSystemMetrics(int index) {
         case SM_SWAPBUTTON:
             return 0;
         default:
+            // There is no such metric anywhere.
+            if (index < 0 || index >= 100) return 0;
             ReportUnsupported("GetSystemMetrics " + std::to_string(index));
             return 0;
     }

@@ -217,7 +217,7 @@ Result Draw(HDC handle, DeviceContext& dc, const char* source, int length, RECT&
     if ((flags & DT_SINGLELINE) != 0) {
         const int space = box.bottom - box.top - lineHeight;
         if ((flags & DT_VCENTER) != 0)
-            y += space / 2;
+            y += (space + 1) >> 1;  // an odd pixel stands above the text
         else if ((flags & DT_BOTTOM) != 0)
             y += space;
     }
