@@ -51,16 +51,9 @@ DWORD StyleOfNew(DWORD style) {
 
 void NotifyParent(Window& window, UINT message) {
     if (!window.IsChildWindow() || (window.exStyle & WS_EX_NOPARENTNOTIFY) != 0) return;
-    const HWND child = window.handle;
-    const UINT_PTR id = window.id;
-    for (Window* w = &window; w->alive && w->IsChildWindow();) {
-        Window* parent = w->parent;
-        if ((w->exStyle & WS_EX_NOPARENTNOTIFY) != 0 || parent == nullptr || parent->IsDesktop())
-            break;
-        Send(parent->handle, WM_PARENTNOTIFY, MAKEWPARAM(message, id),
-             reinterpret_cast<LPARAM>(child));
-        w = parent;
-    }
+    if (window.parent->IsDesktop()) return;
+    Send(window.parent->handle, WM_PARENTNOTIFY, MAKEWPARAM(message, window.id),
+         reinterpret_cast<LPARAM>(window.handle));
 }
 
 // The windows that a top-level window owns, topmost first.
@@ -122,6 +115,8 @@ HWND Abandon(HWND hwnd, bool sendDestroy) {
     return nullptr;
 }
 
+}  // namespace
+
 void SendFirstSize(Window& window) {
     if (window.sizeSent) return;
     window.sizeSent = true;
@@ -134,8 +129,6 @@ void SendFirstSize(Window& window) {
     POINT at{window.client.left, window.client.top};
     Send(hwnd, WM_MOVE, 0, MAKELPARAM(at.x, at.y));
 }
-
-}  // namespace
 
 void LinkOnTop(Window& window) {
     Unlink(window);
@@ -263,7 +256,8 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD s
     if (Send(hwnd, WM_CREATE, 0, reinterpret_cast<LPARAM>(&cs)) == -1) return Abandon(hwnd, true);
     if (!window.alive) return nullptr;
     window.creating = false;
-    SendFirstSize(window);
+    // An overlapped window hears of its size when it is first shown.
+    if ((window.style & (WS_CHILD | WS_POPUP)) != 0) SendFirstSize(window);
     if (!window.alive) return nullptr;
     NotifyParent(window, WM_CREATE);
     if (!window.alive) return nullptr;
@@ -306,8 +300,7 @@ BOOL DestroyWindow(HWND hwnd) {
         if (Peek(owned) != nullptr) DestroyWindow(owned);
         if (!window->alive) return TRUE;
     }
-    Window* focus = Peek(world.focus);
-    if (focus != nullptr && Within(window, focus)) {
+    if (world.focus == hwnd) {
         Window* next = window->IsChildWindow() ? window->parent : nullptr;
         SetFocus(next != nullptr && !next->IsDesktop() ? next->handle : nullptr);
         if (!window->alive) return TRUE;

@@ -96,11 +96,17 @@ bool CreateControls(HWND dialog, const DialogTemplate& source, const std::uint8_
         const int width = MulDiv(item.cx, state->unitX, 4);
         const int height = MulDiv(item.cy, state->unitY, 8);
         const HFONT font = state->font;
+        DWORD style = item.style | WS_CHILD;
+        DWORD exStyle = item.exStyle | WS_EX_NOPARENTNOTIFY;
+        if ((style & WS_BORDER) != 0) {
+            // In a dialog a thin border becomes a sunken edge.
+            style &= ~static_cast<DWORD>(WS_BORDER);
+            exStyle |= WS_EX_CLIENTEDGE;
+        }
         const HWND control =
-            CreateWindowExA(item.exStyle | WS_EX_NOPARENTNOTIFY, className.c_str(), title.c_str(),
-                            item.style | WS_CHILD, x, y, width, height, dialog,
-                            reinterpret_cast<HMENU>(static_cast<ULONG_PTR>(item.id)), instance,
-                            const_cast<std::uint8_t*>(extra));
+            CreateWindowExA(exStyle, className.c_str(), title.c_str(), style, x, y, width, height,
+                            dialog, reinterpret_cast<HMENU>(static_cast<ULONG_PTR>(item.id)),
+                            instance, const_cast<std::uint8_t*>(extra));
         if (control == nullptr) {
             if ((source.style & DS_NOFAILCREATE) != 0) continue;
             return false;
@@ -186,6 +192,8 @@ HWND CreateDialogFrom(HINSTANCE instance, const std::uint8_t* data, std::size_t 
     SIZE unit{LOWORD(GetDialogBaseUnits()), HIWORD(GetDialogBaseUnits())};
     if (font != nullptr) unit = DialogUnits(font);
     DWORD style = source.style & ~static_cast<DWORD>(WS_VISIBLE);
+    // All dialogs look three-dimensional.
+    style |= DS_3DLOOK;
     DWORD exStyle = source.exStyle;
     if ((style & DS_MODALFRAME) != 0) exStyle |= WS_EX_DLGMODALFRAME;
     if ((style & DS_CONTROL) != 0 || (style & WS_CHILD) == 0) exStyle |= WS_EX_CONTROLPARENT;
@@ -234,9 +242,8 @@ HWND CreateDialogFrom(HINSTANCE instance, const std::uint8_t* data, std::size_t 
         undo();
         return nullptr;
     }
-    state = window->dialog.get();
-    const bool ended = state != nullptr && state->ended;
-    if ((source.style & WS_VISIBLE) != 0 && (window->style & WS_VISIBLE) == 0 && !ended)
+    // Even one that has been ended already appears for a moment.
+    if ((source.style & WS_VISIBLE) != 0 && (window->style & WS_VISIBLE) == 0)
         ShowWindow(dialog, SW_SHOWNORMAL);
     return Peek(dialog) != nullptr ? dialog : nullptr;
 }

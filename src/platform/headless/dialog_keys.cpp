@@ -8,7 +8,9 @@ namespace headless {
 namespace {
 
 void ShowCues(HWND dialog, UINT cues) {
-    Send(dialog, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, cues), 0);
+    const Window* window = Peek(dialog);
+    if (window != nullptr && (window->uiState & cues) != 0)
+        Send(dialog, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, cues), 0);
 }
 
 void Command(HWND dialog, int id) {
@@ -199,14 +201,7 @@ BOOL IsDialogMessageA(HWND dialog, MSG* msg) {
         default:
             break;
     }
-    const HWND before = GetFocus();
     TranslateMessage(msg);
     DispatchMessageA(msg);
-    // A click may have moved the focus to a button or away from one.
-    const HWND after = GetFocus();
-    const DialogState* state = StateOf(dialog);
-    if (after != before && after != nullptr && state != nullptr && !state->ended &&
-        IsChild(dialog, after))
-        ShowDefaultFor(dialog, after);
     return TRUE;
 }

@@ -53,15 +53,18 @@ using namespace headless;
 HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
     const Window* window = Lookup(dialog);
     if (window == nullptr) return nullptr;
+    if (control == dialog) control = nullptr;
+    // Backwards from nowhere there is nothing.
+    if (control == nullptr && previous) return nullptr;
     const Window* from = nullptr;
-    if (control != nullptr && control != dialog) {
+    if (control != nullptr) {
         from = Lookup(control);
         if (from == nullptr || !Within(window, from)) return nullptr;
     }
     std::vector<Place> order;
     Flatten(*window, true, order);
     const auto count = static_cast<std::ptrdiff_t>(order.size());
-    if (count == 0) return control == dialog ? nullptr : control;
+    if (count == 0) return control;
     std::ptrdiff_t at = from == nullptr ? -1 : IndexOf(order, from);
     if (at < 0) at = previous ? 0 : count - 1;
     const std::ptrdiff_t step = previous ? count - 1 : 1;
@@ -70,7 +73,7 @@ HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
         if (order[static_cast<std::size_t>(at)].stop)
             return order[static_cast<std::size_t>(at)].window->handle;
     }
-    return from == nullptr ? nullptr : control;
+    return control;
 }
 
 HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous) {

@@ -178,16 +178,17 @@ HWND ShownDefaultButton(HWND dialog) {
 
 void ShowDefaultFor(HWND dialog, HWND control) {
     const DialogState* state = StateOf(dialog);
+    const int defaultId = state == nullptr ? 0 : state->defaultId;
     HWND target = control;
     UINT code = DialogCode(target);
     if (!IsPushButton(code)) {
         // The dialog's own default button again, where it has one.
-        target = state == nullptr || state->defaultId == 0 ? nullptr
-                                                           : GetDlgItem(dialog, state->defaultId);
+        target = defaultId == 0 ? nullptr : GetDlgItem(dialog, defaultId);
         if (target == nullptr) return;
         code = DialogCode(target);
         if (!IsPushButton(code)) return;
     }
+    if ((code & DLGC_DEFPUSHBUTTON) != 0) return;
     const HWND shown = ShownDefaultButton(dialog);
     if (shown != nullptr && shown != target) Send(shown, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
     if ((code & DLGC_UNDEFPUSHBUTTON) != 0) Send(target, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);

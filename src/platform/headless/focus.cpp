@@ -57,6 +57,7 @@ void SetActive(HWND hwnd, bool byMouse, bool focusToo) {
             Send(old, WM_ACTIVATE,
                  MAKEWPARAM(WA_INACTIVE, (leaving->style & WS_MINIMIZE) != 0 ? 1 : 0),
                  reinterpret_cast<LPARAM>(hwnd));
+        if (leaving->alive && hwnd == nullptr) Send(old, WM_ACTIVATEAPP, FALSE, 0);
         if (world.active != old) return;
     }
     Window* window = Peek(hwnd);
@@ -69,9 +70,7 @@ void SetActive(HWND hwnd, bool byMouse, bool focusToo) {
     }
     if (window != nullptr) {
         RememberPopup(*window);
-        if (window->parent != nullptr && window->parent->children.front() != window)
-            SetWindowPos(hwnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        if (!window->alive) return;
+        if (window->parent != nullptr) RaiseWithOwned(*window);
         Send(hwnd, WM_NCACTIVATE, TRUE, reinterpret_cast<LPARAM>(old));
         if (window->alive)
             Send(hwnd, WM_ACTIVATE,

@@ -36,6 +36,11 @@ void Fill(HDC dc, int left, int top, int right, int bottom, int color) {
 }  // namespace
 
 void SubtractFrame(const Window& window, RECT& rect) {
+    if ((window.style & WS_MINIMIZE) != 0) {
+        rect.right = rect.left;
+        rect.bottom = rect.top;
+        return;
+    }
     const RECT edge = FrameThickness(window.style, window.exStyle);
     rect.left += edge.left;
     rect.top += edge.top;

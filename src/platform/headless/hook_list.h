@@ -17,6 +17,7 @@ struct Hook {
 struct HookList {
     std::list<Hook> hooks;  // the newest first
     int running = 0;
+    HHOOK current = nullptr;  // the innermost one that runs
     std::size_t Live() const;
 };
 

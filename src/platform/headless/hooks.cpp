@@ -14,8 +14,11 @@ LRESULT CallFrom(std::list<Hook>::iterator from, int kind, int code, WPARAM wPar
     HookList& list = *ThisWorld().hooks;
     for (auto hook = from; hook != list.hooks.end(); ++hook) {
         if (hook->kind != kind || hook->removed) continue;
+        const HHOOK outer = list.current;
+        list.current = hook->handle;
         ++list.running;
         const LRESULT result = hook->proc(code, wParam, lParam);
+        list.current = outer;
         if (--list.running == 0) list.hooks.remove_if([](const Hook& h) { return h.removed; });
         return result;
     }
@@ -100,10 +103,11 @@ BOOL UnhookWindowsHookEx(HHOOK handle) {
     return FALSE;
 }
 
-LRESULT CallNextHookEx(HHOOK handle, int code, WPARAM wParam, LPARAM lParam) {
+// The hook that runs now decides which one is next, whatever handle is given.
+LRESULT CallNextHookEx(HHOOK, int code, WPARAM wParam, LPARAM lParam) {
     HookList& list = *ThisWorld().hooks;
     for (auto hook = list.hooks.begin(); hook != list.hooks.end(); ++hook) {
-        if (hook->handle == handle)
+        if (hook->handle == list.current)
             return CallFrom(std::next(hook), hook->kind, code, wParam, lParam);
     }
     return 0;

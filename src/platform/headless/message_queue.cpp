@@ -14,6 +14,7 @@
 #include "platform/headless/hook_list.h"
 #include "platform/headless/input_state.h"
 #include "platform/headless/timer_list.h"
+#include "platform/headless/window_class.h"
 
 namespace headless {
 
@@ -372,7 +373,9 @@ UINT RegisterWindowMessageA(LPCSTR name) {
         return 0;
     }
     std::lock_guard lock(Registry().mutex);
-    const auto [entry, added] = Registry().messageNames.try_emplace(name, Registry().nextMessage);
+    // Names are the same with capitals and without.
+    const auto [entry, added] =
+        Registry().messageNames.try_emplace(Lowered(name), Registry().nextMessage);
     if (added) ++Registry().nextMessage;
     return entry->second;
 }

@@ -75,7 +75,7 @@ void InvalidateAfterResize(Window& window, const RECT& oldClient, UINT flags) {
     }
 }
 
-// The windows that `window` owns go with it in depth and lie above it.
+// What a window owns goes with it in depth and lies above it.
 void RaiseOwned(Window& window) {
     std::vector<Window*> owned;
     for (Window* w : window.parent->children) {
@@ -120,14 +120,13 @@ BOOL ApplyPosition(WINDOWPOS& pos) {
         // A sibling only: otherwise nothing is moved at all.
         if (after->parent != window->parent) return TRUE;
     }
-    DropIdle(*window, pos);
     if ((pos.flags & SWP_NOSENDCHANGING) == 0) {
         Send(hwnd, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&pos));
         if (!window->alive) return FALSE;
         pos.cx = std::clamp(pos.cx, 0, 32767);
         pos.cy = std::clamp(pos.cy, 0, 32767);
-        DropIdle(*window, pos);
     }
+    DropIdle(*window, pos);
 
     RECT frame = window->frame;
     if ((pos.flags & SWP_NOMOVE) == 0)
@@ -194,8 +193,8 @@ BOOL ApplyPosition(WINDOWPOS& pos) {
 }
 
 void FocusOutOfHidden(Window& window) {
-    const Window* focus = Peek(ThisWorld().focus);
-    if (focus == nullptr || !Within(&window, focus)) return;
+    // A focus deeper inside stays where it is.
+    if (ThisWorld().focus != window.handle) return;
     Window* parent = window.parent;
     SetFocus(parent == nullptr || parent->IsDesktop() ? nullptr : parent->handle);
 }
@@ -236,6 +235,9 @@ BOOL ShowInState(Window& window, int command) {
     const bool zoomed = (window.style & WS_MAXIMIZE) != 0;
     const bool same = minimizing ? iconic : command == SW_SHOWMAXIMIZED && zoomed && !iconic;
     if (same && wasVisible) return TRUE;
+    const Window* focus = Peek(ThisWorld().focus);
+    if (minimizing && focus != nullptr && Within(&window, focus)) SetFocus(nullptr);
+    if (!window.alive) return FALSE;
     const RECT frame = FrameForState(window, command);
     if (!wasVisible) {
         Send(hwnd, WM_SHOWWINDOW, TRUE, 0);
@@ -276,6 +278,11 @@ RECT AskClientRect(Window& window, const RECT& frame, bool validRects) {
     client.right = std::max(client.right, client.left);
     client.bottom = std::max(client.bottom, client.top);
     return client;
+}
+
+void RaiseWithOwned(Window& window) {
+    LinkOnTop(window);
+    RaiseOwned(window);
 }
 
 void ReorderWindow(Window& window, HWND insertAfter) {
@@ -408,6 +415,8 @@ BOOL ShowWindow(HWND hwnd, int command) {
     } else {
         SetWindowPos(hwnd, HWND_TOP, 0, 0, 0, 0, flags);
     }
+    if (!window->alive) return wasVisible;
+    if (show) SendFirstSize(*window);
     if (!window->alive) return wasVisible;
     if (!show) {
         if (ThisWorld().active == hwnd) ActivateAnother(*window);

@@ -87,7 +87,9 @@ HWND SetParent(HWND hwnd, HWND parent) {
         window->parent = target;
         LinkOnTop(*window);
     }
-    if (visible) ShowWindow(hwnd, SW_SHOW);
+    UINT flags = SWP_NOSIZE;
+    if (visible) flags |= SWP_SHOWWINDOW;
+    SetWindowPos(hwnd, HWND_TOP, window->frame.left, window->frame.top, 0, 0, flags);
     return old;
 }
 

@@ -187,6 +187,10 @@ LRESULT Send(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CallProcedure(Window& window, UINT message, WPARAM wParam, LPARAM lParam);
 
 // --- Windows: steps that several files need ---
+// WM_SIZE and WM_MOVE of a new window, once.
+void SendFirstSize(Window& window);
+// Puts a top-level window and what it owns on top, without a message.
+void RaiseWithOwned(Window& window);
 void SetActive(HWND hwnd, bool byMouse, bool focusToo);
 void ActivateAnother(Window& leaving);
 void LinkOnTop(Window& window);
