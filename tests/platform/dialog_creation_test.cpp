@@ -473,6 +473,34 @@ TEST(DialogProcedure, DefaultButtonIsToldByGetDefId) {
     DestroyWindow(handle);
 }
 
+// A class that a program registers for a control of its own.
+LRESULT CALLBACK DialProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_GETDLGCODE) return DLGC_WANTARROWS;
+    if (message == WM_APP) return 4711;
+    return DefWindowProcA(hwnd, message, wParam, lParam);
+}
+
+TEST(DialogCreation, MakesControlsOfRegisteredClasses) {
+    WNDCLASSA wc = {};
+    wc.lpfnWndProc = DialProcedure;
+    wc.hInstance = GetModuleHandleA(nullptr);
+    wc.lpszClassName = "ZxDial";
+    ASSERT_NE(0, RegisterClassA(&wc));
+    DialogTemplate shape("Own class", 80, 40);
+    shape.Control("ZXDIAL", "text", kFirst, WS_TABSTOP, 5, 5, 20, 20)
+        .Edit(kSecond, 5, 25)
+        .DefaultButton("OK", IDOK, 40, 25);
+    TestDialog dialog;
+    DialogScript script;
+    script.Do([](HWND dlg) { EXPECT_EQ(4711, SendDlgItemMessageA(dlg, kFirst, WM_APP, 0, 0)); })
+        .ExpectText(kFirst, "text")
+        .Press(VK_TAB)
+        .ExpectFocus(kSecond)
+        .Click(IDOK);
+    EXPECT_EQ(IDOK, script.Run([&] { return dialog.Run(shape); }));
+    EXPECT_TRUE(UnregisterClassA("ZxDial", GetModuleHandleA(nullptr)));
+}
+
 TEST(DialogCreation, AnUnknownControlClassFailsTheDialog) {
     TestDialog dialog;
     DialogTemplate shape("Bad", 80, 40);

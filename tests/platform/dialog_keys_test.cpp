@@ -296,6 +296,35 @@ TEST(EscapeKey, DoesNothingWhileCancelIsDisabled) {
     if (IsWindow(handle)) DestroyWindow(handle);
 }
 
+TEST(EscapeKey, ClosesAnOpenListBeforeTheDialog) {
+    DialogTemplate shape("Escape", 200, 100);
+    shape.DropDownList(kA, 5, 5).DefaultButton("OK", IDOK, 5, 80);
+    TestDialog dialog([](HWND dlg, UINT message, WPARAM wParam, LPARAM) -> INT_PTR {
+        if (message == WM_INITDIALOG) {
+            for (const char* item : {"one", "two"})
+                SendDlgItemMessageA(dlg, kA, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+            return TRUE;
+        }
+        return TestDialog::EndOnCommand(dlg, message, wParam);
+    });
+    const auto isOpen = [](HWND dlg) {
+        return SendDlgItemMessageA(dlg, kA, CB_GETDROPPEDSTATE, 0, 0) != 0;
+    };
+    DialogScript script;
+    script.ExpectFocus(kA)
+        .Press(VK_F4)
+        .Do([=](HWND dlg) { EXPECT_TRUE(isOpen(dlg)); })
+        .Press(VK_DOWN)
+        .Press(VK_ESCAPE)
+        .Do([=](HWND dlg) { EXPECT_FALSE(isOpen(dlg)); })
+        .Press(VK_F4)
+        .Press(VK_DOWN)
+        .Press(VK_RETURN)
+        .Do([=](HWND dlg) { EXPECT_FALSE(isOpen(dlg)); })
+        .Press(VK_ESCAPE);
+    EXPECT_EQ(IDCANCEL, script.Run([&] { return dialog.Run(shape); }));
+}
+
 TEST(Mnemonic, OfALabelFocusesTheNextTabStop) {
     DialogTemplate shape("Mnemonic", 200, 100);
     shape.Edit(kA, 5, 5)

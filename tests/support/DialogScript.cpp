@@ -439,20 +439,28 @@ void CALLBACK DialogScript::OnTimer(HWND, UINT, UINT_PTR id, DWORD) {
     if (innermost && innermost->timer_ == id) innermost->Tick();
 }
 
+// Steps that post nothing, as expectations, need not wait a tick each.
 void DialogScript::Tick() {
+    MSG waiting;
+    while (TickOnce() && !failed_ && !PeekMessageA(&waiting, nullptr, 0, 0, PM_NOREMOVE)) {
+    }
+}
+
+// Runs the next step if its dialog is there; true if another step may follow at once.
+bool DialogScript::TickOnce() {
     HoldKeys(kPlain);
     if (failed_) {
         EndAllDialogs();
-        return;
+        return false;
     }
     if (GetTickCount() - startTime_ > timeLimit_) {
         Fail("the script takes longer than its " + std::to_string(timeLimit_) + " ms");
-        return;
+        return false;
     }
     const HWND active = ActiveDialog();
     if (answered_ && active == answered_) {
         if (StepIsLate()) Fail("the answered message stays open");
-        return;
+        return false;
     }
     answered_ = nullptr;
     while (!dialogs_.empty() && !(IsWindow(dialogs_.back()) && IsWindowVisible(dialogs_.back())))
@@ -460,16 +468,14 @@ void DialogScript::Tick() {
     const bool isNew =
         active && std::find(dialogs_.begin(), dialogs_.end(), active) == dialogs_.end();
     if (!steps_.empty() && steps_.front().wantsNewDialog) {
-        if (isNew)
-            RunStep(active);
-        else if (StepIsLate())
-            Fail("no dialog appears for " + steps_.front().name);
-        return;
+        if (isNew) return RunStep(active);
+        if (StepIsLate()) Fail("no dialog appears for " + steps_.front().name);
+        return false;
     }
     if (dialogs_.empty()) {
         if (!active) {
             if (StepIsLate() && !steps_.empty()) Fail("no dialog takes input");
-            return;
+            return false;
         }
         dialogs_.push_back(active);
     } else if (!IsWindowEnabled(dialogs_.back())) {
@@ -478,25 +484,25 @@ void DialogScript::Tick() {
                  Quote(ReadMessage(active).text));
         else if (StepIsLate())
             Fail("the dialog stays disabled");
-        return;
+        return false;
     }
-    if (!steps_.empty())
-        RunStep(dialogs_.back());
-    else if (++idleTicks_ > kIdleTicksAtEnd)
-        Fail("the script is over and the dialog is still open");
+    if (!steps_.empty()) return RunStep(dialogs_.back());
+    if (++idleTicks_ > kIdleTicksAtEnd) Fail("the script is over and the dialog is still open");
+    return false;
 }
 
 // The step leaves the list before it runs: what it opens may run a loop in which the next ones run.
-void DialogScript::RunStep(HWND dialog) {
+bool DialogScript::RunStep(HWND dialog) {
     Step step = std::move(steps_.front());
     steps_.pop_front();
     running_ = {step.name, step.where, nullptr, false};
     if (step.action(*this, dialog) == State::kWait) {
         steps_.push_front(std::move(step));
-        return;
+        return false;
     }
     stepTime_ = GetTickCount();
     if (testing::Test::HasFatalFailure() && !failed_) Fail("the step failed");
+    return !steps_.empty();
 }
 
 void DialogScript::Fail(const std::string& why) {

@@ -164,7 +164,8 @@ class DialogScript {
     void Begin(Where where);
     void End();
     void Tick();
-    void RunStep(HWND dialog);
+    bool TickOnce();
+    bool RunStep(HWND dialog);
     bool StepIsLate() const;
     void Fail(const std::string& why);
     void EndAllDialogs();
