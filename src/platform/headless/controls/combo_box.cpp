@@ -58,6 +58,24 @@ UINT ListMessageOf(UINT message) {
     }
 }
 
+// A message that this combo box does not know.
+const char* UnsupportedName(UINT message) {
+    switch (message) {
+        case CB_DIR:
+            return "CB_DIR";
+        case CB_SETLOCALE:
+            return "CB_SETLOCALE";
+        case CB_GETLOCALE:
+            return "CB_GETLOCALE";
+        case CB_SETMINVISIBLE:
+            return "CB_SETMINVISIBLE";
+        case CB_GETMINVISIBLE:
+            return "CB_GETMINVISIBLE";
+        default:
+            return "a ComboBox message";
+    }
+}
+
 }  // namespace
 
 void RegisterComboBoxClass() {
@@ -297,7 +315,7 @@ LRESULT ComboBox::HandleListMessage(UINT message, WPARAM wParam, LPARAM lParam) 
     }
     const UINT listMessage = ListMessageOf(message);
     if (listMessage == 0) {
-        ReportUnsupported("ComboBox message " + std::to_string(message));
+        ReportUnsupported(UnsupportedName(message));
         return CB_ERR;
     }
     const LRESULT result = ToList(listMessage, wParam, lParam);

@@ -17,6 +17,34 @@ size_t PlaceOf(WPARAM value) {
     return static_cast<DWORD>(value);
 }
 
+// A message that this edit does not know.
+const char* UnsupportedName(UINT message) {
+    switch (message) {
+        case EM_SETHANDLE:
+            return "EM_SETHANDLE";
+        case EM_GETHANDLE:
+            return "EM_GETHANDLE";
+        case EM_GETTHUMB:
+            return "EM_GETTHUMB";
+        case EM_SETRECT:
+            return "EM_SETRECT";
+        case EM_SETRECTNP:
+            return "EM_SETRECTNP";
+        case EM_SETWORDBREAKPROC:
+            return "EM_SETWORDBREAKPROC";
+        case EM_GETWORDBREAKPROC:
+            return "EM_GETWORDBREAKPROC";
+        case EM_SETCUEBANNER:
+            return "EM_SETCUEBANNER";
+        case EM_SHOWBALLOONTIP:
+            return "EM_SHOWBALLOONTIP";
+        case EM_HIDEBALLOONTIP:
+            return "EM_HIDEBALLOONTIP";
+        default:
+            return "an Edit message";
+    }
+}
+
 }  // namespace
 
 void RegisterEditClass() {
@@ -261,7 +289,7 @@ LRESULT Edit::HandleLineMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         default:
             break;
     }
-    ReportUnsupported("Edit message " + std::to_string(message));
+    ReportUnsupported(UnsupportedName(message));
     return 0;
 }
 

@@ -126,13 +126,15 @@ void Edit::ForgetUndo() {
 
 LRESULT Edit::Undo() {
     if (IsReadOnly()) return IsMultiLine() ? FALSE : TRUE;
+    if (m_undoLength == 0 && m_undoText.empty()) return TRUE;
     const std::string text = m_undoText;
     const size_t position = m_undoPosition;
     const size_t length = m_undoLength;
     ForgetUndo();
     Select(position, position + length);
     Replace(text, true, true, true);
-    Select(position, position + text.size());
+    // The limit may have kept a part of the text out.
+    Select(position, position + m_undoLength);
     ScrollToCaret();
     return TRUE;
 }

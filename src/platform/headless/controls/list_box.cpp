@@ -10,17 +10,23 @@ namespace {
 
 constexpr int kWheelLines = 3;
 
-bool IsUnsupported(UINT message) {
+// A message that this list does not know, or null.
+const char* UnsupportedName(UINT message) {
     switch (message) {
         case LB_DIR:
+            return "LB_DIR";
         case LB_ADDFILE:
+            return "LB_ADDFILE";
         case LB_SETTABSTOPS:
+            return "LB_SETTABSTOPS";
         case LB_SETCOLUMNWIDTH:
+            return "LB_SETCOLUMNWIDTH";
         case LB_SETLOCALE:
+            return "LB_SETLOCALE";
         case LB_GETLOCALE:
-            return true;
+            return "LB_GETLOCALE";
         default:
-            return false;
+            return nullptr;
     }
 }
 
@@ -137,8 +143,8 @@ LRESULT ListBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
     }
     if (message >= LB_ADDSTRING && message <= LB_ITEMFROMPOINT) {
-        if (IsUnsupported(message)) {
-            ReportUnsupported("ListBox message " + std::to_string(message));
+        if (const char* name = UnsupportedName(message)) {
+            ReportUnsupported(name);
             return LB_ERR;
         }
         return HandleItemMessage(message, wParam, lParam);

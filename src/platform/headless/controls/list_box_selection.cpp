@@ -136,8 +136,8 @@ LRESULT ListBox::OnKeyDown(int key) {
     }
     if (caret < 0) {
         const int page = std::max(PageSize() - 1, 1);
-        // With nothing selected, a key selects where the caret stands.
-        const bool starts = !IsMultiple() && m_current == -1;
+        // While the caret is elsewhere than the selection, a key only brings the selection to it.
+        const bool starts = !IsMultiple() && m_current != m_caret;
         switch (key) {
             case VK_LEFT:
             case VK_UP:
