@@ -19,7 +19,11 @@ constexpr UINT kAutoApplyPeriod = 500;  // ms
 ADM_Dialog::ADM_Dialog() = default;
 
 ADM_Dialog::~ADM_Dialog() {
-    // The children of a subclass are gone by now; the buttons below go after this.
+    // The children that are members of a subclass have left by now.
+    for (ADM_Wnd* pChild : m_vControls) {
+        pChild->m_pOwner = nullptr;
+        if (pChild->GetNotifyTarget() == this) pChild->SetNotifyTarget(nullptr);
+    }
     m_vControls.clear();
     if (m_hWnd == nullptr) return;
     // The dialog dies with its window open: the window must not reach it again.
@@ -169,7 +173,7 @@ bool ADM_Dialog::IsChild(const ADM_Wnd* pControl) const {
 }
 
 BOOL ADM_Dialog::RegisterControl(int nId, ADM_Wnd* pControl) {
-    if (pControl == nullptr || IsChild(pControl)) return 0;
+    if (pControl == nullptr || pControl->m_pOwner != nullptr) return 0;
     if (nId != kNoItem) {
         for (const ADM_Wnd* pChild : m_vControls) {
             if (pChild->GetControlId() == nId) return 0;
@@ -183,6 +187,7 @@ BOOL ADM_Dialog::RegisterControl(int nId, ADM_Wnd* pControl) {
         pControl->SetControlId(nId);
     }
     if (pControl->GetNotifyTarget() == nullptr) pControl->SetNotifyTarget(this);
+    pControl->m_pOwner = this;
     m_vControls.push_back(pControl);
     return 1;
 }
@@ -195,6 +200,7 @@ BOOL ADM_Dialog::UnregisterControl(ADM_Wnd* pControl) {
 }
 
 void ADM_Dialog::ForgetControl(ADM_Wnd* pControl) {
+    pControl->m_pOwner = nullptr;
     m_vControls.erase(std::remove(m_vControls.begin(), m_vControls.end(), pControl),
                       m_vControls.end());
     if (m_pAutoApplyCtl == pControl) m_pAutoApplyCtl = nullptr;

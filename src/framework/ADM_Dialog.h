@@ -92,7 +92,7 @@ class ADM_Dialog : public ADM_Wnd {
     BOOL CreateModeless(HINSTANCE hInstance, LPCSTR szTemplate, HWND hParent);
 
     // Makes pControl a child under a template id (kNoItem: none), the one way in. Returns 0 when it
-    // is a child already, or another child has that id.
+    // is a child already, here or of another dialog, or another child has that id.
     BOOL RegisterControl(int nId, ADM_Wnd* pControl);
     // Detaches a child, which stays registered. Returns whether it was one.
     BOOL UnregisterControl(ADM_Wnd* pControl);

@@ -10,11 +10,6 @@ ADM_RadioButtons::ADM_RadioButtons() {
     m_nControlId = kNoItem;
 }
 
-ADM_RadioButtons::~ADM_RadioButtons() {
-    // The windows are the dialog's children, so the base can't tell which dialog to leave.
-    if (m_hDialogWnd != nullptr) m_pDialog->ForgetControl(this);
-}
-
 BOOL ADM_RadioButtons::Setup(ADM_Dialog* pDialog, int nFirstId, int nLastId) {
     return Setup(pDialog, nFirstId, nLastId, 0, nullptr);
 }

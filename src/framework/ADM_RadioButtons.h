@@ -17,7 +17,6 @@ class ADM_Dialog;
 class ADM_RadioButtons : public ADM_Wnd {
   public:
     ADM_RadioButtons();
-    ~ADM_RadioButtons() override;
 
     void OnAttach() override;
     void ReadControl() override;

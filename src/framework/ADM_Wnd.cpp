@@ -6,10 +6,7 @@
 #include "support/MessageDialog.h"
 
 ADM_Wnd::~ADM_Wnd() {
-    if (m_hWnd == nullptr) return;
-    // A dialog that is still open must not meet this object again.
-    if (ADM_Dialog* pDialog = ADM_Dialog::FromWindow(::GetParent(m_hWnd)))
-        pDialog->ForgetControl(this);
+    if (m_pOwner != nullptr) m_pOwner->ForgetControl(this);
 }
 
 void ADM_Wnd::Attach(HWND hWnd) {

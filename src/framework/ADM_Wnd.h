@@ -16,6 +16,8 @@
 #include "framework/Notifications.h"
 #include "platform/platform.h"
 
+class ADM_Dialog;
+
 class ADM_Wnd {
   public:
     // No template item belongs to an object with this id.
@@ -117,6 +119,8 @@ class ADM_Wnd {
     UINT ShowValidationMessage(LPCSTR szText) const;
 
   protected:
+    friend class ADM_Dialog;
+
     HWND m_hWnd = nullptr;
     HWND m_hDialogWnd = nullptr;
     ADM_Wnd* m_pNotifyTarget = nullptr;
@@ -125,4 +129,7 @@ class ADM_Wnd {
     BOOL m_bForceModified = 0;
     BOOL m_bTrackChanges = 1;
     int m_nUserValue = 0;
+    // The dialog that has this object among its children; each forgets the other when it is
+    // destroyed.
+    ADM_Dialog* m_pOwner = nullptr;
 };

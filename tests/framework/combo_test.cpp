@@ -159,8 +159,8 @@ TEST_F(ComboBox, ListOperationsMeanWhatThePlatformMeans) {
     EXPECT_EQ(combo.GetExtendedUI(), 0);
     combo.SetExtendedUI(TRUE);
     EXPECT_EQ(combo.GetExtendedUI(), 1);
-    EXPECT_NE(combo.SetItemHeight(-1, 19), CB_ERR);
-    EXPECT_EQ(combo.GetItemHeight(-1), 19);
+    EXPECT_NE(combo.SetItemHeight(-1, 30), CB_ERR);
+    EXPECT_GE(combo.GetItemHeight(-1), 30);
     EXPECT_EQ(combo.GetDroppedState(), 0);
     combo.ResetContent();
     EXPECT_EQ(combo.GetCount(), 0);

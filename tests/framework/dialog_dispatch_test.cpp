@@ -23,7 +23,7 @@ class DialogDispatch : public testing::Test {
   protected:
     DialogDispatch() : a(log, "a"), bar(log, "bar"), dialog(log) {
         dialog.RegisterControl(IDC_FIRST, &a);
-        dialog.RegisterControl(IDC_SCROLLBAR, &bar);
+        dialog.RegisterControl(IDC_BAR, &bar);
         dialog.CreateModeless(Module(), Template(IDD_PLAIN), nullptr);
         PumpMessages();
         log.Take();
@@ -99,7 +99,7 @@ TEST_F(DialogDispatch, ScrollBarCodesBecomeGaugeNotifications) {
         {SB_ENDSCROLL, 0, "bar.notify(708,0)"},
         {9, 0, ""},
     };
-    const LPARAM hBar = reinterpret_cast<LPARAM>(Item(IDC_SCROLLBAR));
+    const LPARAM hBar = reinterpret_cast<LPARAM>(Item(IDC_BAR));
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.uCode);
         for (const UINT uMsg : {static_cast<UINT>(WM_HSCROLL), static_cast<UINT>(WM_VSCROLL)}) {
@@ -109,7 +109,7 @@ TEST_F(DialogDispatch, ScrollBarCodesBecomeGaugeNotifications) {
     }
     Send(WM_HSCROLL, SB_LINEUP, 0);
     EXPECT_EQ(log.Take(), "") << "the bar of no child";
-    EXPECT_EQ(told.back(), (Told{&bar, IDC_SCROLLBAR, ADMN_GAUGEENDSCROLL, 0}));
+    EXPECT_EQ(told.back(), (Told{&bar, IDC_BAR, ADMN_GAUGEENDSCROLL, 0}));
 }
 
 TEST_F(DialogDispatch, ChildDecidesTheColoursOfItsWindow) {

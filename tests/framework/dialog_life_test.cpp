@@ -280,6 +280,35 @@ TEST(DialogLife, ControlDestroyedWhileBoundIsForgotten) {
     EXPECT_EQ(dialog.m_vControls.size(), 2u) << "its two buttons";
 }
 
+TEST(DialogLife, ControlDestroyedWithoutAWindowIsForgotten) {
+    EventLog log;
+    LoggedDialog dialog(log);
+    auto missing = std::make_unique<ADM_DoubleText>();
+    auto early = std::make_unique<ADM_DoubleText>();
+    dialog.RegisterControl(IDC_FIRST, early.get());
+    dialog.RegisterControl(4711, missing.get());
+    early.reset();
+    EXPECT_EQ(dialog.m_vControls.size(), 1u) << "before the dialog opens";
+    OpenDialog open(dialog, IDD_PLAIN);
+    missing.reset();
+    EXPECT_EQ(dialog.m_vControls.size(), 2u) << "its two buttons";
+    PumpMessages();
+}
+
+TEST(DialogLife, ControlMayOutliveItsDialog) {
+    EventLog log;
+    ADM_DoubleText rate;
+    {
+        LoggedDialog dialog(log), other(log);
+        EXPECT_EQ(dialog.RegisterControl(IDC_FIRST, &rate), 1);
+        EXPECT_EQ(other.RegisterControl(IDC_FIRST, &rate), 0) << "another dialog has it";
+    }
+    EXPECT_EQ(rate.GetNotifyTarget(), nullptr);
+    rate.SetValue(4.0);
+    LoggedDialog next(log);
+    EXPECT_EQ(next.RegisterControl(IDC_FIRST, &rate), 1);
+}
+
 TEST(DialogLife, WindowDestroyedWhileBoundLeavesTheValue) {
     EventLog log;
     LoggedDialog dialog(log);

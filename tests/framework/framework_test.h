@@ -30,7 +30,7 @@
 #define IDC_LABEL 130
 #define IDC_PICTURE 131
 #define IDC_METAFILE 132
-#define IDC_SCROLLBAR 133
+#define IDC_BAR 133  // stands for a scroll bar
 #define IDC_HELPBUTTON 140
 
 #define IDC_TABS 201
