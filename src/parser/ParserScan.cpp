@@ -44,8 +44,8 @@ bool EqualsIgnoringCase(const char* pszText, std::string_view upper) {
 }  // namespace
 
 void CZDCParser::SetText(char* pszText, std::size_t nSize) {
-    const std::size_t nLength =
-        strnlen(pszText, nSize < PARSER_TEXT_LIMIT ? nSize : PARSER_TEXT_LIMIT);
+    const std::size_t nLimit = nSize < PARSER_TEXT_LIMIT ? nSize : PARSER_TEXT_LIMIT;
+    const std::size_t nLength = nLimit == 0 ? 0 : strnlen(pszText, nLimit);
     if (nLength == 0) {
         RaiseError(PARSER_EMPTY_TEXT);
         return;

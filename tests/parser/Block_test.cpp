@@ -1,15 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
-#include <new>
 
+#include "AllocationCount.h"
 #include "ParserInspector.h"
 #include "parser/Parser.h"
 
 namespace {
-
-int g_nAllocations = 0;
 
 std::vector<double> Ramp(int n) {
     std::vector<double> x(static_cast<std::size_t>(n));
@@ -27,18 +24,6 @@ ParserBlock BlockOf(const std::vector<double>& x, const double* const& pFirst) {
 
 }  // namespace
 
-void* operator new(std::size_t nSize) {
-    ++g_nAllocations;
-    if (void* p = std::malloc(nSize ? nSize : 1)) return p;
-    throw std::bad_alloc();
-}
-void operator delete(void* p) noexcept {
-    std::free(p);
-}
-void operator delete(void* p, std::size_t) noexcept {
-    std::free(p);
-}
-
 TEST(Block, EvaluationAllocatesNothing) {
     const auto x = Ramp(1000);
     const double* pFirst = x.data();
@@ -48,7 +33,7 @@ TEST(Block, EvaluationAllocatesNothing) {
         SCOPED_TRACE(pszText);
         auto parser = MakeParser({pszText});
         ASSERT_EQ(parser->Compile(), 1);
-        const int nBefore = g_nAllocations;
+        const int nBefore = AllocationCount();
         double dResult = 0.0;
         parser->SetParameterValue(0, 2.0);
         parser->Evaluate("Y1", &dResult);
@@ -56,7 +41,7 @@ TEST(Block, EvaluationAllocatesNothing) {
         parser->Evaluate("Y1", &dResult);
         parser->EvaluateBlock("Y1", BlockOf(x, pFirst), y.data());
         parser->ResetHistory();
-        EXPECT_EQ(g_nAllocations, nBefore);
+        EXPECT_EQ(AllocationCount(), nBefore);
     }
 }
 
@@ -80,7 +65,7 @@ TEST(Block, StopsAtThePointThatEvaluateFailsAt) {
         }
         EXPECT_TRUE(std::isnan(y[nBad]));
         // The history has gone over the bad point and no further.
-        EXPECT_EQ(ParserInspector::Steps(*parser)[3].dState, dIntegral);
+        EXPECT_EQ(ParserInspector::Steps(*parser)[4].dState, dIntegral);
         EXPECT_EQ(parser->GetVariables()[0].dValue, x[999]);
     }
 }

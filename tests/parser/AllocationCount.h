@@ -1,0 +1,4 @@
+// How often memory has been allocated by operator new in this program.
+#pragma once
+
+int AllocationCount();
