@@ -1,0 +1,273 @@
+// What every dialog template promises its user: nothing overlaps or is cut, labels stand with their
+// fields, the keyboard follows the eye.
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <map>
+#include <set>
+
+#include "TemplateBytes.h"
+
+namespace {
+
+// One pixel of the templates' font is 4/6 units wide and 8/13 high.
+int UnitsWide(int pixels) {
+    return (pixels * 4 + 5) / 6;
+}
+
+class TemplateLint : public testing::Test {
+  protected:
+    TemplateLint() : templates(ReadTemplates()) {
+        LOGFONTA logFont = {};
+        logFont.lfHeight = -11;
+        logFont.lfWeight = FW_NORMAL;
+        logFont.lfCharSet = DEFAULT_CHARSET;
+        std::snprintf(logFont.lfFaceName, sizeof logFont.lfFaceName, "MS Shell Dlg");
+        font = CreateFontIndirectA(&logFont);
+    }
+    ~TemplateLint() override { DeleteObject(font); }
+
+    // Width of a caption in units, without its mnemonic mark.
+    int TextWidth(const std::string& caption) const {
+        HDC dc = GetDC(nullptr);
+        HGDIOBJ old = SelectObject(dc, font);
+        RECT rect = {0, 0, 0, 0};
+        DrawTextA(dc, caption.c_str(), static_cast<int>(caption.size()), &rect,
+                  DT_CALCRECT | DT_SINGLELINE);
+        SelectObject(dc, old);
+        ReleaseDC(nullptr, dc);
+        return UnitsWide(rect.right - rect.left);
+    }
+
+    static std::string Where(const TemplateBytes& dialog, const TemplateItem& item) {
+        return "template " + std::to_string(dialog.id) + ", " + item.kind + " " +
+               std::to_string(item.id) + " \"" + item.text + "\" at " + std::to_string(item.x) +
+               "," + std::to_string(item.y);
+    }
+
+    // With a noun and numbers in the places of a caption.
+    static std::string Filled(std::string text) {
+        const std::pair<const char*, const char*> places[] = {{"%ss", "channels"},
+                                                              {"%s", "channel"},
+                                                              {"%0", "10000"},
+                                                              {"%1", "10000"},
+                                                              {"%2s", "channels"}};
+        for (const auto& [place, value] : places) {
+            for (std::size_t at; (at = text.find(place)) != std::string::npos;) {
+                text.replace(at, std::string(place).size(), value);
+            }
+        }
+        return text;
+    }
+
+    static char Mnemonic(const std::string& text) {
+        for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+            if (text[i] != '&') continue;
+            if (text[i + 1] != '&')
+                return static_cast<char>(std::tolower(static_cast<unsigned char>(text[i + 1])));
+            ++i;
+        }
+        return 0;
+    }
+
+    std::vector<TemplateBytes> templates;
+    HFONT font;
+};
+
+TEST_F(TemplateLint, ThereAreTemplates) {
+    EXPECT_GE(templates.size(), 7u);
+}
+
+TEST_F(TemplateLint, FontIsTheShellDialogFont) {
+    for (const TemplateBytes& dialog : templates) {
+        SCOPED_TRACE(dialog.id);
+        EXPECT_EQ(dialog.points, 8);
+        EXPECT_EQ(dialog.face, "MS Shell Dlg");
+        EXPECT_EQ(dialog.style & (DS_SETFONT | DS_FIXEDSYS),
+                  static_cast<DWORD>(DS_SETFONT | DS_FIXEDSYS));
+    }
+}
+
+TEST_F(TemplateLint, PagesAreChildrenAndNothingElse) {
+    for (const TemplateBytes& dialog : templates) {
+        if ((dialog.style & WS_CHILD) == 0) continue;
+        SCOPED_TRACE(dialog.id);
+        EXPECT_EQ(dialog.style & (WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_THICKFRAME), 0u);
+    }
+}
+
+TEST_F(TemplateLint, DialogsFitASmallScreen) {
+    for (const TemplateBytes& dialog : templates) {
+        SCOPED_TRACE(dialog.id);
+        EXPECT_LE(dialog.cx * 6 / 4, 790);
+        EXPECT_LE(dialog.cy * 13 / 8, 560);
+    }
+}
+
+TEST_F(TemplateLint, IdsAreUnique) {
+    for (const TemplateBytes& dialog : templates) {
+        std::set<int> ids;
+        for (const TemplateItem& item : dialog.items) {
+            if (item.id == -1) continue;
+            EXPECT_TRUE(ids.insert(item.id).second) << Where(dialog, item);
+        }
+    }
+}
+
+TEST_F(TemplateLint, ItemsStayInsideTheirDialogWithItsMargins) {
+    for (const TemplateBytes& dialog : templates) {
+        for (const TemplateItem& item : dialog.items) {
+            EXPECT_GE(item.x, 7) << Where(dialog, item);
+            EXPECT_GE(item.y, 7) << Where(dialog, item);
+            EXPECT_LE(item.right(), dialog.cx - 7) << Where(dialog, item);
+            EXPECT_LE(item.bottom(), dialog.cy - 7) << Where(dialog, item);
+        }
+    }
+}
+
+TEST_F(TemplateLint, NothingOverlaps) {
+    for (const TemplateBytes& dialog : templates) {
+        for (std::size_t i = 0; i < dialog.items.size(); ++i) {
+            for (std::size_t j = i + 1; j < dialog.items.size(); ++j) {
+                const TemplateItem& a = dialog.items[i];
+                const TemplateItem& b = dialog.items[j];
+                const bool meet =
+                    a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
+                if (!meet) continue;
+                // A group box holds its items whole.
+                const TemplateItem* box = a.isGroupBox() ? &a : b.isGroupBox() ? &b : nullptr;
+                const TemplateItem* inner = box == &a ? &b : &a;
+                const bool inside = box != nullptr && !inner->isGroupBox() &&
+                                    inner->x >= box->x + 6 && inner->right() <= box->right() - 6 &&
+                                    inner->y >= box->y + 11 && inner->bottom() <= box->bottom() - 7;
+                EXPECT_TRUE(inside) << Where(dialog, a) << " meets " << Where(dialog, b);
+            }
+        }
+    }
+}
+
+TEST_F(TemplateLint, CaptionsFitTheirControls) {
+    for (const TemplateBytes& dialog : templates) {
+        for (const TemplateItem& item : dialog.items) {
+            if (item.kind != "BUTTON" && item.kind != "STATIC") continue;
+            if (item.text.empty() || item.text == "%0" || item.text == "%s") continue;
+            int needed = TextWidth(Filled(item.text));
+            if (item.isRadio() || item.buttonType() == BS_AUTOCHECKBOX) needed += 12;
+            if (item.buttonType() == BS_PUSHBUTTON || item.buttonType() == BS_DEFPUSHBUTTON)
+                needed += 6;
+            const int lines = item.kind == "STATIC" ? item.cy / 8 : 1;
+            EXPECT_LE(needed, item.cx * lines) << Where(dialog, item);
+        }
+    }
+}
+
+TEST_F(TemplateLint, SizesFollowTheHouseStyle) {
+    for (const TemplateBytes& dialog : templates) {
+        for (const TemplateItem& item : dialog.items) {
+            if (item.buttonType() == BS_PUSHBUTTON || item.buttonType() == BS_DEFPUSHBUTTON) {
+                EXPECT_EQ(item.cy, 14) << Where(dialog, item);
+                EXPECT_GE(item.cx, 50) << Where(dialog, item);
+            } else if (item.isRadio() || item.buttonType() == BS_AUTOCHECKBOX) {
+                EXPECT_EQ(item.cy, 10) << Where(dialog, item);
+            } else if (item.kind == "EDIT" && (item.style & ES_MULTILINE) == 0) {
+                EXPECT_EQ(item.cy, 14) << Where(dialog, item);
+            } else if (item.kind == "LISTBOX") {
+                EXPECT_GE(item.cy, 3 * 8 + 2) << Where(dialog, item);
+            }
+        }
+    }
+}
+
+TEST_F(TemplateLint, DialogsHaveOneDefaultButtonAndItIsOk) {
+    for (const TemplateBytes& dialog : templates) {
+        if ((dialog.style & WS_CHILD) != 0) continue;
+        int defaults = 0;
+        for (const TemplateItem& item : dialog.items) {
+            if (item.buttonType() != BS_DEFPUSHBUTTON) continue;
+            ++defaults;
+            EXPECT_EQ(item.id, IDOK) << Where(dialog, item);
+        }
+        EXPECT_EQ(defaults, 1) << "template " << dialog.id;
+    }
+}
+
+TEST_F(TemplateLint, RadioSetsAreOneTabStopEach) {
+    for (const TemplateBytes& dialog : templates) {
+        for (std::size_t i = 0; i < dialog.items.size(); ++i) {
+            const TemplateItem& item = dialog.items[i];
+            const bool afterRadio = i > 0 && dialog.items[i - 1].isRadio();
+            if (item.isRadio()) {
+                const bool first = (item.style & WS_GROUP) != 0;
+                EXPECT_EQ(item.isTabStop(), first) << Where(dialog, item);
+                EXPECT_TRUE(first || afterRadio) << Where(dialog, item);
+            } else if (afterRadio) {
+                EXPECT_NE(item.style & WS_GROUP, 0u) << "ends a radio set: " << Where(dialog, item);
+            }
+        }
+    }
+}
+
+TEST_F(TemplateLint, MnemonicsAreUniqueOnEachPage) {
+    // Captions are given; where two of one page share a letter, it stays so and is listed here.
+    const std::map<int, std::set<char>> known = {};
+    for (const TemplateBytes& dialog : templates) {
+        std::map<char, std::string> taken;
+        for (const TemplateItem& item : dialog.items) {
+            const char letter = Mnemonic(item.text);
+            if (letter == 0) continue;
+            const auto clash = known.find(dialog.id);
+            if (clash != known.end() && clash->second.count(letter) != 0) continue;
+            EXPECT_TRUE(taken.emplace(letter, item.text).second)
+                << Where(dialog, item) << " shares '" << letter << "' with \"" << taken[letter]
+                << '"';
+        }
+    }
+}
+
+TEST_F(TemplateLint, TabOrderFollowsTheEye) {
+    for (const TemplateBytes& dialog : templates) {
+        const TemplateItem* last = nullptr;
+        for (const TemplateItem& item : dialog.items) {
+            if (!item.isTabStop() && !item.isRadio()) continue;
+            if (last != nullptr) {
+                const bool backUp = item.bottom() <= last->y && item.x <= last->x;
+                const bool backLeft =
+                    item.y < last->bottom() && last->y < item.bottom() && item.x < last->x;
+                EXPECT_FALSE(backUp || backLeft)
+                    << Where(dialog, item) << " comes after " << Where(dialog, *last);
+            }
+            last = &item;
+        }
+    }
+}
+
+TEST_F(TemplateLint, LabelsStandDirectlyBeforeTheirFields) {
+    for (const TemplateBytes& dialog : templates) {
+        for (std::size_t i = 0; i < dialog.items.size(); ++i) {
+            const TemplateItem& label = dialog.items[i];
+            if (label.kind != "STATIC" || Mnemonic(label.text) == 0) continue;
+            ASSERT_LT(i + 1, dialog.items.size()) << Where(dialog, label);
+            const TemplateItem& field = dialog.items[i + 1];
+            EXPECT_TRUE(field.kind == "EDIT" || field.kind == "COMBOBOX" || field.kind == "LISTBOX")
+                << Where(dialog, label) << " stands before " << Where(dialog, field);
+            const bool above =
+                field.y >= label.bottom() && field.y - label.bottom() <= 5 && field.x == label.x;
+            const bool beside =
+                label.y == field.y + 3 && field.x >= label.right() && field.x - label.right() <= 8;
+            EXPECT_TRUE(above || beside)
+                << Where(dialog, label) << " is not at " << Where(dialog, field);
+        }
+    }
+}
+
+TEST_F(TemplateLint, PagesOfOneSizeForAllDataTabs) {
+    for (const TemplateBytes& dialog : templates) {
+        if ((dialog.style & WS_CHILD) == 0) continue;
+        SCOPED_TRACE(dialog.id);
+        EXPECT_EQ(dialog.cx, 341);
+        EXPECT_EQ(dialog.cy, 196);
+    }
+}
+
+}  // namespace
