@@ -21,24 +21,24 @@ Census TakeCensus() {
 
 std::string Growth(const Census& before, const Census& after) {
     std::string text;
-    const auto add = [&text](std::size_t was, std::size_t is, const char* name) {
+    const auto add = [&text](std::size_t was, std::size_t is, const char* one, const char* many) {
         if (is <= was) return;
         if (!text.empty()) text += ", ";
-        text += std::to_string(is - was) + " " + name + (is - was > 1 ? "s" : "");
+        text += std::to_string(is - was) + " " + (is - was > 1 ? many : one);
     };
-    add(before.windows, after.windows, "window");
-    add(before.timers, after.timers, "timer");
-    add(before.hooks, after.hooks, "hook");
-    add(before.properties, after.properties, "window prop");
-    add(before.gdi.fonts, after.gdi.fonts, "font");
-    add(before.gdi.brushes, after.gdi.brushes, "brush");
-    add(before.gdi.pens, after.gdi.pens, "pen");
-    add(before.gdi.bitmaps, after.gdi.bitmaps, "bitmap");
-    add(before.gdi.metafiles, after.gdi.metafiles, "metafile");
-    add(before.gdi.memoryDcs, after.gdi.memoryDcs, "memory DC");
-    add(before.gdi.windowDcs, after.gdi.windowDcs, "window DC");
-    add(before.gdi.themes, after.gdi.themes, "theme");
-    add(before.gdi.globals, after.gdi.globals, "memory block");
+    add(before.windows, after.windows, "window", "windows");
+    add(before.timers, after.timers, "timer", "timers");
+    add(before.hooks, after.hooks, "hook", "hooks");
+    add(before.properties, after.properties, "property", "properties");
+    add(before.gdi.fonts, after.gdi.fonts, "font", "fonts");
+    add(before.gdi.brushes, after.gdi.brushes, "brush", "brushes");
+    add(before.gdi.pens, after.gdi.pens, "pen", "pens");
+    add(before.gdi.bitmaps, after.gdi.bitmaps, "bitmap", "bitmaps");
+    add(before.gdi.metafiles, after.gdi.metafiles, "metafile", "metafiles");
+    add(before.gdi.memoryDcs, after.gdi.memoryDcs, "memory DC", "memory DCs");
+    add(before.gdi.windowDcs, after.gdi.windowDcs, "window DC", "window DCs");
+    add(before.gdi.themes, after.gdi.themes, "theme", "themes");
+    add(before.gdi.globals, after.gdi.globals, "memory block", "memory blocks");
     return text;
 }
 

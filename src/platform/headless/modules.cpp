@@ -224,6 +224,8 @@ void UnregisterModule(const void* begin) {
     std::lock_guard lock(Table().mutex);
     for (Module& module : Table().modules)
         module.resources.remove_if([begin](const Added& added) { return added.begin == begin; });
+    Table().modules.remove_if(
+        [begin](const Module& module) { return module.base == begin && module.resources.empty(); });
 }
 
 std::size_t BytesLeftInResource(const void* data) {
