@@ -25,12 +25,12 @@ struct __attribute__((packed)) KeyNotification {
     UINT flags;
 };
 
-// The width of a text without the signs of its mnemonic.
-int LabelWidth(HWND hwnd, HFONT font, const std::string& text) {
+// The width of a text, with the sign of its mnemonic or as it is drawn.
+int LabelWidth(HWND hwnd, HFONT font, const std::string& text, UINT prefix) {
     const HDC dc = GetDC(hwnd);
     const HGDIOBJ old = SelectObject(dc, font != nullptr ? font : GetStockObject(SYSTEM_FONT));
     RECT rect = {};
-    DrawTextA(dc, text.c_str(), -1, &rect, DT_SINGLELINE | DT_CALCRECT);
+    DrawTextA(dc, text.c_str(), -1, &rect, DT_SINGLELINE | DT_CALCRECT | prefix);
     SelectObject(dc, old);
     ReleaseDC(hwnd, dc);
     return rect.right - rect.left;
@@ -63,7 +63,9 @@ void Tab::Layout() {
     const int least = m_minWidth >= 0 ? m_minWidth : DisplayScale(m_hwnd, kLeastWidth);
     int x = kFirstTab;
     for (Item& item : m_items) {
-        int width = std::max(LabelWidth(m_hwnd, m_font, item.text) + 2 * m_padX, least);
+        // A tab has room for the sign of the mnemonic that is not drawn.
+        const int text = LabelWidth(m_hwnd, m_font, item.text, DT_NOPREFIX);
+        int width = std::max(text + 2 * m_padX, least);
         if (HasStyle(TCS_FIXEDWIDTH)) width = m_fixedWidth > 0 ? m_fixedWidth : kFixedWidth;
         item.rect = {x, kFirstTab, x + width, kFirstTab + height};
         x += width;
@@ -331,7 +333,7 @@ void Tab::PaintItem(HDC dc, int index) {
     FillRect(dc, &rect, GetSysColorBrush(COLOR_BTNFACE));
     RECT edge = rect;
     DrawEdge(dc, &edge, EDGE_RAISED, BF_LEFT | BF_TOP | BF_RIGHT | BF_SOFT);
-    const int width = LabelWidth(m_hwnd, m_font, item.text);
+    const int width = LabelWidth(m_hwnd, m_font, item.text, 0);
     const LONG left = item.rect.left + (item.rect.right - item.rect.left - width) / 2;
     RECT text = {left, rect.top + kTabBorder, left + width, item.rect.bottom};
     UINT format = DT_SINGLELINE | DT_NOCLIP | DT_VCENTER;
