@@ -1,10 +1,11 @@
 // What was drawn, for tests to ask. Each window keeps the operations of its last paint: BeginPaint
-// starts anew, and what is drawn through GetDC is added. Each device context in memory keeps its
-// own until it is deleted.
+// starts anew, and what is drawn through GetDC is added. A bitmap keeps what was drawn into it;
+// when it is copied elsewhere, its operations follow the copy, moved to where they appear. A fill
+// of the whole area forgets what it covers.
 //
 // Coordinates are device units: pixels of the window's client area (of the whole window for the
 // frame). Colours are COLORREF. What lies outside the clip rectangle is recorded as well, with the
-// rectangle that it is cut to.
+// rectangle that it is cut to. Windows have no pixels; bitmaps have, but for glyphs and icons.
 #pragma once
 
 #include <cstddef>
@@ -65,7 +66,7 @@ struct DrawOp {
 const std::vector<DrawOp>& RecordedOps(HWND hwnd);
 // The same for the window's frame.
 const std::vector<DrawOp>& RecordedFrameOps(HWND hwnd);
-// The operations of a device context; for one of a window these are the window's.
+// The operations of a device context: those of its window or of its bitmap.
 const std::vector<DrawOp>& RecordedOps(HDC dc);
 
 // The texts among the operations, in their order.
