@@ -24,8 +24,9 @@ run_program() {  # SYSTEM PROGRAM
     case $system in
         native) ASAN_OPTIONS=detect_leaks=1 timeout 900 "$folder/bin/$program" --gtest_brief=1 \
                     --gtest_output=json:"$report" ;;
-        *) ZX_WINE_PREFIX=$folder/wine ZX_WINE_TIMEOUT=900 "$root/tools/run-wine.sh" \
-               "$folder/bin/$program.exe" --gtest_brief=1 "--gtest_output=json:reports\\$program.json" ;;
+        # A Windows program takes its report's path relative to the folder that it starts in.
+        *) (cd "$folder" && ZX_WINE_PREFIX=$folder/wine ZX_WINE_TIMEOUT=900 "$root/tools/run-wine.sh" \
+               "bin/$program.exe" --gtest_brief=1 "--gtest_output=json:reports\\$program.json") ;;
     esac
     result=$?
     read -r p f s < <(python3 tools/count_tests.py "$report")
