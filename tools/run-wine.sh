@@ -2,7 +2,7 @@
 # run-wine.sh PROGRAM [ARGUMENT...]
 #
 # Runs a Windows program under Wine with everything of its own and gives its output and exit code:
-# a prefix (made on first use below the folder of the program), a display where DISPLAY is not set,
+# a prefix (made on first use as "wine" in the build folder), a display where DISPLAY is not set,
 # and a time limit. Serves as CMAKE_CROSSCOMPILING_EMULATOR.
 #
 #   ZX_WINE_PREFIX   the prefix to use; several programs may share one
@@ -24,7 +24,7 @@ fi
 
 if [ -z "${ZX_WINE_PREFIX:-}" ]; then
     folder=$(cd "$(dirname "$program")" && pwd)
-    ZX_WINE_PREFIX=${folder%/bin}/wine-prefix
+    ZX_WINE_PREFIX=${folder%/bin}/wine
 fi
 export WINEPREFIX=$ZX_WINE_PREFIX
 export WINEDEBUG=${WINEDEBUG:--all}

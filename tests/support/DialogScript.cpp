@@ -12,7 +12,7 @@ namespace test_support {
 namespace {
 
 constexpr UINT kTickInterval = 10;         // ms
-constexpr DWORD kStepLimit = 4000;         // ms that one step may wait for what it needs
+constexpr DWORD kStepLimit = 8000;         // ms that one step may wait for what it needs
 constexpr DWORD kHardLimitMargin = 40000;  // ms that a failed script has to end its dialogs
 constexpr unsigned kIdleTicksAtEnd = 30;   // ticks that a dialog may stay open after the last step
 constexpr unsigned kTicksToEnd = 100;      // ticks until a dialog that does not end is destroyed

@@ -52,7 +52,7 @@ class DialogScript {
     using Where = std::source_location;
 
     // Once the script is over this many milliseconds old, it fails and ends all dialogs.
-    explicit DialogScript(DWORD timeLimit = 20000);
+    explicit DialogScript(DWORD timeLimit = 30000);
     ~DialogScript();
     DialogScript(const DialogScript&) = delete;
     DialogScript& operator=(const DialogScript&) = delete;
