@@ -1,5 +1,6 @@
 #include "contract/OptionTable.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 
@@ -9,6 +10,11 @@
 
 namespace {
 
+// A key with no number in it stands as it is, whatever its length.
+const char* KeyName(const char* szKey, std::uint32_t uIndex, std::uint32_t uInner) {
+    return std::strchr(szKey, '%') == nullptr ? szKey : FormatOptionKey(szKey, uIndex, uInner);
+}
+
 // Calls visit(key, field offset) for every key of the section, in order.
 template <class Visit>
 void Walk(const OptionSection& section, Visit visit) {
@@ -17,13 +23,16 @@ void Walk(const OptionSection& section, Visit visit) {
             for (const OptionKey& key : block.keys) {
                 const std::uint32_t uInner = key.uInner == 0 ? 1 : key.uInner;
                 for (std::uint32_t j = 0; j < uInner; ++j) {
-                    visit(key, FormatOptionKey(key.szKey, i, j),
+                    visit(key, KeyName(key.szKey, i, j),
                           key.uOffset + i * key.uStride + j * key.uInnerStride);
                 }
             }
         }
     }
 }
+
+// Room for the longest text field and a final zero.
+constexpr std::size_t kLongestText = 1024;
 
 // A field is copied out and in, since a packed record may hold it at any address.
 template <class T>
@@ -75,8 +84,13 @@ void LoadKey(const char* szProfile, const char* szSection, const char* szKey, co
                 return ReadDouble(szSection, szKey, d, p, szProfile);
             });
         case OptionType::kText: {
-            char* szField = static_cast<char*>(pField);
-            ReadString(szSection, szKey, szField, szField, static_cast<int>(key.uSize), szProfile);
+            // By way of a copy: a field that the host did not end with a zero stays so if nothing
+            // is stored for it.
+            char szText[kLongestText];
+            const int nSize = static_cast<int>(std::min<std::size_t>(key.uSize, sizeof szText));
+            if (ReadString(szSection, szKey, nullptr, szText, nSize, szProfile)) {
+                CopyText(static_cast<char*>(pField), static_cast<int>(key.uSize), szText);
+            }
             return;
         }
     }
@@ -108,7 +122,7 @@ void SaveKey(const char* szProfile, const char* szSection, const char* szKey, co
             return;
         case OptionType::kText: {
             // The host's array may lack its final zero.
-            char szText[1024];
+            char szText[kLongestText];
             const char* szField = static_cast<const char*>(pField);
             CopyText(szText, std::string_view(szField, strnlen(szField, key.uSize)));
             WriteString(szSection, szKey, szText, szProfile);
