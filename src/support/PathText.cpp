@@ -34,12 +34,13 @@ bool Split(const char* szPath, PathParts& parts) {
     const int nLength = CopyText(szCopy, szPath);
     if (nLength > 0 && szCopy[nLength - 1] == '\\') szCopy[nLength - 1] = '\0';
     if (szCopy[0] == '\0') return false;
-    char* pFile = nullptr;
-    const DWORD nFull = GetFullPathNameA(szCopy, kFullPathSize, parts.szFull, &pFile);
-    if (nFull == 0 || nFull >= kFullPathSize) return false;
+    DWORD nFull = GetFullPathNameA(szCopy, kFullPathSize, parts.szFull, nullptr);
+    // The system refuses paths that are too long for it; they are shown as they were given.
+    if (nFull == 0 || nFull >= kFullPathSize) {
+        nFull = static_cast<DWORD>(CopyText(parts.szFull, szCopy));
+    }
     const std::string_view sFull(parts.szFull, nFull);
-    parts.sFile = pFile != nullptr ? sFull.substr(static_cast<std::size_t>(pFile - parts.szFull))
-                                   : std::string_view();
+    parts.sFile = sFull.substr(sFull.rfind('\\') + 1);
     std::size_t nRoot = LengthOfRoot(sFull);
     parts.sRoot = sFull.substr(0, nRoot);
     parts.szDocuments[0] = '\0';

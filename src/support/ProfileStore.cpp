@@ -104,9 +104,11 @@ bool ReadProfileString(const char* szSection, const char* szKey, char* szBuffer,
         0) {
         return true;
     }
-    // An entry that exists and is empty gives nothing for any default.
+    // An entry that is there, but empty, never gives the default.
     char szProbe[4];
-    return GetPrivateProfileStringA(szSection, szKey, "~", szProbe, sizeof szProbe, szApp) == 0;
+    const DWORD uProbe =
+        GetPrivateProfileStringA(szSection, szKey, "~", szProbe, sizeof szProbe, szApp);
+    return uProbe != 1 || szProbe[0] != '~';
 }
 
 bool WriteProfileString(const char* szSection, const char* szKey, const char* szValue,

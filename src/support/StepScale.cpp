@@ -73,7 +73,9 @@ std::int32_t ComputeGaugeScale(double dLow, double dHigh, double dStep, std::int
     const double dRange = dHigh - dLow;
     std::int32_t nCount = CountSteps(dRange, dStep);
     while (nCount > kMostPositions) {
-        dStep = RoundOneTwoFive(dStep * 2.6);
+        // Among the smallest numbers rounding can undo the growth.
+        const double dNext = RoundOneTwoFive(dStep * 2.6);
+        dStep = dNext > dStep ? dNext : dStep * 2.6;
         nCount = CountSteps(dRange, dStep);
     }
     double dOrigin = std::trunc(std::floor(dLow / dStep + 0.5)) * dStep;
