@@ -226,6 +226,7 @@ void CSpinnerBase::OnMove(POINT point) {
     const BOOL bInRect = ::PtInRect(&m_rcArrow, point) != 0;
     if (bInRect != m_bInRect) {
         m_bInRect = bInRect;
+        m_nHot = bInRect ? m_nPressedArrow : kArrowNone;
         Show(bInRect ? m_nPressedArrow : kArrowNone);
     }
     // Also outside of the arrow: a held button goes on stepping.
