@@ -57,7 +57,6 @@ LRESULT SetRedraw(Window& window, bool on) {
     const bool was = (window.style & WS_VISIBLE) != 0;
     if (on && !was) {
         window.style |= WS_VISIBLE;
-        InvalidateAll(window, false);
     } else if (!on && was) {
         window.style &= ~static_cast<DWORD>(WS_VISIBLE);
     }

@@ -43,31 +43,12 @@ void Invalidate(Window& window, const RECT& area, UINT flags) {
 void Validate(Window& window, const RECT* area, UINT flags) {
     UpdateState& update = window.update;
     if (update.hasDirty) {
-        RECT left = update.dirty;
-        if (area != nullptr) {
-            const RECT& a = *area;
-            const bool wide = a.left <= left.left && a.right >= left.right;
-            const bool tall = a.top <= left.top && a.bottom >= left.bottom;
-            if (wide && tall) {
-                left = {};
-            } else if (wide && a.top <= left.top) {
-                left.top = std::max(left.top, a.bottom);
-            } else if (wide && a.bottom >= left.bottom) {
-                left.bottom = std::min(left.bottom, a.top);
-            } else if (tall && a.left <= left.left) {
-                left.left = std::max(left.left, a.right);
-            } else if (tall && a.right >= left.right) {
-                left.right = std::min(left.right, a.left);
-            }
-        } else {
-            left = {};
-        }
-        update.dirty = left;
-        update.hasDirty = !Empty(left);
+        update.dirty = area == nullptr ? RECT{} : Without(update.dirty, *area);
+        update.hasDirty = !Empty(update.dirty);
     }
     if (!update.hasDirty || (flags & RDW_NOERASE) != 0) update.erase = false;
     if ((flags & RDW_NOFRAME) != 0) update.frame = false;
-    if ((flags & RDW_ALLCHILDREN) == 0) return;
+    if (!TakesChildren(window, flags)) return;
     for (Window* child : window.children) {
         if (area == nullptr) {
             Validate(*child, nullptr, flags);
@@ -199,7 +180,7 @@ BOOL InvalidateRect(HWND hwnd, const RECT* rect, BOOL erase) {
 
 BOOL ValidateRect(HWND hwnd, const RECT* rect) {
     if (hwnd == nullptr) return InvalidateRect(nullptr, nullptr, TRUE);
-    return RedrawWindow(hwnd, rect, nullptr, RDW_VALIDATE | RDW_NOCHILDREN);
+    return RedrawWindow(hwnd, rect, nullptr, RDW_VALIDATE);
 }
 
 BOOL GetUpdateRect(HWND hwnd, RECT* rect, BOOL erase) {

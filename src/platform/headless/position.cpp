@@ -161,7 +161,7 @@ BOOL ApplyPosition(WINDOWPOS& pos) {
         const bool moved = frame.left != oldFrame.left || frame.top != oldFrame.top;
         const bool sized = Width(client) != Width(oldClient) || Height(client) != Height(oldClient);
         if (moved || Width(frame) < Width(oldFrame) || Height(frame) < Height(oldFrame))
-            InvalidateParentArea(*window, oldFrame);
+            InvalidateParentArea(*window, Without(oldFrame, frame));
         if (sized || (pos.flags & (SWP_FRAMECHANGED | SWP_NOCOPYBITS)) != 0)
             InvalidateAfterResize(*window, oldClient, pos.flags);
     }
@@ -379,8 +379,7 @@ BOOL ShowWindow(HWND hwnd, int command) {
                 return ShowInState(*window, command);
             if (wasVisible && command == SW_SHOWNOACTIVATE) return TRUE;
             flags |= SWP_NOACTIVATE | SWP_SHOWWINDOW;
-            if (window->IsChildWindow()) flags |= SWP_NOZORDER;
-            if (!window->IsChildWindow() && command == SW_SHOWNA) flags |= SWP_NOZORDER;
+            if (window->IsChildWindow() || command == SW_SHOWNOACTIVATE) flags |= SWP_NOZORDER;
             break;
         case SW_SHOW:
         case SW_SHOWNORMAL:

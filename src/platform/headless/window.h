@@ -167,7 +167,8 @@ inline bool Contains(const RECT& r, POINT p) {
 }
 RECT Moved(RECT r, int dx, int dy);
 RECT Intersection(const RECT& a, const RECT& b);
-RECT Bounds(const RECT& a, const RECT& b);  // an empty one does not count
+RECT Bounds(const RECT& a, const RECT& b);          // an empty one does not count
+RECT Without(const RECT& whole, const RECT& part);  // the smallest rectangle with all of the rest
 // Screen position of the window's client origin.
 POINT ClientOrigin(const Window& window);
 // Screen position of the parent's client origin, which `frame` and `client` are measured from.

@@ -196,6 +196,17 @@ RECT Bounds(const RECT& a, const RECT& b) {
             std::max(a.bottom, b.bottom)};
 }
 
+RECT Without(const RECT& whole, const RECT& part) {
+    RECT rest = whole;
+    const bool wide = part.left <= whole.left && part.right >= whole.right;
+    const bool tall = part.top <= whole.top && part.bottom >= whole.bottom;
+    if (wide && part.top <= whole.top) rest.top = std::max(whole.top, part.bottom);
+    if (wide && part.bottom >= whole.bottom) rest.bottom = std::min(whole.bottom, part.top);
+    if (tall && part.left <= whole.left) rest.left = std::max(whole.left, part.right);
+    if (tall && part.right >= whole.right) rest.right = std::min(whole.right, part.left);
+    return Empty(rest) ? RECT{} : rest;
+}
+
 POINT ClientOrigin(const Window& window) {
     POINT origin{0, 0};
     for (const Window* w = &window; w != nullptr; w = w->parent) {
