@@ -7,7 +7,7 @@
 set -u
 
 need_native="g++ cmake ninja-build make python3 googletest llvm binutils"
-need_windows="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix wine wine64 wine32:i386 fonts-wine xvfb"
+need_windows="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix wine wine64 wine32:i386 fonts-wine xvfb clang lld llvm"
 need_bench="libbenchmark-dev libmuparser-dev libglib2.0-dev libsimpleini-dev pkg-config util-linux"
 need_fuzz="clang libclang-rt-14-dev"
 need_lint="clang-format python3 llvm binutils-mingw-w64-i686"
