@@ -32,7 +32,7 @@ struct Added {
     ResourceList list;
 };
 
-// One loaded object. Its address is its handle; it stays in the table for good.
+// One loaded object. Its address is its handle.
 struct Module {
     void* base = nullptr;
     std::string path;
@@ -346,12 +346,8 @@ BOOL FreeLibrary(HMODULE handle) {
             return FALSE;
         }
         library = module->library;
-        if (--module->references == 0) {
-            module->library = nullptr;
-            module->resources.clear();
-            module->path += " (freed)";
-            module->base = nullptr;
-        }
+        if (--module->references == 0)
+            Table().modules.remove_if([module](const Module& m) { return &m == module; });
     }
     dlclose(library);
     return TRUE;
