@@ -1,0 +1,5 @@
+#include "Benchmarks.h"
+
+int main() {
+    return MeasureKeyStroke() ? 0 : 1;
+}
