@@ -330,6 +330,18 @@ TYPED_TEST(TextGauge, AGaugePositionBecomesTheValue) {
     EXPECT_EQ(SelectedPart(hWnd), "30");
 }
 
+TYPED_TEST(TextGauge, ATextThatFollowsTheGaugeDoesNotMoveItBack) {
+    auto& field = this->control;
+    auto& gauge = this->probe;
+    const HWND hWnd = this->Bind();
+    field.SetRange(0, 95, 10);
+    gauge.SetPos(10);
+    field.Notify(&gauge, 20, ADMN_GAUGEPOSITION, 0);
+    EXPECT_EQ(TextOf(hWnd), "95");
+    EXPECT_EQ(gauge.GetPos(), 10);
+    EXPECT_NE(this->host.log.Take().find("300(10)"), std::string::npos);
+}
+
 TYPED_TEST(TextGauge, AThumbPositionBecomesTheValue) {
     auto& field = this->control;
     auto& gauge = this->probe;

@@ -328,6 +328,22 @@ TYPED_TEST(TextNumeric, ATextChangeAsksForALaterApply) {
     EXPECT_EQ(lCode, 300);
 }
 
+TYPED_TEST(TextNumeric, OnlySettersThatChangeTheTextAreTold) {
+    auto& field = this->control;
+    field.SetRange(0, 10);
+    this->host.BindEdit(field);
+    this->host.log.Take();
+    field.SetValue(0);
+    field.SetRange(0, 5);
+    field.SetStep(1);
+    field.SaveInitialValue();
+    field.SetForceModified(1);
+    field.OnAttach();
+    EXPECT_EQ(this->host.log.Take(), "");
+    field.SetValue(3);
+    EXPECT_EQ(this->host.log.Take(), "301(10) 300(10)");
+}
+
 TYPED_TEST(TextNumeric, TakingTheFocusSelectsAllUnlessTurnedOff) {
     auto& field = this->control;
     field.SetValue(123);

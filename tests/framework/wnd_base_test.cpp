@@ -1,7 +1,6 @@
 // The root of the controls: values without a window, the order of operations, binding and the hook.
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -300,46 +299,6 @@ TEST(WndBase, PlacesInAMessageHaveNoArguments) {
               1u);
     EXPECT_EQ(script.Messages()[0].title, "Warning");
     EXPECT_EQ(wnd.ShowMessage(nullptr, 0, nullptr), 0xFFFFu);
-}
-
-// A place in the table of virtual operations, counted as the compilers of this library number them.
-template <class Member>
-std::ptrdiff_t PlaceOf(Member pMember) {
-    std::ptrdiff_t nOffset = 0;
-    static_assert(sizeof pMember >= sizeof nOffset);
-    std::memcpy(&nOffset, &pMember, sizeof nOffset);
-    return (nOffset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
-
-TEST(WndBase, VirtualOperationsStandInTheirOrder) {
-    // The destructor takes the first places; how many is the compilers' business.
-    const std::ptrdiff_t kPlaces[] = {PlaceOf(&ADM_Wnd::Attach),
-                                      PlaceOf(&ADM_Wnd::SetControlId),
-                                      PlaceOf(&ADM_Wnd::OnAttach),
-                                      PlaceOf(&ADM_Wnd::ReadControl),
-                                      PlaceOf(&ADM_Wnd::SaveInitialValue),
-                                      PlaceOf(&ADM_Wnd::HasChanged),
-                                      PlaceOf(&ADM_Wnd::SetForceModified),
-                                      PlaceOf(&ADM_Wnd::IsModified),
-                                      PlaceOf(&ADM_Wnd::Validate),
-                                      PlaceOf(&ADM_Wnd::IsValidatable),
-                                      PlaceOf(&ADM_Wnd::SelectContents),
-                                      PlaceOf(&ADM_Wnd::SetWindowText),
-                                      PlaceOf(&ADM_Wnd::IsHandle),
-                                      PlaceOf(&ADM_Wnd::OnCommand),
-                                      PlaceOf(&ADM_Wnd::OnNotify),
-                                      PlaceOf(&ADM_Wnd::Notify),
-                                      PlaceOf(&ADM_Wnd::OnChar),
-                                      PlaceOf(&ADM_Wnd::OnGetDlgCode),
-                                      PlaceOf(&ADM_Wnd::OnDrawItem),
-                                      PlaceOf(&ADM_Wnd::OnDeleteItem),
-                                      PlaceOf(&ADM_Wnd::OnCompareItem),
-                                      PlaceOf(&ADM_Wnd::OnCtlColor),
-                                      PlaceOf(&ADM_Wnd::Show),
-                                      PlaceOf(&ADM_Wnd::Enable),
-                                      PlaceOf(&ADM_SubClassWnd::SubclassProc)};
-    for (std::size_t i = 1; i < std::size(kPlaces); ++i)
-        EXPECT_EQ(kPlaces[i], kPlaces[0] + static_cast<std::ptrdiff_t>(i)) << i;
 }
 
 // Counts the messages that pass through the hook.
