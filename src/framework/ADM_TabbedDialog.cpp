@@ -22,6 +22,8 @@ BOOL ADM_TabbedDialog::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
         // Tab goes into the pages only with this style.
         SetWindowLongPtrA(hTab, GWL_EXSTYLE,
                           GetWindowLongPtrA(hTab, GWL_EXSTYLE) | WS_EX_CONTROLPARENT);
+        // The tab control must not paint over the page that it holds.
+        SetWindowLongPtrA(hTab, GWL_STYLE, GetWindowLongPtrA(hTab, GWL_STYLE) | WS_CLIPCHILDREN);
     }
     RebuildTabs();
     if (m_bCreateAllPages) CreateAllPages();

@@ -114,8 +114,9 @@ TEST(Button, ReceiverOfAClickMayCloseTheDialog) {
 TEST(Button, StateStyleAndImageReachTheWindow) {
     EventLog log;
     LoggedDialog dialog(log);
-    ADM_Button run;
+    ADM_Button run, image;
     dialog.RegisterControl(IDC_RUN, &run);
+    dialog.RegisterControl(IDC_IMAGE, &image);
     OpenDialog open(dialog, IDD_PLAIN);
     EXPECT_EQ(run.GetState() & BST_PUSHED, 0);
     run.SetState(TRUE);
@@ -123,11 +124,10 @@ TEST(Button, StateStyleAndImageReachTheWindow) {
     run.SetState(FALSE);
     run.SetStyle(BS_DEFPUSHBUTTON);
     EXPECT_EQ(GetWindowLongPtrA(open.Item(IDC_RUN), GWL_STYLE) & BS_TYPEMASK, BS_DEFPUSHBUTTON);
-    run.SetStyle(BS_PUSHBUTTON | BS_BITMAP);
     const HBITMAP hBitmap = LoadBitmapA(Module(), MAKEINTRESOURCEA(IDB_RAMP));
-    EXPECT_EQ(run.SetImage(IMAGE_BITMAP, hBitmap), nullptr);
-    EXPECT_EQ(run.GetImage(IMAGE_BITMAP), hBitmap);
-    EXPECT_EQ(run.SetImage(IMAGE_BITMAP, nullptr), hBitmap);
+    EXPECT_EQ(image.SetImage(IMAGE_BITMAP, hBitmap), nullptr);
+    EXPECT_EQ(image.GetImage(IMAGE_BITMAP), hBitmap);
+    EXPECT_EQ(image.SetImage(IMAGE_BITMAP, nullptr), hBitmap);
     DeleteObject(hBitmap);
 }
 

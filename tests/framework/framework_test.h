@@ -20,6 +20,7 @@
 #define IDC_CHECK 103
 #define IDC_TRISTATE 104
 #define IDC_RUN 105
+#define IDC_IMAGE 106  // shows a bitmap
 #define IDC_RADIO_A 111
 #define IDC_RADIO_B 112
 #define IDC_RADIO_C 113

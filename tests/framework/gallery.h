@@ -1,0 +1,58 @@
+// The ids of the gallery's templates. Also read by the resource compiler.
+#pragma once
+
+#define IDD_GALLERY 1100
+#define IDD_GALLERY_FIELDS 1101
+#define IDD_GALLERY_CHOICES 1102
+#define IDD_GALLERY_PICTURES 1103
+
+#define IDC_G_TABS 500
+#define IDC_G_ENABLE 501
+#define IDC_G_HELP 502
+
+#define IDC_G_INTEGER 510
+#define IDC_G_FLOAT 511
+#define IDC_G_DOUBLE 512
+#define IDC_G_FIXED 513
+#define IDC_G_DISABLED 514
+#define IDC_G_DISABLED_LABEL 515
+#define IDC_G_SENTENCE 516
+#define IDC_G_WARNING 517
+#define IDC_G_POINTS 520
+#define IDC_G_POINTS_SPIN 521
+#define IDC_G_CUTOFF 522
+#define IDC_G_CUTOFF_SPIN 523
+#define IDC_G_FLAT 524
+#define IDC_G_FLAT_SPIN 525
+#define IDC_G_POWER 526
+#define IDC_G_POWER_SPIN 527
+#define IDC_G_GAIN 528
+#define IDC_G_GAIN_SPIN 529
+#define IDC_G_INTERVAL 530
+#define IDC_G_INTERVAL_SPIN 531
+#define IDC_G_SINGLE 532
+#define IDC_G_SINGLE_SPIN 533
+
+#define IDC_G_CHECK_OFF 540
+#define IDC_G_CHECK_ON 541
+#define IDC_G_CHECK_GREY 542
+#define IDC_G_TRI_OFF 543
+#define IDC_G_TRI_ON 544
+#define IDC_G_TRI_HALF 545
+#define IDC_G_RADIO_A 550
+#define IDC_G_RADIO_B 551
+#define IDC_G_RADIO_C 552
+#define IDC_G_PUSH 560
+#define IDC_G_PUSH_GREY 561
+#define IDC_G_COMBO 562
+#define IDC_G_COMBOEDIT 563
+#define IDC_G_COMBO_GREY 564
+#define IDC_G_LIST 565
+#define IDC_G_MULTI 566
+#define IDC_G_LIST_GREY 567
+
+#define IDC_G_BITMAP 570
+#define IDC_G_METAFILE 571
+#define IDC_G_ICON 572
+#define IDC_G_EMPTY 573
+#define IDC_G_SCALE 574
