@@ -1,10 +1,11 @@
 // Equations against muParser and against the same operations written by hand: one table, each row a
-// ratio of median times of one run, with its target. The rounds of the competitors take turns, so
-// that what else the machine does meets all of them.
+// ratio of processor times of one run, with its target. In each round the competitors take turns
+// and give their ratios; a row is the median over the rounds, so that what else the machine does
+// meets all of them.
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <functional>
 #include <vector>
 
@@ -13,33 +14,45 @@
 namespace {
 
 constexpr int kPoints = 1000000;
-constexpr int kRounds = 9;
+constexpr int kRounds = 15;
 constexpr int kCompileRounds = 51;
 constexpr int kCompiles = 20;  // in each round
 
 double Seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 void Repeat(const std::function<void()>& work) {
     for (int i = 0; i < kCompiles; ++i) work();
 }
 
-// The median time of each of the works.
-std::vector<double> Medians(int nRounds, const std::vector<std::function<void()>>& works) {
-    std::vector<std::vector<double>> times(works.size());
-    for (int nRound = 0; nRound < nRounds; ++nRound) {
-        for (std::size_t i = 0; i < works.size(); ++i) times[i].push_back(Seconds(works[i]));
-    }
-    std::vector<double> medians;
-    for (auto& list : times) {
-        std::sort(list.begin(), list.end());
-        medians.push_back(list[list.size() / 2]);
-    }
-    return medians;
+double Median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
 }
+
+// The times of works that took turns.
+class Times {
+  public:
+    Times(int nRounds, const std::vector<std::function<void()>>& works) : m_Times(works.size()) {
+        for (int nRound = 0; nRound < nRounds; ++nRound) {
+            for (std::size_t i = 0; i < works.size(); ++i) m_Times[i].push_back(Seconds(works[i]));
+        }
+    }
+    double Of(int nWork) const { return Median(m_Times[nWork]); }
+    double Ratio(int nWork, int nPeer) const {
+        std::vector<double> ratios;
+        for (std::size_t i = 0; i < m_Times[nWork].size(); ++i) {
+            ratios.push_back(m_Times[nWork][i] / m_Times[nPeer][i]);
+        }
+        return Median(ratios);
+    }
+
+  private:
+    std::vector<std::vector<double>> m_Times;
+};
 
 bool g_bAllGood = true;
 
@@ -65,27 +78,28 @@ void Measure(const Equation& equation) {
     MuParserCompetitor theirs(equation);
     MuParserCompetitor theirsBulk(equation);
 
-    const auto t = Medians(
-        kRounds, {[&] { ours.EvaluatePoints(x.data(), points.data(), kPoints); },
-                  [&] { ours.EvaluateBlock(x.data(), block.data(), kPoints); },
-                  [&] { equation.pHandWritten(parameters, x.data(), hand.data(), kPoints); },
-                  [&] { theirs.EvaluatePoints(x.data(), peer.data(), kPoints); },
-                  [&] { theirsBulk.EvaluateBulk(x.data(), bulk.data(), kPoints); }});
-    const auto c =
-        Medians(kCompileRounds, {[&] { Repeat([&] { OurCompetitor::Compile(equation); }); },
-                                 [&] { Repeat([&] { MuParserCompetitor::Compile(equation); }); }});
+    const Times t(kRounds,
+                  {[&] { ours.EvaluatePoints(x.data(), points.data(), kPoints); },
+                   [&] { ours.EvaluateBlock(x.data(), block.data(), kPoints); },
+                   [&] { equation.pHandWritten(parameters, x.data(), hand.data(), kPoints); },
+                   [&] { theirs.EvaluatePoints(x.data(), peer.data(), kPoints); },
+                   [&] { theirsBulk.EvaluateBulk(x.data(), bulk.data(), kPoints); }});
+    const Times c(kCompileRounds,
+                  {[&] { Repeat([&] { OurCompetitor::Compile(equation); }); },
+                   [&] { Repeat([&] { MuParserCompetitor::Compile(equation); }); }});
 
     std::printf(
         "%-24s points %.1f, block %.1f, by hand %.1f, muParser %.1f, its bulk %.1f ns a point; "
         "compile %.2f, muParser %.2f us\n",
-        equation.pszName, t[0] * 1e9 / kPoints, t[1] * 1e9 / kPoints, t[2] * 1e9 / kPoints,
-        t[3] * 1e9 / kPoints, t[4] * 1e9 / kPoints, c[0] * 1e6 / kCompiles, c[1] * 1e6 / kCompiles);
-    PrintRow(equation.pszName, "points / muParser", t[0] / t[3], 0.85);
-    PrintRow(equation.pszName, "block / by hand", t[1] / t[2], 1.25);
+        equation.pszName, t.Of(0) * 1e9 / kPoints, t.Of(1) * 1e9 / kPoints, t.Of(2) * 1e9 / kPoints,
+        t.Of(3) * 1e9 / kPoints, t.Of(4) * 1e9 / kPoints, c.Of(0) * 1e6 / kCompiles,
+        c.Of(1) * 1e6 / kCompiles);
+    PrintRow(equation.pszName, "points / muParser", t.Ratio(0, 3), 0.85);
+    PrintRow(equation.pszName, "block / by hand", t.Ratio(1, 2), 1.25);
     if (equation.bBulkTarget) {
-        PrintRow(equation.pszName, "block / muParser bulk", t[1] / t[4], 0.50);
+        PrintRow(equation.pszName, "block / muParser bulk", t.Ratio(1, 4), 0.50);
     }
-    PrintRow(equation.pszName, "compile / muParser", c[0] / c[1], 0.10);
+    PrintRow(equation.pszName, "compile / muParser", c.Ratio(0, 1), 0.10);
     if (!SameResults(points, block) || !SameResults(points, hand)) {
         g_bAllGood = false;
         std::printf("%-24s RESULTS DIFFER\n", equation.pszName);

@@ -46,19 +46,26 @@ class CParserProgram {
   private:
     class CBuilder;
 
-    // An operation at one point: all of a run have the same opcode.
+    // An operation at one point. Its handler goes on with the operation behind it, and so to the
+    // end of the line. It mostly reads the value that the one before it computed, which is handed
+    // on beside memory: a trip through memory takes longer than the operation.
+    struct Operation;
+    using Handler = double (*)(const Operation* p, double dBefore, const CZDCParser& parser);
     struct Operation {
+        Handler pHandler;
         double* pResult;  // the step's value
         const double* pLeft;
         const double* pRight;
         double* pState;  // the history slot of the step's argument
     };
-    struct OperationRun {
-        int eOpcode;
-        int nCount;
-    };
-    // The opcode of a run of terms: each is a power, the product on it and the sum on that.
-    static constexpr int RUN_TERMS = 64;
+    struct Handlers;
+    // The handler of an opcode. An operand that is the value before needs no reading.
+    static Handler HandlerOf(int eOpcode, bool bLeftBefore, bool bRightBefore);
+    // The opcodes of two handlers beside those of the steps: a term of a polynomial (a power, the
+    // product on it and the sum on that, three operations) and the end of the line.
+    static constexpr int HANDLER_TERM = 36;
+    static constexpr int HANDLER_END = 37;
+
     // What an operand or a result is during a block.
     enum Place : unsigned char {
         PLACE_SCALAR,  // the same for all points
@@ -105,13 +112,6 @@ class CParserProgram {
         int nPoints;
     };
 
-    // The value last computed, and where it stands.
-    struct Handed {
-        const double* pFrom;
-        double dValue;
-    };
-    static Handed RunOperations(const CZDCParser& parser, const Operation* pOperation,
-                                const OperationRun* pRun, const OperationRun* pEnd, Handed handed);
     void RunParameters(const CZDCParser& parser);
     void RunChunk(const Chunk& chunk);
     static void RunExponential(const Instruction& instruction, const double* pArgument,
@@ -124,18 +124,17 @@ class CParserProgram {
     int m_nVariable = -1;
     bool m_bParametersChanged = true;
     mutable bool m_bCopiesDue = false;
-    // Operations, runs and copies: first those that depend on parameters and numbers only, up to
-    // the counts.
+    // Operations and copies: first those that depend on parameters and numbers only, up to the
+    // counts. Both lines of operations have an end.
     std::vector<Operation> m_Operations;
-    std::vector<OperationRun> m_Runs;
     std::vector<Copy> m_Copies;
     std::size_t m_nParameterOperations = 0;
-    std::size_t m_nParameterRuns = 0;
     std::size_t m_nParameterCopies = 0;
     std::vector<Instruction> m_Instructions;
     Operand m_Root;
-    double* m_pAssigned = nullptr;  // the value of the assignment step
-    double* m_pVariable = nullptr;  // the value of the dependent variable
+    bool m_bRootIsOperation = false;  // and so the last one of its line
+    double* m_pAssigned = nullptr;    // the value of the assignment step
+    double* m_pVariable = nullptr;    // the value of the dependent variable
     std::vector<Input> m_Inputs;
     std::vector<double*> m_States;  // the history slots in use
     // The values of the inputs, a copy of the history, and the rows.

@@ -28,15 +28,14 @@ class CParserProgram::CBuilder {
         m_Program.m_Copies.clear();
         m_Program.m_Copies.reserve(static_cast<std::size_t>(m_nSteps));
         m_Program.m_Operations.clear();
-        m_Program.m_Operations.reserve(static_cast<std::size_t>(m_nInstructions));
-        m_Program.m_Runs.clear();
-        m_Program.m_Runs.reserve(static_cast<std::size_t>(m_nInstructions));
+        m_Program.m_Operations.reserve(static_cast<std::size_t>(m_nInstructions) + 2);
         WriteCopies(true);
         WriteOperations(true);
         m_Program.m_nParameterCopies = m_Program.m_Copies.size();
         m_Program.m_nParameterOperations = m_Program.m_Operations.size();
-        m_Program.m_nParameterRuns = m_Program.m_Runs.size();
-        m_nPartRuns = m_Program.m_nParameterRuns;
+        // The last input is at hand when the line begins.
+        const std::size_t nInputs = m_Program.m_Inputs.size();
+        m_pBefore = nInputs == 0 ? nullptr : m_Program.m_pMemory.get() + nInputs - 1;
         WriteCopies(false);
         WriteOperations(false);
         WriteInstructions();
@@ -306,10 +305,10 @@ class CParserProgram::CBuilder {
         }
     }
 
-    // Writes the operations of one of the two halves, level after level and in each level equal
-    // opcodes together: they run in one loop, and independent ones side by side.
+    // Writes the line of operations of one of the two halves, level after level and in each level
+    // equal opcodes together: the processor works on the independent ones at the same time.
     void WriteOperations(bool bParameter) {
-        short nLevels = 0;
+        short nLevels = 1;
         for (int i = m_nRoot; i >= m_nFirst; --i) {
             Value& value = At(i);
             if (value.bParameter != bParameter || value.bInTerm || !IsInstruction(i)) continue;
@@ -319,44 +318,48 @@ class CParserProgram::CBuilder {
         }
         for (short nLevel = 1; nLevel < nLevels; ++nLevel) {
             short& nHead = m_Levels[nLevel];
-            while (nHead >= 0) WriteRun(nHead, RunOpcode(nHead + m_nFirst));
+            while (nHead >= 0) WriteEqual(nHead, HandlerOpcode(nHead + m_nFirst));
         }
+        m_Program.m_Operations.push_back(
+            {HandlerOf(HANDLER_END, false, false), nullptr, nullptr, nullptr, nullptr});
     }
-    int RunOpcode(int nStep) { return At(nStep).bTerm ? RUN_TERMS : Step(nStep).eOpcode; }
+    int HandlerOpcode(int nStep) { return At(nStep).bTerm ? HANDLER_TERM : Step(nStep).eOpcode; }
 
     // Takes the operations of an opcode out of a level's list.
-    void WriteRun(short& nHead, int eOpcode) {
-        std::vector<OperationRun>& runs = m_Program.m_Runs;
-        if (runs.size() == m_nPartRuns || runs.back().eOpcode != eOpcode) {
-            runs.push_back({eOpcode, 0});
-        }
+    void WriteEqual(short& nHead, int eOpcode) {
         for (short* pLink = &nHead; *pLink >= 0;) {
             const int nStep = *pLink + m_nFirst;
-            if (RunOpcode(nStep) != eOpcode) {
+            if (HandlerOpcode(nStep) != eOpcode) {
                 pLink = &At(nStep).nNext;
                 continue;
             }
-            if (eOpcode == RUN_TERMS) {
-                WriteOperation(Right(Right(nStep)));
-                WriteOperation(Right(nStep));
+            if (eOpcode == HANDLER_TERM) {
+                const bool bSumBefore = IsBefore(Left(nStep));
+                const Handler pHandler = HandlerOf(HANDLER_TERM, bSumBefore, false);
+                WriteOperation(Right(Right(nStep)), pHandler);
+                WriteOperation(Right(nStep), pHandler);
+                WriteOperation(nStep, pHandler);
+            } else {
+                WriteOperation(nStep, HandlerOf(eOpcode, IsBefore(Step(nStep).nOperand1),
+                                                HasTwoOperands(Step(nStep)) &&
+                                                    IsBefore(Step(nStep).nOperand2)));
             }
-            WriteOperation(nStep);
             *pLink = At(nStep).nNext;
         }
     }
+    bool IsBefore(int nStep) { return ValueOf(nStep) == m_pBefore; }
 
-    void WriteOperation(int nStep) {
+    void WriteOperation(int nStep, Handler pHandler) {
         ParserStep& step = Step(nStep);
-        m_Program.m_Operations.push_back({&step.dValue, ValueOf(step.nOperand1),
+        m_Program.m_Operations.push_back({pHandler, &step.dValue, ValueOf(step.nOperand1),
                                           HasTwoOperands(step) ? ValueOf(step.nOperand2) : nullptr,
                                           &Step(step.nOperand1).dState});
-        ++m_Program.m_Runs.back().nCount;
+        m_pBefore = &step.dValue;
     }
 
     void WriteInstructions() {
         m_Program.m_Instructions.clear();
-        m_Program.m_Instructions.reserve(m_Program.m_Operations.size() -
-                                         m_Program.m_nParameterOperations);
+        m_Program.m_Instructions.reserve(static_cast<std::size_t>(m_nInstructions));
         for (int i = m_nFirst; i <= m_nRoot; ++i) {
             if (At(i).bParameter || At(i).bInExponential || !IsInstruction(i)) continue;
             const ParserStep& step = Step(i);
@@ -407,6 +410,7 @@ class CParserProgram::CBuilder {
 
     void Finish() {
         m_Program.m_Root = OperandOf(m_nRoot);
+        m_Program.m_bRootIsOperation = m_Program.m_Root.ePlace == PLACE_ROW;
         // The root's instruction is the last one, unless the root is a variable or a parameter's
         // value.
         if (m_Program.m_Root.ePlace == PLACE_ROW) {
@@ -441,7 +445,7 @@ class CParserProgram::CBuilder {
     short m_Levels[MAX_STEPS + 1];
     Fused m_Fused[MAX_STEPS / 4];  // an exponential has at least a name and two parentheses
     short m_nFused = 0;
-    std::size_t m_nPartRuns = 0;  // the runs of the half before
+    const double* m_pBefore = nullptr;  // the value that is at hand behind the last operation
     short m_Free[MAX_STEPS];
 };
 
