@@ -1,5 +1,7 @@
 #include "analysis/COptionsTabBase.h"
 
+#include <utility>
+
 #include "analysis/DialogMessages.h"
 #include "contract/CAnalysisOptionsInterfaceBase.h"
 #include "framework/UpdateScope.h"
@@ -23,6 +25,13 @@ COptionsTabBase::COptionsTabBase(CAnalysisOptionsInterfaceBase* pOptions,
     m_radDestination.Setup(this, IDC_DESTINATION_APPEND, IDC_DESTINATION_REPLACE, 3, kValues);
     RegisterControl(IDC_DYNAMIC_LINK, &m_chkDynamicLink);
     RegisterControl(IDC_WRITE_REGION_INFO, &m_chkWriteRegionInfo);
+
+    On(&m_radDestination, ADMN_CLICKED,
+       [this] { m_pOptions->SetDestinationOption(m_radDestination.GetValue()); });
+    On(&m_chkDynamicLink, ADMN_CLICKED,
+       [this] { m_pOptions->SetDynamicLink(m_chkDynamicLink.GetCheck() == BST_CHECKED); });
+    On(&m_chkWriteRegionInfo, ADMN_CLICKED,
+       [this] { m_pOptions->SetWriteRegionInfo(m_chkWriteRegionInfo.GetCheck() == BST_CHECKED); });
 }
 
 BOOL COptionsTabBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
@@ -32,14 +41,31 @@ BOOL COptionsTabBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     return bResult;
 }
 
+BOOL COptionsTabBase::FinishInitialization() {
+    RefreshOptions();
+    m_bReady = true;
+    return TRUE;
+}
+
 // --- Display
 // --------------------------------------------------------------------------------------
 
 void COptionsTabBase::ShowSharedOptions() {
     const UpdateScope updating(m_bUpdating);
-    m_radDestination.SetValue(m_pOptions->GetDestinationOption());
+    // A stored option that is none of the two shows as the first.
+    m_radDestination.SetValue(m_pOptions->GetDestinationOption() == 1 ? 1 : 0);
     m_chkDynamicLink.SetCheck(m_pOptions->GetDynamicLink() ? BST_CHECKED : BST_UNCHECKED);
     m_chkWriteRegionInfo.SetCheck(m_pOptions->GetWriteRegionInfo() ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void COptionsTabBase::RefreshOptions() {
+    const UpdateScope updating(m_bUpdating);
+    ShowSharedOptions();
+    ShowOptions();
+}
+
+void COptionsTabBase::SelectButton(ADM_RadioButtons& radButtons, int nIndex) {
+    radButtons.SetSelected(nIndex >= 0 && nIndex < radButtons.GetCount() ? nIndex : 0);
 }
 
 BOOL COptionsTabBase::OnPageShow() {
@@ -70,21 +96,21 @@ BOOL COptionsTabBase::CanLeavePage() {
 // --- Events
 // ---------------------------------------------------------------------------------------
 
+void COptionsTabBase::On(ADM_Wnd* pControl, int nCode, std::function<void()> step) {
+    m_vBindings.push_back({pControl, nCode, std::move(step)});
+}
+
 void COptionsTabBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     ADM_TabSubDialog::Notify(pSender, nId, nCode, nData);
     if (!m_bReady || m_bInEvent != 0) return;
     if (m_bReadOnly) {
-        if (m_bUpdating == 0) ShowSharedOptions();
+        if (m_bUpdating == 0) RefreshOptions();
         const UpdateScope inEvent(m_bInEvent);
         FocusCancel(GetDialogWnd());
         return;
     }
-    if (nCode != ADMN_CLICKED || m_bUpdating != 0) return;
-    if (pSender == &m_radDestination) {
-        m_pOptions->SetDestinationOption(m_radDestination.GetValue());
-    } else if (pSender == &m_chkDynamicLink) {
-        m_pOptions->SetDynamicLink(m_chkDynamicLink.GetCheck() == BST_CHECKED);
-    } else if (pSender == &m_chkWriteRegionInfo) {
-        m_pOptions->SetWriteRegionInfo(m_chkWriteRegionInfo.GetCheck() == BST_CHECKED);
+    if (m_bUpdating != 0) return;
+    for (const Binding& binding : m_vBindings) {
+        if (binding.pControl == pSender && binding.nCode == nCode) binding.step();
     }
 }

@@ -1,10 +1,14 @@
 // The base of the tabs that carry a dialog's options, with the controls that most analyses share:
 // where the results go, the link to the analysis window, the region information.
 //
-// A subclass's initialisation calls the base, fills its own controls, shows its contents and sets
-// m_bReady. Events before that are dropped. In read-only mode every event shows the record again
-// and gives the focus away.
+// A subclass binds its controls' events in its constructor. Its initialisation calls the base,
+// fills its own controls and ends with FinishInitialization, which shows the record (ShowOptions)
+// and sets m_bReady. Events before that are dropped. In read-only mode every event shows the record
+// again and gives the focus away.
 #pragma once
+
+#include <functional>
+#include <vector>
 
 #include "framework/ADM_Button.h"
 #include "framework/ADM_RadioButtons.h"
@@ -27,7 +31,19 @@ class COptionsTabBase : public ADM_TabSubDialog {
     // Greys the shared controls; ApplyVisibility shows it.
     void SetDisabled(bool bDisabled) { m_bDisabled = bDisabled; }
 
+    // Shows the record in the tab's own controls; called with m_bUpdating set.
+    virtual void ShowOptions() {}
+
   protected:
+    // For the end of a subclass's initialisation: shows the record and takes events from now on.
+    BOOL FinishInitialization();
+    // Shows the record in all controls of the tab.
+    void RefreshOptions();
+    // What the user's event nCode of a control does. Nothing is called before the tab is ready,
+    // while it shows values, or in read-only mode.
+    void On(ADM_Wnd* pControl, int nCode, std::function<void()> step);
+    // Selects the button of an index from outside: the first one for an index beyond the set.
+    static void SelectButton(ADM_RadioButtons& radButtons, int nIndex);
     // Shows the record in the shared controls.
     void ShowSharedOptions();
     // Shows or hides the shared controls as the parameters say.
@@ -44,6 +60,13 @@ class COptionsTabBase : public ADM_TabSubDialog {
     bool m_bReady = false;
 
   private:
+    struct Binding {
+        ADM_Wnd* pControl;
+        int nCode;
+        std::function<void()> step;
+    };
+
+    std::vector<Binding> m_vBindings;
     ADM_Static m_grpDestination;
     ADM_RadioButtons m_radDestination;
     ADM_Button m_chkDynamicLink;

@@ -54,6 +54,8 @@ class CZxDlgRegionCombo : public ADM_ComboBox {
     int GetRegionId();
     // Selects entry 0 when there is no such region.
     void SelectById(int nRegionId);
+    // The same; answers the id of the region that is then selected, 0 with none.
+    int SelectOffered(int nRegionId) { return SelectById(nRegionId), GetRegionId(); }
 };
 
 // The set names of one group; the position is the set.

@@ -2,10 +2,8 @@
 // and a peak region. The smallest whole dialog, and the model of its family.
 #pragma once
 
-#include <memory>
-
 #include "analysis/COptionsTabBase.h"
-#include "analysis/CParentDialogBase.h"
+#include "analysis/OptionsDialog.h"
 #include "analysis/SelectionControls.h"
 #include "contract/CAnalysisOptionsInterfaceBase.h"
 #include "framework/ADM_StaticText.h"
@@ -35,12 +33,9 @@ class CNormalizeOptionsTab : public COptionsTabBase {
     CNormalizeOptionsTab(CNormalizeOptionsInterface* pOptions, const ZXADLG_DlgParams* pParams,
                          CDataOptionsInterface* pData);
 
-    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
     BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
     BOOL OnPageShow() override;
-
-    // Shows the record in the controls.
-    void ShowOptions();
+    void ShowOptions() override;
 
   private:
     void ShowCounts();
@@ -57,19 +52,9 @@ class CNormalizeOptionsTab : public COptionsTabBase {
     ADM_StaticText m_lblPeakCount;
 };
 
-class CNormalizeDialog : public CParentDialogBase {
+class CNormalizeDialog : public COptionsDialog<ZXADLG_NormalizeOptions, CNormalizeOptionsInterface,
+                                               CNormalizeOptionsTab> {
   public:
-    // Everything but hwndParent outlives the dialog.
     CNormalizeDialog(HWND hwndParent, ZXADLG_NormalizeOptions* pOptions, ZXADLG_DataOptions* pData,
                      ZXADLG_CDlgDataSource* pSource, const ZXADLG_DlgParams* pParams);
-    ~CNormalizeDialog() override;
-
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
-    void OnOK() override;
-
-  private:
-    static int s_nLastTab;  // the tab of the last OK
-
-    std::unique_ptr<CNormalizeOptionsInterface> m_pOptions;
-    std::unique_ptr<CNormalizeOptionsTab> m_pOptionsTab;
 };
