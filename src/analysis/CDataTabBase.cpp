@@ -4,14 +4,12 @@
 #include "analysis/CaptionText.h"
 #include "analysis/DialogMessages.h"
 #include "contract/NotificationCodes.h"
+#include "contract/SelectionList.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
 #include "support/Framework.h"
-#include "support/ListText.h"
 
 namespace {
-
-constexpr int kMaxSelected = CDataOptionsInterface::kMaxSelected;
 
 // Keeps the first visible item of a list where it is.
 class TopIndexScope {
@@ -25,18 +23,6 @@ class TopIndexScope {
     CZxDlgSetListBox& m_list;
     int m_nTop;
 };
-
-std::vector<std::int32_t> ParseNumbers(const char* szText, int nOffset) {
-    std::vector<std::int32_t> vNumbers(kMaxSelected);
-    const int nCount = ParseList(szText, vNumbers.data(), kMaxSelected, nOffset, nullptr, 0);
-    vNumbers.resize(static_cast<std::size_t>(nCount));
-    return vNumbers;
-}
-
-void FormatNumbers(char* szText, int nSize, const std::vector<std::int32_t>& vNumbers) {
-    FormatList(szText, nSize, vNumbers.data(), static_cast<int>(vNumbers.size()), 0);
-    RemoveSpaces(szText);
-}
 
 }  // namespace
 
@@ -74,7 +60,7 @@ BOOL CDataTabBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     FillLists(0);
     ShowLabels();
     // The lists began with the sets of the first group; a stored selection may be in another one.
-    if (m_pData->GetGroup() != 0) FillLists(m_pData->GetGroup());
+    ListCurrentGroup();
     return bResult;
 }
 
@@ -84,6 +70,13 @@ BOOL CDataTabBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
 void CDataTabBase::FillLists(std::uint32_t uGroup) {
     m_lstSets.Fill(uGroup, m_pData->GetDataSource(), false);
     m_lstSets2.Fill(uGroup, m_pData->GetDataSource(), false);
+    m_uListedGroup = uGroup;
+}
+
+bool CDataTabBase::ListCurrentGroup() {
+    if (m_uListedGroup == m_pData->GetGroup()) return false;
+    FillLists(m_pData->GetGroup());
+    return true;
 }
 
 void CDataTabBase::ShowLabels() {
@@ -102,6 +95,7 @@ void CDataTabBase::ShowLabels() {
     m_radDataSet.SetButtonText(0, szCaption);
     FormatCaption(szCaption, szSet != nullptr ? "Select %s Set &2:" : "Select Set &2:", szSet);
     m_radDataSet.SetButtonText(1, szCaption);
+    if (m_bReadOnly) m_radDataSet.SetSelected(m_nActiveList);
     ChooseList();
     CorrectGroup();
 }
@@ -129,34 +123,35 @@ BOOL CDataTabBase::OnPageShow() {
     return ADM_TabSubDialog::OnPageShow();
 }
 
+const char* CDataTabBase::GetStoredList(int n) const {
+    // On a sheet the selection is kept as the list of dependent columns, once there is one.
+    const char* szDependent = m_pData->GetDepVarSelectionList();
+    return m_pData->IsSheetData() && *szDependent != '\0' ? szDependent
+                                                          : m_pData->GetSelectionList(n);
+}
+
 void CDataTabBase::ReadListText() {
     const UpdateScope updating(m_bUpdating);
     const int nLists = m_bDualList ? 2 : 1;
     for (int n = 0; n < nLists; ++n) {
         CZxDlgSetListBox& list = n == 0 ? m_lstSets : m_lstSets2;
-        const std::vector<std::int32_t> vStored = ParseNumbers(m_pData->GetSelectionList(n), 0);
+        const std::vector<std::int32_t> vStored = ParseSelection(GetStoredList(n), 0);
         // Deliberately inclusive: a number equal to the count passes.
         const auto nBound = static_cast<std::int32_t>(m_pData->GetSetCountInGroup());
         std::vector<std::int32_t> vItems;
-        std::vector<std::int32_t> vShown;
         for (const std::int32_t nNumber : vStored) {
-            if (nNumber > nBound) continue;
-            vItems.push_back(nNumber);
-            vShown.push_back(nNumber + 1);
+            if (nNumber <= nBound) vItems.push_back(nNumber);
         }
-        if (vItems.empty()) {
-            vItems = {0};
-            vShown = {1};
-        }
+        if (vItems.empty()) vItems = {0};
         const TopIndexScope top(list);
         list.SelectItems(vItems);
-        if (n == m_nActiveList) ShowListText(vShown);
+        if (n == m_nActiveList) ShowListText(vItems);
     }
 }
 
-void CDataTabBase::ShowListText(const std::vector<std::int32_t>& vNumbers) {
+void CDataTabBase::ShowListText(const std::vector<std::int32_t>& vItems) {
     char szText[kListTextSize];
-    FormatNumbers(szText, kListTextSize, vNumbers);
+    FormatSelection(szText, vItems, 1);
     m_txtList.SetWindowText(szText);
 }
 
@@ -171,15 +166,16 @@ void CDataTabBase::SetDisabled(bool bDisabled) {
 // --- Storing
 // --------------------------------------------------------------------------------------
 
-std::vector<std::int32_t> CDataTabBase::ParseEdit(int nOffset) {
+// The items that the edit names; the user counts from 1.
+std::vector<std::int32_t> CDataTabBase::ParseEdit() {
     char szText[kListTextSize];
     m_txtList.GetWindowText(szText, kListTextSize);
-    return ParseNumbers(szText, nOffset);
+    return ParseSelection(szText, 1);
 }
 
-void CDataTabBase::StoreList(const std::vector<std::int32_t>& vNumbers) {
+void CDataTabBase::StoreList(const std::vector<std::int32_t>& vItems) {
     char szText[kListTextSize];
-    FormatNumbers(szText, kListTextSize, vNumbers);
+    FormatSelection(szText, vItems, 0);
     if (m_pData->IsSheetData()) {
         m_pData->SetDepVarSelectionList(szText);
     } else {
@@ -189,23 +185,20 @@ void CDataTabBase::StoreList(const std::vector<std::int32_t>& vNumbers) {
 
 void CDataTabBase::WriteListText(int eMode) {
     CZxDlgSetListBox& list = GetActiveList();
-    std::vector<std::int32_t> vItems = ParseEdit(1);
-    std::erase_if(vItems, [](std::int32_t n) { return n < 0; });
+    const std::vector<std::int32_t> vItems = ParseEdit();
     {
         const UpdateScope updating(m_bUpdating);
         const TopIndexScope top(list);
         list.SelectItems(vItems);
     }
-    if (eMode != CDataOptionsInterface::kListedSets && eMode != CDataOptionsInterface::kTypedSets)
-        return;
-    std::vector<std::int32_t> vNumbers = ParseEdit(0);
-    for (std::int32_t& nNumber : vNumbers) --nNumber;
-    StoreList(vNumbers);
+    if (eMode == CDataOptionsInterface::kListedSets || eMode == CDataOptionsInterface::kTypedSets) {
+        StoreList(vItems);
+    }
 }
 
 void CDataTabBase::WriteListSelection(int eMode) {
     const UpdateScope updating(m_bUpdating);
-    std::vector<std::int32_t> vItems = GetActiveList().GetSelection();
+    const std::vector<std::int32_t> vItems = GetActiveList().GetSelection();
     if (vItems.empty()) {
         m_txtList.SetWindowText("");
         return;
@@ -213,7 +206,6 @@ void CDataTabBase::WriteListSelection(int eMode) {
     if (eMode == CDataOptionsInterface::kListedSets || eMode == CDataOptionsInterface::kTypedSets) {
         StoreList(vItems);
     }
-    for (std::int32_t& nItem : vItems) ++nItem;
     ShowListText(vItems);
 }
 

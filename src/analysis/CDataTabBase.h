@@ -48,6 +48,8 @@ class CDataTabBase : public ADM_TabSubDialog {
     void ChooseList();
     void CorrectGroup();
     void FillLists(std::uint32_t uGroup);
+    // Fills the lists anew when they hold another group's sets. Answers whether they did.
+    bool ListCurrentGroup();
     // The user chose another group.
     void ChangeGroup();
     // The stored list texts become selections of the lists, and the active one the text of the
@@ -82,7 +84,10 @@ class CDataTabBase : public ADM_TabSubDialog {
     ADM_StaticText m_lblCount;
 
   private:
-    void StoreList(const std::vector<std::int32_t>& vNumbers);
-    void ShowListText(const std::vector<std::int32_t>& vNumbers);
-    std::vector<std::int32_t> ParseEdit(int nOffset);
+    const char* GetStoredList(int n) const;
+    void StoreList(const std::vector<std::int32_t>& vItems);
+    void ShowListText(const std::vector<std::int32_t>& vItems);
+    std::vector<std::int32_t> ParseEdit();
+
+    std::uint32_t m_uListedGroup = 0;  // whose sets the lists hold
 };

@@ -5,10 +5,10 @@
 #include "ZXADLG.h"
 #include "analysis/DialogMessages.h"
 #include "contract/NotificationCodes.h"
+#include "contract/SelectionList.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
 #include "support/Framework.h"
-#include "support/ListText.h"
 
 namespace {
 
@@ -17,20 +17,6 @@ using Model = CDataOptionsInterface;
 // Indices of the radios: the typed list first, then the list box.
 constexpr int kTypedIndex = 0;
 constexpr int kSigDigits = 5;
-
-std::vector<std::int32_t> ParseDependents(const char* szText) {
-    std::vector<std::int32_t> vNumbers(Model::kMaxSelected);
-    const int nCount = ParseList(szText, vNumbers.data(), Model::kMaxSelected, 0, nullptr, 0);
-    vNumbers.resize(static_cast<std::size_t>(nCount));
-    return vNumbers;
-}
-
-void FormatDependents(char (&szText)[1000], const std::vector<std::int32_t>& vNumbers,
-                      int nOffset) {
-    FormatList(szText, static_cast<int>(sizeof szText), vNumbers.data(),
-               static_cast<int>(vNumbers.size()), nOffset);
-    RemoveSpaces(szText);
-}
 
 }  // namespace
 
@@ -149,12 +135,12 @@ void CPairedDataTab::ShowDependent() {
         return;
     }
     const int nCount = list.GetCount();
-    std::vector<std::int32_t> vColumns = ParseDependents(m_pData->GetDepVarSelectionList());
+    std::vector<std::int32_t> vColumns = ParseSelection(m_pData->GetDepVarSelectionList(), 0);
     std::erase_if(vColumns, [nCount](std::int32_t n) { return n < 0 || n >= nCount; });
     if (vColumns.empty()) vColumns = {0};
     list.SelectItems(vColumns);
-    char szText[1000];
-    FormatDependents(szText, vColumns, 1);
+    char szText[kListTextSize];
+    FormatSelection(szText, vColumns, 1);
     m_txtList.SetWindowText(szText);
 }
 
@@ -176,7 +162,7 @@ void CPairedDataTab::ShowLimits() {
 
 std::uint32_t CPairedDataTab::PointsForRange() {
     if (!m_bListMode) return m_pData->GetPointCount();
-    const std::vector<std::int32_t> vColumns = ParseDependents(m_pData->GetDepVarSelectionList());
+    const std::vector<std::int32_t> vColumns = ParseSelection(m_pData->GetDepVarSelectionList(), 0);
     return m_pData->GetFewestPoints(vColumns.data(), static_cast<int>(vColumns.size()));
 }
 
@@ -221,6 +207,11 @@ void CPairedDataTab::EnableListMode() {
     m_btnAll.Enable(bList);
     m_btnNone.Enable(bList);
     m_btnInvert.Enable(bList);
+}
+
+void CPairedDataTab::SetDisabled(bool bDisabled) {
+    CDataTabBase::SetDisabled(bDisabled);
+    if (!bDisabled && m_hWnd != nullptr) ShowAll();
 }
 
 // --- Assigning
@@ -276,21 +267,29 @@ void CPairedDataTab::AssignVariable(int nVariable) {
 }
 
 void CPairedDataTab::AssignDependent() {
-    const int nColumn = CurrentColumn();
-    if (nColumn < 0) return;
-    char szColumn[256] = {};
-    GetActiveList().GetItemText(nColumn, szColumn, static_cast<int>(sizeof szColumn));
-    m_lblDependent.SetArg(0, szColumn);
-    m_pData->SetDepVarDataSetIndex(static_cast<std::uint32_t>(nColumn));
-    if (!m_bDepList) return;
     const std::vector<std::int32_t> vColumns = GetActiveList().GetSelection();
-    char szText[1000];
-    FormatDependents(szText, vColumns, 0);
-    m_pData->SetDepVarSelectionList(szText);
-    if (vColumns.size() > 1) {
-        FormatDependents(szText, vColumns, 1);
-        m_lblDependent.SetArg(0, szText);
+    // With nothing selected a button has nothing to assign; a list is then empty.
+    if (vColumns.empty() && !m_bListMode) return;
+    if (!vColumns.empty()) {
+        m_pData->SetDepVarDataSetIndex(static_cast<std::uint32_t>(vColumns.front()));
     }
+    if (m_bDepList) {
+        char szText[kListTextSize];
+        FormatSelection(szText, vColumns, 0);
+        m_pData->SetDepVarSelectionList(szText);
+    }
+    ShowDependentName(vColumns);
+}
+
+// One column by its name, several by their numbers.
+void CPairedDataTab::ShowDependentName(const std::vector<std::int32_t>& vColumns) {
+    char szText[kListTextSize] = {};
+    if (m_bDepList && vColumns.size() > 1) {
+        FormatSelection(szText, vColumns, 1);
+    } else if (!vColumns.empty()) {
+        GetActiveList().GetItemText(vColumns.front(), szText, kListTextSize);
+    }
+    m_lblDependent.SetArg(0, szText);
 }
 
 // --- Checking and storing
@@ -309,11 +308,17 @@ bool CPairedDataTab::CheckRange(bool bReport) {
 }
 
 BOOL CPairedDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
+    if (!CDataTabBase::Validate(bSilent, ppFailed)) return FALSE;
+    if (m_bListMode && GetListSelCount() == 0) {
+        if (!bSilent) ShowErrorString(MessageOwner(), IDS_NO_DATA_SELECTED);
+        if (ppFailed != nullptr) *ppFailed = &GetActiveList();
+        return FALSE;
+    }
     if (!CheckRange(!bSilent)) {
         if (ppFailed != nullptr) *ppFailed = &m_txtFrom;
         return FALSE;
     }
-    return CDataTabBase::Validate(bSilent, ppFailed);
+    return TRUE;
 }
 
 void CPairedDataTab::ReadControls() {
@@ -339,6 +344,7 @@ void CPairedDataTab::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     CDataTabBase::Notify(pSender, nId, nCode, nData);
     if (!m_bReady || m_bUpdating != 0) return;
     if (m_bReadOnly) {
+        ShowLabels();
         ShowAll();
         GiveFocusAway();
         return;
@@ -401,25 +407,26 @@ void CPairedDataTab::OnListEvent(ADM_Wnd* pSender, int nCode) {
     } else if (pSender == &m_txtList && nCode == ADMN_TEXTCHANGE) {
         m_pData->SetDataSetSelectionMode(0, GetListMode());
         WriteListText(GetListMode());
+        {
+            const UpdateScope updating(m_bUpdating);
+            ShowDependentName(list.GetSelection());
+            ShowLimits();
+        }
         m_pData->Notify(kNotifyDataSelectionChanged);
     }
 }
 
-void CPairedDataTab::OnRowText(bool bFirst) {
+void CPairedDataTab::OnRowText() {
     if (!CheckRange(false)) return;
-    const int nRow = bFirst ? m_txtFrom.GetValue() : m_txtTo.GetValue();
-    const auto uIndex = static_cast<std::uint32_t>(nRow - 1);
-    if (bFirst) {
-        m_pData->SetFirstDataIndex(uIndex);
-    } else {
-        m_pData->SetLastDataIndex(uIndex);
-    }
+    // Both: the other field may have changed while the two were out of order.
+    m_pData->SetFirstDataIndex(static_cast<std::uint32_t>(m_txtFrom.GetValue() - 1));
+    m_pData->SetLastDataIndex(static_cast<std::uint32_t>(m_txtTo.GetValue() - 1));
     m_pData->Notify(kNotifyDataSelectionChanged);
 }
 
 void CPairedDataTab::OnRangeEvent(ADM_Wnd* pSender, int nCode) {
     if (nCode == ADMN_TEXTCHANGE && (pSender == &m_txtFrom || pSender == &m_txtTo)) {
-        OnRowText(pSender == &m_txtFrom);
+        OnRowText();
     } else if (pSender == &m_chkAll && nCode == ADMN_CLICKED) {
         m_pData->SetUseFullDataRange(m_chkAll.GetCheck() == BST_CHECKED);
         EnableRange();

@@ -23,7 +23,9 @@ class CPairedDataTab : public CDataTabBase {
     BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
     BOOL OnPageShow() override;
     void ReadControls() override;
+    // In the list form a column must be selected; the rows must be in order.
     BOOL Validate(BOOL bSilent, ADM_Wnd** ppFailed) override;
+    void SetDisabled(bool bDisabled) override;
 
     // Assigns the current column to a variable, 0 to 5, and makes every other one a constant.
     // Nothing in the list form.
@@ -42,7 +44,7 @@ class CPairedDataTab : public CDataTabBase {
     void ShowVariables();
     void CorrectAssignment();
     void ShowDependent();
-    void ShowListMode();
+    void ShowDependentName(const std::vector<std::int32_t>& vColumns);
     void AssignDependent();
     void ShowLimits();
     void CorrectRange();
@@ -54,7 +56,7 @@ class CPairedDataTab : public CDataTabBase {
     int CurrentColumn();
     int GetListMode();
     void OnVariableText(int nVariable);
-    void OnRowText(bool bFirst);
+    void OnRowText();
     void OnAssignmentEvent(ADM_Wnd* pSender, int nCode);
     void OnListEvent(ADM_Wnd* pSender, int nCode);
     void OnRangeEvent(ADM_Wnd* pSender, int nCode);

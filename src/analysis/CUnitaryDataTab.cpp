@@ -1,5 +1,7 @@
 #include "analysis/CUnitaryDataTab.h"
 
+#include <algorithm>
+
 #include "ZXADLG.h"
 #include "analysis/CaptionText.h"
 #include "analysis/DialogMessages.h"
@@ -37,7 +39,7 @@ constexpr const char* kGroupCaptions[] = {"A&ll visible %ss",
 // -------------------------------------------------------------------------------------
 
 CUnitaryDataTab::CUnitaryDataTab(CDataOptionsInterface* pData, UINT uTemplateId, bool bReadOnly)
-    : CDataTabBase(uTemplateId, pData, bReadOnly), m_bSetsMode(uTemplateId == IDD_UNITARY_DATA) {
+    : CDataTabBase(uTemplateId, pData, bReadOnly) {
     m_radSets.Setup(this, IDC_SETS_VISIBLE, IDC_SETS_LISTED, 5, kSetModes);
     m_radGroups.Setup(this, IDC_GROUPS_VISIBLE, IDC_GROUPS_ONE, 8, kGroupModes);
     RegisterControl(IDC_REGION_LABEL, &m_lblRegion);
@@ -49,7 +51,6 @@ BOOL CUnitaryDataTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     const BOOL bResult = CDataTabBase::OnInitDialog(hWnd, hFocus, lParam);
     const UpdateScope updating(m_bUpdating);
     m_chkForceToZero.Show(m_pData->AllowsForceToZero() ? SW_SHOW : SW_HIDE);
-    m_chkForceToZero.SetCheck(m_pData->GetForceToZero() ? BST_CHECKED : BST_UNCHECKED);
     if (m_pData->GetFlags().bShowSetTools == 0) {
         m_btnAll.Show(SW_HIDE);
         m_btnNone.Show(SW_HIDE);
@@ -75,6 +76,7 @@ void CUnitaryDataTab::ShowSelection(bool bFill) {
     // Only a data file has hidden and active sets.
     if (!m_pData->IsFileData() && eSetMode < Model::kListedSets) eSetMode = Model::kListedSets;
     m_radSets.SetValue(eSetMode);
+    m_chkForceToZero.SetCheck(m_pData->GetForceToZero() ? BST_CHECKED : BST_UNCHECKED);
 
     const bool bShowGroups = m_pData->GetFlags().bShowGroups != 0;
     const int eGroupMode = m_pData->GetDataGroupSelectionMode(m_nActiveList);
@@ -94,6 +96,16 @@ void CUnitaryDataTab::ShowSelection(bool bFill) {
         m_radGroups.SetValue(eGroupMode);
         ApplyGroupMode();
     }
+    ShowGroupSets();
+}
+
+// The lists follow the group that the selection is in now.
+void CUnitaryDataTab::ShowGroupSets() {
+    const UpdateScope updating(m_bUpdating);
+    if (!ListCurrentGroup()) return;
+    ReadListText();
+    ApplySetMode();
+    ShowCount();
 }
 
 void CUnitaryDataTab::ShowRegion(bool bFill) {
@@ -103,7 +115,12 @@ void CUnitaryDataTab::ShowRegion(bool bFill) {
     if (!bOffered) return;
     if (bFill) m_cmbRegion.Fill(m_pData->GetDataSource());
     m_cmbRegion.SelectById(m_pData->GetAnalysisRegion());
-    m_nRegionPosition = m_cmbRegion.GetCurSel();
+    TakeRegion();
+}
+
+void CUnitaryDataTab::TakeRegion() {
+    // With no regions, position 0 stands for all lookups.
+    m_nRegionPosition = std::max(m_cmbRegion.GetCurSel(), 0);
     m_pData->SetRegion(m_cmbRegion.GetRegionId(), m_nRegionPosition);
 }
 
@@ -169,7 +186,9 @@ void CUnitaryDataTab::EnableRadios() {
 
 void CUnitaryDataTab::SetDisabled(bool bDisabled) {
     CDataTabBase::SetDisabled(bDisabled);
-    if (!bDisabled && m_hWnd != nullptr) ShowSelection(false);
+    if (bDisabled || m_hWnd == nullptr) return;
+    ShowLabels();
+    ShowSelection(false);
 }
 
 void CUnitaryDataTab::SelectByMode(int eMode) {
@@ -202,11 +221,10 @@ void CUnitaryDataTab::ApplySetMode() {
 void CUnitaryDataTab::ApplyGroupMode() {
     if (m_cmbGroup.GetCount() > 0 && m_bReady) m_pData->Notify(kNotifyDataSelectionChanged);
     const int eMode = m_radGroups.GetValue();
-    {
+    // Only a data file has the group radios; other data keep to the group of the combo box.
+    if (m_pData->IsFileData()) {
         const UpdateScope updating(m_bUpdating);
-        if (m_pData->IsFileData() && m_pData->GetFlags().bShowGroups != 0) {
-            m_cmbGroup.Enable(eMode == Model::kOneGroup && !m_bDisabled);
-        }
+        m_cmbGroup.Enable(eMode == Model::kOneGroup && !m_bDisabled);
         if (eMode == Model::kActiveGroup) {
             m_cmbGroup.SetCurSel(static_cast<int>(m_pData->GetDataSource()->GetActiveGroup()));
         } else if (eMode == Model::kOneGroup) {
@@ -253,8 +271,7 @@ void CUnitaryDataTab::AfterTool() {
 }
 
 void CUnitaryDataTab::ChangeRegion() {
-    m_nRegionPosition = m_cmbRegion.GetCurSel();
-    m_pData->SetRegion(m_cmbRegion.GetRegionId(), m_nRegionPosition);
+    TakeRegion();
     m_pData->Notify(kNotifyRegionChanged);
     if (m_pData->GetFlags().bUseStoredInfo == 0) m_pData->UpdateDataInfo();
     m_pData->Notify(kNotifyRegionRecount);
@@ -272,13 +289,15 @@ void CUnitaryDataTab::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     }
     if (nCode == ADMN_CLICKED) {
         if (pSender == &m_radDataSet) {
+            // Each selection has modes, a list and a group of its own.
+            ShowSelection(false);
             WriteListSelection(GetSetMode());
-            ShowCount();
         } else if (pSender == &m_radSets) {
             ApplySetMode();
             m_pData->Notify(kNotifyDataSelectionChanged);
         } else if (pSender == &m_radGroups) {
             ApplyGroupMode();
+            ShowGroupSets();
         } else if (pSender == &m_chkForceToZero) {
             m_pData->SetForceToZero(m_chkForceToZero.GetCheck() == BST_CHECKED);
         } else if (pSender == &m_btnAll || pSender == &m_btnNone || pSender == &m_btnInvert) {

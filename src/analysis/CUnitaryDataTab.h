@@ -25,7 +25,9 @@ class CUnitaryDataTab : public CDataTabBase {
   private:
     int GetSetMode();
     void ShowRegion(bool bFill);
+    void TakeRegion();
     void ShowCount();
+    void ShowGroupSets();
     void ShowSetCaptions();
     void ShowGroupCaptions();
     void SelectByMode(int eMode);
@@ -39,7 +41,6 @@ class CUnitaryDataTab : public CDataTabBase {
     int m_eGroupMode = CDataOptionsInterface::kVisibleGroups;  // in force
     std::uint32_t m_uSpecifiedGroup = 0;
     int m_nRegionPosition = 0;
-    bool m_bSetsMode;
 
     ADM_RadioButtons m_radSets;
     ADM_RadioButtons m_radGroups;

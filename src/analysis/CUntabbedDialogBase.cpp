@@ -20,9 +20,10 @@ CUntabbedDialogBase::CUntabbedDialogBase(HWND hwndParent, UINT uTemplateId,
     m_hInstance = GetFrameworkInstance();
     m_hParentWnd = hwndParent;
     SetTemplate(MAKEINTRESOURCEA(uTemplateId));
-    constexpr int kValues[] = {0, -1, 1};
+    // The id between the two buttons belongs to another control.
+    constexpr int kDestinations[] = {IDC_DESTINATION_APPEND, IDC_DESTINATION_REPLACE};
     RegisterControl(IDC_DESTINATION_GROUP, &m_grpDestination);
-    m_radDestination.Setup(this, IDC_DESTINATION_APPEND, IDC_DESTINATION_REPLACE, 3, kValues);
+    m_radDestination.SetupIds(this, 2, kDestinations, nullptr);
     RegisterControl(IDC_DYNAMIC_LINK, &m_chkDynamicLink);
 }
 
@@ -43,7 +44,8 @@ BOOL CUntabbedDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
 void CUntabbedDialogBase::ShowSharedOptions() {
     if (m_pOptions == nullptr) return;
     const UpdateScope updating(m_bUpdating);
-    m_radDestination.SetValue(m_pOptions->GetDestinationOption());
+    // A stored option that is none of the two shows as the first.
+    m_radDestination.SetSelected(m_pOptions->GetDestinationOption() == 1 ? 1 : 0);
     m_chkDynamicLink.SetCheck(m_pOptions->GetDynamicLink() ? BST_CHECKED : BST_UNCHECKED);
 }
 
@@ -60,7 +62,7 @@ void CUntabbedDialogBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData
     }
     if (m_pOptions == nullptr || nCode != ADMN_CLICKED) return;
     if (pSender == &m_radDestination) {
-        m_pOptions->SetDestinationOption(m_radDestination.GetValue());
+        m_pOptions->SetDestinationOption(m_radDestination.GetSelected());
     } else if (pSender == &m_chkDynamicLink) {
         m_pOptions->SetDynamicLink(m_chkDynamicLink.GetCheck() == BST_CHECKED);
     }

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "ZXADLG.h"
+#include "contract/SelectionList.h"
 #include "contract/ValueExtent.h"
 #include "support/BoundedText.h"
 #include "support/ListText.h"
@@ -12,10 +13,19 @@ CDataOptionsInterface::CDataOptionsInterface(ZXADLG_DataOptions* pRecord,
                                              ZXADLG_CDlgDataSource* pSource,
                                              const ZXADLG_DataTabFlags* pFlags)
     : m_pSource(pSource), m_pRecord(pRecord), m_pFlags(pFlags) {
+    EndLists();
     CorrectStoredIndices();
 }
 
 CDataOptionsInterface::~CDataOptionsInterface() = default;
+
+void CDataOptionsInterface::EndLists() {
+    // A host may fill a field to its last byte.
+    const auto end = [](auto& szList) { szList[sizeof szList - 1] = '\0'; };
+    end(m_pRecord->szUnitarySelectionList1);
+    end(m_pRecord->szUnitarySelectionList2);
+    end(m_pRecord->szDepVarSelectionList);
+}
 
 void CDataOptionsInterface::CorrectStoredIndices() {
     // With nothing to point at, an index of 0 stands for "the last".
@@ -210,8 +220,9 @@ std::uint32_t CDataOptionsInterface::GetPointCountInRegion(int nRegionId) const 
 std::uint32_t CDataOptionsInterface::GetPointCount() const {
     const std::uint32_t uGroup = GetGroup();
     if (IsSheetData()) {
-        return std::min(m_pSource->GetPointCount(uGroup, GetXSet(), nullptr, 0),
-                        m_pSource->GetPointCount(uGroup, GetYSet(), nullptr, 0));
+        const std::uint32_t uX = m_pSource->GetPointCount(uGroup, GetXSet(), nullptr, 0);
+        const std::uint32_t uY = m_pSource->GetPointCount(uGroup, GetYSet(), nullptr, 0);
+        return std::min(uX, uY);
     }
     return GetPointCountInRegion(m_nRegionId);
 }
@@ -297,16 +308,22 @@ bool CDataOptionsInterface::ListGroups(std::vector<std::uint32_t>& vGroups) cons
     }
 }
 
+std::uint32_t CDataOptionsInterface::GetMostSets() const {
+    std::uint32_t uMost = 0;
+    const std::uint32_t uGroups = m_pSource->GetGroupCount();
+    for (std::uint32_t g = 0; g < uGroups; ++g) uMost = std::max(uMost, m_pSource->GetSetCount(g));
+    return uMost;
+}
+
 bool CDataOptionsInterface::ListSets(std::uint32_t uGroup, std::vector<std::int32_t>& vSets) const {
     vSets.clear();
-    const auto parse = [&vSets](const char* szList) {
-        vSets.resize(kMaxSelected);
-        const int nCount = ParseList(szList, vSets.data(), kMaxSelected, 0, nullptr, 0);
-        vSets.resize(static_cast<std::size_t>(nCount));
-        return nCount > 0;
+    const auto parse = [&vSets](const char* szList, std::uint32_t uMost) {
+        vSets = ParseSelection(szList, 0);
+        if (vSets.size() > uMost) vSets.resize(uMost);
+        return !vSets.empty();
     };
     if (IsSheetData()) {
-        if (m_bUseDepVarList) return parse(m_pRecord->szDepVarSelectionList);
+        if (m_bUseDepVarList) return parse(m_pRecord->szDepVarSelectionList, kMaxSelected);
         vSets.push_back(static_cast<std::int32_t>(m_pRecord->uDepVarDataSetIndex));
         return true;
     }
@@ -323,7 +340,8 @@ bool CDataOptionsInterface::ListSets(std::uint32_t uGroup, std::vector<std::int3
             return true;
         case kListedSets:
         case kTypedSets:
-            return parse(m_pRecord->szUnitarySelectionList1);
+            // A list names at most as many sets as the largest group has.
+            return parse(m_pRecord->szUnitarySelectionList1, GetMostSets());
         case kVisibleSets:
             for (std::uint32_t s = 0; s < uSets; ++s) {
                 if (m_pSource->IsSetVisible(uGroup, s))
@@ -364,21 +382,23 @@ bool CDataOptionsInterface::GetYExtent(double* pdMin, double* pdMax, bool bFirst
     constexpr double kLargest = std::numeric_limits<double>::max();
     double dMin = kLargest;
     double dMax = -kLargest;
+    bool bDone = false;
     std::vector<std::int32_t> vSets;
-    for (const std::uint32_t uGroup : vGroups) {
+    for (std::size_t i = 0; i < vGroups.size() && !bDone; ++i) {
+        const std::uint32_t uGroup = vGroups[i];
         if (!ListSets(uGroup, vSets)) return false;
+        const std::uint32_t uSets = m_pSource->GetSetCount(uGroup);
         for (const std::int32_t nSet : vSets) {
             const auto uSet = static_cast<std::uint32_t>(nSet);
+            if (uSet >= uSets) continue;  // the list was made for other data
             const ZXADLG_DataRange range = ExtentRange();
             const std::uint32_t uCount = m_pSource->GetPointCount(uGroup, uSet, &range, 0);
             const double* pdValues = m_pSource->GetYValues(uGroup, uSet, &range, 0);
             if (pdValues == nullptr || uCount == 0) continue;
             WidenExtent(pdValues, uCount, dMin, dMax);
             if (bFirstOnly) {
-                if (dMin == kLargest || dMax == -kLargest) return false;
-                *pdMin = dMin;
-                *pdMax = dMax;
-                return true;
+                bDone = true;
+                break;
             }
         }
     }

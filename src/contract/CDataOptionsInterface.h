@@ -133,10 +133,12 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     bool UpdateDataInfo();
 
   private:
+    void EndLists();
     void CorrectStoredIndices();
     std::uint32_t FirstOfCurrentList() const;
     const double* Fetch(bool bY, std::vector<double>& vdValues);
     bool ListGroups(std::vector<std::uint32_t>& vGroups) const;
+    std::uint32_t GetMostSets() const;
     bool ListSets(std::uint32_t uGroup, std::vector<std::int32_t>& vSets) const;
     ZXADLG_DataRange ExtentRange() const;
     std::uint32_t FindRegionPosition(std::int32_t nRegionId) const;

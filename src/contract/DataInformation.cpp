@@ -6,8 +6,8 @@
 #include "ZXADLG.h"
 #include "contract/CDataOptionsInterface.h"
 #include "contract/NotificationCodes.h"
+#include "contract/SelectionList.h"
 #include "support/BoundedText.h"
-#include "support/ListText.h"
 
 namespace {
 
@@ -18,16 +18,6 @@ constexpr std::uint32_t kMaxGroups = 16;
 constexpr std::uint32_t kMaxWaveforms = 2;
 constexpr std::uint32_t kMaxRegions = 50;
 constexpr std::int32_t kLastNumberedRegion = 25;
-
-// The list text of the numbers, without blanks.
-template <std::size_t N>
-void StoreList(char (&szText)[N], const std::vector<std::int32_t>& vNumbers) {
-    char szList[N + N / 2] = {};  // room for the blanks that are removed
-    FormatList(szList, static_cast<int>(sizeof szList), vNumbers.data(),
-               static_cast<int>(vNumbers.size()), 0);
-    RemoveSpaces(szList);
-    CopyText(szText, szList);
-}
 
 }  // namespace
 
@@ -101,7 +91,7 @@ void CDataOptionsInterface::StoreVisibility() {
         if (m_pSource->IsGroupVisible(g)) vVisible.push_back(static_cast<std::int32_t>(g));
     }
     m_pRecord->uVisibleGroups = static_cast<std::uint32_t>(vVisible.size());
-    StoreList(m_pRecord->szVisibleGroups, vVisible);
+    FormatSelection(m_pRecord->szVisibleGroups, vVisible, 0);
 
     vVisible.clear();
     const std::uint32_t uGroup = IsSheetData() ? GetGroup() : m_pSource->GetActiveGroup();
@@ -111,7 +101,7 @@ void CDataOptionsInterface::StoreVisibility() {
         if (m_pSource->IsSetVisible(uGroup, s)) vVisible.push_back(static_cast<std::int32_t>(s));
     }
     m_pRecord->uVisibleSets = static_cast<std::uint32_t>(vVisible.size());
-    StoreList(m_pRecord->szVisibleSets, vVisible);
+    FormatSelection(m_pRecord->szVisibleSets, vVisible, 0);
 }
 
 void CDataOptionsInterface::StoreGroups() {

@@ -1,0 +1,663 @@
+// What the model behind the data tabs corrects, answers and stores.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <limits>
+#include <numeric>
+#include <string>
+
+#include "contract/CDataOptionsInterface.h"
+#include "contract/SelectionList.h"
+#include "support/BoundedText.h"
+#include "support/TestDataSource.h"
+
+namespace {
+
+using test_support::TestDataSource;
+constexpr double kLargest = std::numeric_limits<double>::max();
+
+class DataOptions : public testing::Test {
+  protected:
+    // A new model over the record as it stands, with the record corrected against the source.
+    CDataOptionsInterface& Model() {
+        model = std::make_unique<CDataOptionsInterface>(&record, &source, &flags);
+        return *model;
+    }
+    CDataOptionsInterface& Sheet() {
+        source.Kind(2);
+        return Model();
+    }
+    // The last thing asked, the kind of the data apart.
+    std::string LastAsked() const {
+        for (auto it = source.calls.rbegin(); it != source.calls.rend(); ++it) {
+            if (*it != "GetDataKind()") return *it;
+        }
+        return "";
+    }
+    void List(const char* text) { CopyText(record.szUnitarySelectionList1, text); }
+    void Dependents(const char* text) { CopyText(record.szDepVarSelectionList, text); }
+
+    TestDataSource source;
+    ZXADLG_DataOptions record = {};
+    ZXADLG_DataTabFlags flags;
+    std::unique_ptr<CDataOptionsInterface> model;
+};
+
+// --- Correction of what is stored
+
+TEST_F(DataOptions, GroupIndexBeyondTheFileBecomesItsLastGroup) {
+    record.uGroup1Index = 7;
+    Model();
+    EXPECT_EQ(record.uGroup1Index, 1u);
+    record.uGroup1Index = 2;
+    Model();
+    EXPECT_EQ(record.uGroup1Index, 1u);
+    record.uGroup1Index = 1;
+    Model();
+    EXPECT_EQ(record.uGroup1Index, 1u);
+    source.Groups({});
+    record.uGroup1Index = 3;
+    Model();
+    EXPECT_EQ(record.uGroup1Index, 0u);
+}
+
+TEST_F(DataOptions, SheetColumnsBeyondTheSheetBecomeTheLastTwo) {
+    record.uIndepVarDataSetIndex = 12;
+    record.uDepVarDataSetIndex = 99;
+    Sheet();
+    EXPECT_EQ(record.uIndepVarDataSetIndex, 10u);
+    EXPECT_EQ(record.uDepVarDataSetIndex, 11u);
+}
+
+TEST_F(DataOptions, SheetWithOneColumnTakesColumnZeroForX) {
+    source.Sets(1);
+    record.uIndepVarDataSetIndex = 5;
+    record.uDepVarDataSetIndex = 5;
+    Sheet();
+    EXPECT_EQ(record.uIndepVarDataSetIndex, 0u);
+    EXPECT_EQ(record.uDepVarDataSetIndex, 0u);
+}
+
+TEST_F(DataOptions, SheetWithNoColumnsHasIndicesThatPointAtNothingElse) {
+    source.Sets(0);
+    record.uIndepVarDataSetIndex = 5;
+    Sheet();
+    EXPECT_EQ(record.uIndepVarDataSetIndex, 0u);
+    EXPECT_EQ(record.uDepVarDataSetIndex, 0u);
+}
+
+TEST_F(DataOptions, OtherKindsKeepTheColumnsAndRows) {
+    record.uIndepVarDataSetIndex = 99;
+    record.uDepVarDataSetIndex = 98;
+    record.uFirstDataIndex = 5000;
+    record.uLastDataIndex = 4;
+    Model();
+    EXPECT_EQ(record.uIndepVarDataSetIndex, 99u);
+    EXPECT_EQ(record.uDepVarDataSetIndex, 98u);
+    EXPECT_EQ(record.uFirstDataIndex, 5000u);
+    EXPECT_EQ(record.uLastDataIndex, 4u);
+}
+
+TEST_F(DataOptions, SheetRowsTakeTheSmallerAsTheFirstAndKeepTheLast) {
+    record.uFirstDataIndex = 50;
+    record.uLastDataIndex = 20;
+    Sheet();
+    EXPECT_EQ(record.uFirstDataIndex, 20u);
+    EXPECT_EQ(record.uLastDataIndex, 20u);
+}
+
+TEST_F(DataOptions, SheetRowsBeyondThePointsStartAtTheFirstUnlessTheDataAreStored) {
+    record.uFirstDataIndex = 1000;
+    record.uLastDataIndex = 2000;
+    Sheet();
+    EXPECT_EQ(record.uFirstDataIndex, 0u);
+    EXPECT_EQ(record.uLastDataIndex, 2000u);
+    flags.bUseStoredInfo = 1;
+    record.uFirstDataIndex = 1000;
+    Sheet();
+    EXPECT_EQ(record.uFirstDataIndex, 1000u);
+}
+
+TEST_F(DataOptions, ConstantMarksBecomeOneOrZero) {
+    record.abIsConstant[1] = 7;
+    record.adConstants[5] = 1.5;
+    CDataOptionsInterface& m = Model();
+    EXPECT_EQ(record.abIsConstant[1], 1);
+    EXPECT_EQ(record.abIsConstant[0], 0);
+    EXPECT_EQ(m.GetConstant(5), 1.5);
+    EXPECT_EQ(m.GetConstant(6), 0.0);
+    EXPECT_FALSE(m.GetIsConstant(6));
+}
+
+TEST_F(DataOptions, ListThatFillsItsFieldIsEnded) {
+    std::memset(record.szUnitarySelectionList1, '1', sizeof record.szUnitarySelectionList1);
+    std::memset(record.szUnitarySelectionList2, '1', sizeof record.szUnitarySelectionList2);
+    std::memset(record.szDepVarSelectionList, '1', sizeof record.szDepVarSelectionList);
+    CDataOptionsInterface& m = Model();
+    EXPECT_EQ(std::strlen(m.GetSelectionList(0)), 999u);
+    EXPECT_EQ(std::strlen(m.GetSelectionList(1)), 999u);
+    EXPECT_EQ(std::strlen(m.GetDepVarSelectionList()), 999u);
+    EXPECT_EQ(m.GetXSet(), 0u);  // not a number of 32 bits
+}
+
+// --- The selection
+
+TEST_F(DataOptions, SelectionListsAreTwoAndHold999Characters) {
+    CDataOptionsInterface& m = Model();
+    const std::string longText(1500, '7');
+    m.SetSelectionList(0, longText.c_str());
+    m.SetSelectionList(1, "4..6");
+    m.SetSelectionList(2, "9");
+    m.SetSelectionList(-1, "9");
+    EXPECT_EQ(std::strlen(record.szUnitarySelectionList1), 999u);
+    EXPECT_EQ(record.uGroup1Index, 0u);
+    EXPECT_STREQ(m.GetSelectionList(1), "4..6");
+    EXPECT_STREQ(m.GetSelectionList(2), "");
+    EXPECT_STREQ(m.GetSelectionList(-1), "");
+    m.SetSelectionList(0, nullptr);
+    EXPECT_STREQ(m.GetSelectionList(0), "");
+}
+
+TEST_F(DataOptions, CountsOfEntriesAreKeptForTwoSelections) {
+    CDataOptionsInterface& m = Model();
+    EXPECT_EQ(m.GetSelectedGroupCount(0), 0u);
+    m.SetSelectedGroupCount(0, 3);
+    m.SetSelectedGroupCount(1, 4);
+    m.SetSelectedGroupCount(2, 5);
+    m.SetSelectedGroupCount(-1, 5);
+    EXPECT_EQ(m.GetSelectedGroupCount(0), 3u);
+    EXPECT_EQ(m.GetSelectedGroupCount(1), 4u);
+    EXPECT_EQ(m.GetSelectedGroupCount(2), 0u);
+}
+
+TEST_F(DataOptions, ConstantNamesHold15CharactersAndEndAtTheCount) {
+    CDataOptionsInterface& m = Model();
+    EXPECT_EQ(m.GetConstantCount(), 1u);
+    m.SetConstantName(0, "A name of some length");
+    m.SetConstantName(1, "x2");
+    m.SetConstantName(6, "beyond");
+    EXPECT_STREQ(m.GetConstantName(0), "A name of some ");
+    EXPECT_STREQ(m.GetConstantName(1), "");
+    m.SetConstantCount(9);
+    EXPECT_STREQ(m.GetConstantName(1), "x2");
+    EXPECT_STREQ(m.GetConstantName(6), "");
+    m.SetDependentName("Another long name for it");
+    EXPECT_STREQ(m.GetDependentName(), "Another long na");
+}
+
+TEST_F(DataOptions, FeaturesTakeEffectOnlyWhereTheFlagsAllowThem) {
+    CDataOptionsInterface& m = Model();
+    record.bExtrapolate = 1;
+    record.bForceExcludedRegionToZero = 1;
+    EXPECT_FALSE(m.GetExtrapolate());
+    EXPECT_FALSE(m.GetForceToZero());
+    m.SetExtrapolate(false);
+    m.SetForceToZero(false);
+    EXPECT_EQ(record.bExtrapolate, 1);
+    EXPECT_EQ(record.bForceExcludedRegionToZero, 1);
+    flags.bAllowExtrapolate = flags.bAllowForceToZero = 1;
+    EXPECT_TRUE(m.GetExtrapolate());
+    EXPECT_TRUE(m.GetForceToZero());
+    m.SetForceToZero(false);
+    m.SetExtrapolate(false);
+    EXPECT_EQ(record.bExtrapolate, 0);
+    EXPECT_EQ(record.bForceExcludedRegionToZero, 0);
+    source.Kind(1);
+    record.bForceExcludedRegionToZero = 1;
+    EXPECT_FALSE(m.GetForceToZero());
+    m.SetRegion(5, 2);
+    EXPECT_EQ(record.eAnalysisRegion, 0);
+    source.Kind(0);
+    m.SetRegion(5, 2);
+    EXPECT_EQ(record.eAnalysisRegion, 5);
+    EXPECT_EQ(m.GetRegionPosition(), 2);
+    flags.bAllowRegion = 0;
+    m.SetRegion(6, 3);
+    EXPECT_EQ(m.GetRegionId(), 5);
+}
+
+TEST_F(DataOptions, SelectionTextsAreCutBetweenNumbers) {
+    std::vector<std::int32_t> odd;
+    for (int i = 1; i < 10000; i += 2) odd.push_back(i);
+    char text[1000];
+    FormatSelection(text, odd, 0);
+    const std::vector<std::int32_t> back = ParseSelection(text, 0);
+    ASSERT_GT(back.size(), 200u);
+    EXPECT_TRUE(std::equal(back.begin(), back.end(), odd.begin()));
+    EXPECT_GT(std::strlen(text), 990u);
+    char small[8];
+    const std::vector<std::int32_t> run = {5, 6, 7, 100000, 100001};
+    FormatSelection(small, run, 1);
+    EXPECT_STREQ(small, "6..8");
+    const std::vector<std::int32_t> wide = {123456, 123457};
+    FormatSelection(small, wide, 0);
+    EXPECT_STREQ(small, "123456");
+}
+
+// --- Questions
+
+TEST_F(DataOptions, GroupFollowsTheKindAndTheSelectedDataSet) {
+    record.uGroup1Index = 1;
+    record.uGroup2Index = 0;
+    record.uPairedGroupIndex = 1;
+    CDataOptionsInterface& m = Model();
+    EXPECT_EQ(m.GetGroup(), 1u);
+    record.uSelectedDataSet = 1;
+    EXPECT_EQ(m.GetGroup(), 0u);
+    source.Kind(2);
+    EXPECT_EQ(m.GetGroup(), 1u);
+    source.setCounts = {3, 7};
+    EXPECT_EQ(m.GetSetCountInGroup(), 7u);
+}
+
+TEST_F(DataOptions, SetsAreTheFirstOfTheListOrTheColumnsOfTheSheet) {
+    List("4..2");
+    CopyText(record.szUnitarySelectionList2, "9,1");
+    CDataOptionsInterface& m = Model();
+    EXPECT_EQ(m.GetXSet(), 4u);
+    EXPECT_EQ(m.GetYSet(), 4u);
+    record.uSelectedDataSet = 1;
+    EXPECT_EQ(m.GetXSet(), 9u);
+    CopyText(record.szUnitarySelectionList2, "1,,3");
+    EXPECT_EQ(m.GetYSet(), 0u);
+    source.Kind(2);
+    record.uIndepVarDataSetIndex = 2;
+    record.uDepVarDataSetIndex = 3;
+    Dependents("7..9");
+    EXPECT_EQ(m.GetXSet(), 2u);
+    EXPECT_EQ(m.GetYSet(), 3u);
+    m.SetUseDepVarList(true);
+    EXPECT_EQ(m.GetYSet(), 7u);
+}
+
+TEST_F(DataOptions, CountsAskForTheRegionWithTheOtherFieldsZero) {
+    source.Region(3, "Cursors", 100, 199);
+    List("2");
+    CDataOptionsInterface& m = Model();
+    EXPECT_EQ(m.GetPointCount(), 1000u);
+    m.SetRegion(3, 0);
+    source.Record();
+    EXPECT_EQ(m.GetPointCount(), 100u);
+    EXPECT_EQ(LastAsked(), "GetPointCount(0,2,{3,0,0,0,part})");
+    EXPECT_EQ(m.GetSelectedPointCount(), 100u);
+    EXPECT_EQ(LastAsked(), "GetPointCount(0,2,{3,0,0,0,part})");
+    EXPECT_EQ(m.GetPointCountInRegion(0), 1000u);
+}
+
+TEST_F(DataOptions, SheetCountIsTheSmallerOfTheTwoColumnsWithNoRange) {
+    record.uIndepVarDataSetIndex = 1;
+    record.uDepVarDataSetIndex = 4;
+    CDataOptionsInterface& m = Sheet();
+    source.Record();
+    EXPECT_EQ(m.GetPointCount(), 1000u);
+    ASSERT_GE(source.calls.size(), 2u);
+    EXPECT_EQ(LastAsked(), "GetPointCount(0,4,null)");
+    record.uFirstDataIndex = 10;
+    record.uLastDataIndex = 19;
+    EXPECT_EQ(m.GetSelectedPointCount(), 10u);
+    record.bUseFullDataRange = 1;
+    EXPECT_EQ(m.GetSelectedPointCount(), 1000u);
+}
+
+TEST_F(DataOptions, FewestPointsAreTheSmallestCountOfTheSets) {
+    struct Uneven : TestDataSource {
+        uint32_t GetPointCount(uint32_t, uint32_t set, const ZXADLG_DataRange* range,
+                               uint32_t) override {
+            EXPECT_EQ(range, nullptr);
+            return 100 - set;
+        }
+    } uneven;
+    uneven.Kind(2);
+    CDataOptionsInterface m(&record, &uneven, &flags);
+    const std::int32_t sets[] = {1, 5, 3};
+    EXPECT_EQ(m.GetFewestPoints(sets, 3), 95u);
+    EXPECT_EQ(m.GetFewestPoints(sets, 1), 99u);
+    EXPECT_EQ(m.GetFewestPoints(nullptr, 0), 0u);
+}
+
+TEST_F(DataOptions, ActiveSetIsAskedForDataFilesOnly) {
+    source.activeSet = 5;
+    record.uGroup1Index = 1;
+    CDataOptionsInterface& m = Model();
+    source.Record();
+    EXPECT_EQ(m.GetActiveSetForGroup(), 5u);
+    EXPECT_EQ(LastAsked(), "GetActiveSet(1)");
+    source.Kind(1);
+    EXPECT_EQ(m.GetActiveSetForGroup(), 0u);
+}
+
+// --- The fetch
+
+TEST_F(DataOptions, FetchAsksForTheRegionAndCopies) {
+    source.Region(3, "Cursors", 100, 199);
+    List("2");
+    CDataOptionsInterface& m = Model();
+    m.SetRegion(3, 0);
+    source.Record();
+    const double* y = m.GetYValues();
+    EXPECT_EQ(LastAsked(), "GetYValues(0,2,{3,0,99,0,full})");
+    ASSERT_NE(y, nullptr);
+    EXPECT_EQ(y[0], 200.0 + 100);
+    EXPECT_EQ(y[99], 200.0 + 199);
+    const double* x = m.GetXValues();
+    EXPECT_EQ(LastAsked(), "GetXValues(0,2,{3,0,99,0,part})");
+    ASSERT_NE(x, nullptr);
+    EXPECT_EQ(x[0], 0.1 * 100);
+    EXPECT_EQ(y[0], 300.0);  // a private copy, of its own beside the x values
+}
+
+TEST_F(DataOptions, SheetFetchNarrowsToTheRowsWithinTheColumn) {
+    record.uIndepVarDataSetIndex = 1;
+    record.uDepVarDataSetIndex = 2;
+    record.uFirstDataIndex = 10;
+    record.uLastDataIndex = 12;
+    CDataOptionsInterface& m = Sheet();
+    struct Whole : TestDataSource {
+        const double* GetXValues(uint32_t, uint32_t, const ZXADLG_DataRange* range,
+                                 uint32_t) override {
+            last = *range;
+            return values.data();
+        }
+        const double* GetYValues(uint32_t, uint32_t, const ZXADLG_DataRange* range,
+                                 uint32_t) override {
+            last = *range;
+            return values.data();
+        }
+        std::vector<double> values;
+        ZXADLG_DataRange last = {};
+    } whole;
+    whole.Kind(2);
+    whole.values.resize(1000);
+    std::iota(whole.values.begin(), whole.values.end(), 0.0);
+    CDataOptionsInterface n(&record, &whole, &flags);
+    const double* x = n.GetXValues();
+    ASSERT_NE(x, nullptr);
+    EXPECT_EQ(x[0], 10.0);
+    EXPECT_EQ(x[2], 12.0);
+    EXPECT_EQ(whole.last.uFirstIndex, 0u);
+    EXPECT_EQ(whole.last.uLastIndex, 999u);
+    EXPECT_EQ(whole.last.bUseFullRange, 0);
+    ASSERT_NE(n.GetYValues(), nullptr);
+    EXPECT_EQ(whole.last.bUseFullRange, 1);
+    double first = -1, last = -1;
+    EXPECT_TRUE(n.GetXRange(&first, &last));
+    EXPECT_EQ(first, 10.0);
+    EXPECT_EQ(last, 12.0);
+    // Rows beyond the column are not read.
+    record.uLastDataIndex = 5000;
+    EXPECT_TRUE(n.GetXRange(&first, &last));
+    EXPECT_EQ(last, 999.0);
+    record.uFirstDataIndex = 4000;
+    EXPECT_EQ(n.GetXValues(), nullptr);
+    record.bUseFullDataRange = 1;
+    EXPECT_TRUE(n.GetXRange(&first, &last));
+    EXPECT_EQ(first, 0.0);
+    EXPECT_EQ(last, 999.0);
+    EXPECT_EQ(m.GetPointCount(), 1000u);
+}
+
+TEST_F(DataOptions, RangeOfASinglePointIsFalse) {
+    record.uFirstDataIndex = record.uLastDataIndex = 4;
+    CDataOptionsInterface& m = Sheet();
+    double first = 5, last = 5;
+    EXPECT_FALSE(m.GetXRange(&first, &last));
+    EXPECT_EQ(first, 0.0);
+    EXPECT_EQ(last, 0.0);
+}
+
+TEST_F(DataOptions, NoValuesGiveNull) {
+    source.NullArrays();
+    List("0");
+    double first = 5, last = 5;
+    {
+        CDataOptionsInterface& m = Model();
+        EXPECT_EQ(m.GetXValues(), nullptr);
+        EXPECT_EQ(m.GetYValues(), nullptr);
+        EXPECT_FALSE(m.GetXRange(&first, &last));
+        EXPECT_EQ(first, 0.0);
+    }
+    source.nullArrays = false;
+    source.Points(0);
+    EXPECT_EQ(Model().GetXValues(), nullptr);
+    source.Points(5).Sets(0);
+    EXPECT_EQ(Model().GetYValues(), nullptr);
+    source.Groups({});
+    EXPECT_EQ(Model().GetYValues(), nullptr);
+    EXPECT_EQ(Model().GetPointCount(), 0u);
+}
+
+// --- The extent of y values
+
+class YExtent : public DataOptions {
+  protected:
+    struct Extent {
+        bool found;
+        double low;
+        double high;
+        bool operator==(const Extent&) const = default;
+    };
+    Extent Ask(bool firstOnly = false) {
+        Extent e = {true, -1, -1};
+        e.found = model->GetYExtent(&e.low, &e.high, firstOnly);
+        return e;
+    }
+    static constexpr Extent kNone = {false, 0, 0};
+};
+
+TEST_F(YExtent, FollowsTheGroupModes) {
+    record.eDataSet1SelectionMode = 1;
+    source.Sets(2).Points(10);
+    source.setCounts = {2, 5};
+    Model();
+    record.eDataGroup1SelectionMode = 3;
+    EXPECT_EQ(Ask(), (Extent{true, 0, 409}));
+    record.eDataGroup1SelectionMode = 1;
+    EXPECT_EQ(Ask(), (Extent{true, 0, 109}));
+    record.uGroup1Index = 1;
+    EXPECT_EQ(Ask(), (Extent{true, 0, 409}));
+    record.eDataGroup1SelectionMode = 0;
+    EXPECT_EQ(Ask(), (Extent{true, 0, 409}));
+    source.hiddenGroup = 1;
+    record.eDataGroup1SelectionMode = 2;
+    EXPECT_EQ(Ask(), (Extent{true, 0, 109}));
+    record.eDataGroup1SelectionMode = 4;
+    EXPECT_EQ(Ask(), kNone);
+    record.eDataGroup1SelectionMode = -1;
+    EXPECT_EQ(Ask(), kNone);
+}
+
+TEST_F(YExtent, FollowsTheSetModes) {
+    record.eDataGroup1SelectionMode = 1;
+    source.Sets(6).Points(10);
+    source.hiddenEvery = 2;  // sets 1, 3 and 5
+    source.activeSet = 4;
+    List("2..3");
+    Model();
+    record.eDataSet1SelectionMode = 0;
+    EXPECT_EQ(Ask(), (Extent{true, 0, 409}));
+    record.eDataSet1SelectionMode = 1;
+    EXPECT_EQ(Ask(), (Extent{true, 0, 509}));
+    record.eDataSet1SelectionMode = 2;
+    EXPECT_EQ(Ask(), (Extent{true, 300, 309}));
+    for (const int mode : {3, 4}) {
+        record.eDataSet1SelectionMode = mode;
+        EXPECT_EQ(Ask(), (Extent{true, 200, 309}));
+    }
+    record.eDataSet1SelectionMode = 5;
+    EXPECT_EQ(Ask(), kNone);
+    record.eDataSet1SelectionMode = 2;
+    source.activeSet = 0;
+    EXPECT_EQ(Ask(), kNone);
+}
+
+TEST_F(YExtent, ListThatCannotBeParsedIsFalseWithBothLimitsZero) {
+    record.eDataGroup1SelectionMode = 1;
+    record.eDataSet1SelectionMode = 4;
+    Model();
+    for (const char* text : {"", "1,,3", "..3", "4x", "abc"}) {
+        SCOPED_TRACE(text);
+        List(text);
+        EXPECT_EQ(Ask(), kNone);
+    }
+}
+
+TEST_F(YExtent, ListNamesNoMoreSetsThanTheLargestGroupHas) {
+    record.eDataGroup1SelectionMode = 1;
+    record.eDataSet1SelectionMode = 4;
+    source.Sets(3).Points(10);
+    List("20,21,22,1");
+    Model();
+    EXPECT_EQ(Ask(), kNone);
+    List("20,21,1,2");
+    EXPECT_EQ(Ask(), (Extent{true, 100, 109}));
+    List("-5..-3");
+    EXPECT_EQ(Ask(), kNone);
+}
+
+TEST_F(YExtent, FirstOnlyStopsAfterTheFirstSetWithValues) {
+    record.eDataGroup1SelectionMode = 1;
+    record.eDataSet1SelectionMode = 4;
+    source.Points(10);
+    List("5,2");
+    Model();
+    EXPECT_EQ(Ask(true), (Extent{true, 500, 509}));
+    struct FirstEmpty : TestDataSource {
+        const double* GetYValues(uint32_t g, uint32_t set, const ZXADLG_DataRange* r,
+                                 uint32_t n) override {
+            return set == 5 ? nullptr : TestDataSource::GetYValues(g, set, r, n);
+        }
+    } firstEmpty;
+    firstEmpty.Points(10);
+    CDataOptionsInterface m(&record, &firstEmpty, &flags);
+    double low = 0, high = 0;
+    EXPECT_TRUE(m.GetYExtent(&low, &high, true));
+    EXPECT_EQ(low, 200.0);
+    EXPECT_EQ(high, 209.0);
+}
+
+TEST_F(YExtent, PassesOverNaNAndKeepsInfinities) {
+    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+    constexpr double kInf = std::numeric_limits<double>::infinity();
+    record.eDataGroup1SelectionMode = 1;
+    record.eDataSet1SelectionMode = 4;
+    List("0");
+    Model();
+    const auto of = [&](std::vector<double> values) {
+        source.Points(static_cast<uint32_t>(values.size()));
+        source.yValues = std::move(values);
+        return Ask();
+    };
+    EXPECT_EQ(of({kNaN, 3, kNaN, 1, kNaN}), (Extent{true, 1, 3}));
+    EXPECT_EQ(of({kNaN, kNaN}), kNone);
+    EXPECT_EQ(of({kInf, 2, -kInf}), (Extent{true, -kInf, kInf}));
+    // A limit that never moved leaves nothing to tell.
+    EXPECT_EQ(of({kInf}), kNone);
+    EXPECT_EQ(of({-kInf, -kInf}), kNone);
+    EXPECT_EQ(of({kLargest}), kNone);
+    EXPECT_EQ(of({-kLargest}), kNone);
+    EXPECT_EQ(of({7}), (Extent{true, 7, 7}));
+}
+
+TEST_F(YExtent, IsTheScalarComparisonForEveryLengthAndPlace) {
+    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+    record.eDataGroup1SelectionMode = 1;
+    record.eDataSet1SelectionMode = 4;
+    List("0");
+    Model();
+    for (uint32_t n = 1; n <= 70; ++n) {
+        for (uint32_t at = 0; at < n; ++at) {
+            std::vector<double> values(n, 1.0);
+            values[at] = -5.0;
+            values[(at * 7 + 3) % n] += 100.0;
+            if (n > 8) values[(at + 5) % n] = kNaN;
+            double low = kLargest, high = -kLargest;
+            for (const double v : values) {
+                if (v < low) low = v;
+                if (v > high) high = v;
+            }
+            source.Points(n);
+            source.yValues = values;
+            ASSERT_EQ(Ask(), (Extent{true, low, high})) << n << " " << at;
+        }
+    }
+}
+
+TEST_F(YExtent, DataFileIsConfinedToTheRegion) {
+    source.Region(3, "Cursors", 100, 199);
+    record.eDataGroup1SelectionMode = 1;
+    record.eDataSet1SelectionMode = 4;
+    List("0");
+    Model().SetRegion(3, 0);
+    EXPECT_EQ(Ask(), (Extent{true, 100, 199}));
+}
+
+TEST_F(YExtent, FirstIndexTakesTheLastUnlessTheLastLiesBelow) {
+    record.uDepVarDataSetIndex = 2;
+    record.uFirstDataIndex = 10;
+    record.uLastDataIndex = 20;
+    Sheet();
+    source.Record();
+    EXPECT_EQ(Ask(), (Extent{true, 220, 220}));
+    EXPECT_EQ(LastAsked(), "GetYValues(0,2,{0,20,20,0,part})");
+    EXPECT_EQ(source.calls[source.calls.size() - 2], "GetPointCount(0,2,{0,20,20,0,part})");
+    record.uFirstDataIndex = 20;
+    EXPECT_EQ(Ask(), (Extent{true, 220, 220}));
+    record.uFirstDataIndex = 30;
+    Ask();
+    EXPECT_EQ(LastAsked(), "GetYValues(0,2,{0,30,20,0,part})");
+    record.bUseFullDataRange = 1;
+    EXPECT_EQ(Ask(), (Extent{true, 200, 1199}));
+    EXPECT_EQ(LastAsked(), "GetYValues(0,2,{0,30,20,0,full})");
+    source.Kind(1);
+    record.eDataGroup1SelectionMode = 1;
+    record.eDataSet1SelectionMode = 4;
+    record.uFirstDataIndex = 3;
+    List("1");
+    EXPECT_EQ(Ask(), (Extent{true, 100, 1099}));
+    EXPECT_EQ(LastAsked(), "GetYValues(0,1,{0,20,20,0,full})");
+}
+
+TEST_F(YExtent, SheetTakesTheDependentColumnOrTheirList) {
+    record.uDepVarDataSetIndex = 3;
+    record.bUseFullDataRange = 1;
+    record.uPairedGroupIndex = 1;
+    Dependents("5..6");
+    source.Points(10);
+    Sheet();
+    EXPECT_EQ(Ask(), (Extent{true, 300, 309}));
+    model->SetUseDepVarList(true);
+    EXPECT_EQ(Ask(), (Extent{true, 500, 609}));
+    Dependents("x");
+    EXPECT_EQ(Ask(), kNone);
+}
+
+TEST_F(YExtent, StoredInfoIsCopiedAndAlwaysThere) {
+    flags.bUseStoredInfo = 1;
+    record.dMinValue = 3;
+    record.dMaxValue = -8;
+    record.eDataGroup1SelectionMode = 77;
+    Model();
+    source.Record();
+    EXPECT_EQ(Ask(), (Extent{true, 3, -8}));
+    EXPECT_TRUE(source.calls.empty());
+}
+
+TEST_F(YExtent, NothingToScanIsFalse) {
+    record.eDataGroup1SelectionMode = 3;
+    record.eDataSet1SelectionMode = 1;
+    source.NullArrays();
+    Model();
+    EXPECT_EQ(Ask(), kNone);
+    source.nullArrays = false;
+    source.Points(0);
+    EXPECT_EQ(Ask(), kNone);
+    source.Points(5).Sets(0);
+    EXPECT_EQ(Ask(), kNone);
+    source.Groups({});
+    EXPECT_EQ(Ask(), kNone);
+    source.Kind(2);
+    EXPECT_EQ(Ask(), kNone);
+}
+
+}  // namespace
