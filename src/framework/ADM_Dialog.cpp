@@ -14,6 +14,11 @@ namespace {
 constexpr UINT_PTR kAutoApplyTimer = 1;
 constexpr UINT kAutoApplyPeriod = 500;  // ms
 
+BOOL CALLBACK CollectWindow(HWND hWnd, LPARAM lParam) {
+    reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
+    return TRUE;
+}
+
 }  // namespace
 
 ADM_Dialog::ADM_Dialog() = default;
@@ -27,7 +32,7 @@ ADM_Dialog::~ADM_Dialog() {
     m_vControls.clear();
     if (m_hWnd == nullptr) return;
     // The dialog dies with its window open: the window must not reach it again.
-    RemovePropA(m_hWnd, kDialogProp);
+    LetGo(m_hWnd);
     RemoveFilter();
     const HWND hWnd = m_hWnd;
     m_hWnd = nullptr;
@@ -216,13 +221,22 @@ ADM_Wnd* ADM_Dialog::FindControl(HWND hWnd) const {
 }
 
 void ADM_Dialog::BindControls() {
+    // One walk over the items in the place of a search for each child.
+    std::vector<HWND> items;
+    EnumChildWindows(m_hWnd, CollectWindow, reinterpret_cast<LPARAM>(&items));
+    const auto itemWithId = [&items, this](int nId) {
+        const auto it = std::find_if(items.begin(), items.end(), [nId, this](HWND hItem) {
+            return GetDlgCtrlID(hItem) == nId && ::GetParent(hItem) == m_hWnd;
+        });
+        return it != items.end() ? *it : nullptr;
+    };
     // By index: a child may register another one when it is attached.
     for (std::size_t i = 0; i < m_vControls.size(); ++i) {
         ADM_Wnd* pChild = m_vControls[i];
         if (pChild->GetHandle() != nullptr) continue;
         const int nId = pChild->GetControlId();
         pChild->SetDialogWnd(GetDialogWnd());
-        pChild->Attach(nId == kNoItem ? nullptr : GetDlgItem(m_hWnd, nId));
+        pChild->Attach(nId == kNoItem ? nullptr : itemWithId(nId));
     }
 }
 

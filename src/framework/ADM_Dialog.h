@@ -169,6 +169,8 @@ class ADM_Dialog : public ADM_Wnd {
 
     static INT_PTR CALLBACK WindowProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam);
 
+    // Takes the object off a window.
+    static void LetGo(HWND hWnd);
     bool IsChild(const ADM_Wnd* pControl) const;
     void BindControls();
     void EnableHelpButton();

@@ -4,21 +4,40 @@
 #include "framework/ADM_Dialog.h"
 #include "framework/AppCommand.h"
 #include "framework/PrivateMessages.h"
+#include "framework/WindowMap.h"
+
+namespace {
+
+// What the property of each dialog window holds.
+WindowMap<ADM_Dialog*>& Dialogs() {
+    static WindowMap<ADM_Dialog*> dialogs;
+    return dialogs;
+}
+
+}  // namespace
 
 INT_PTR CALLBACK ADM_Dialog::WindowProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
     if (uMsg == WM_INITDIALOG) {
-        SetPropA(hWnd, kDialogProp, reinterpret_cast<HANDLE>(lParam));
-        reinterpret_cast<ADM_Dialog*>(lParam)->Attach(hWnd);
+        auto* const pOpening = reinterpret_cast<ADM_Dialog*>(lParam);
+        SetPropA(hWnd, kDialogProp, pOpening);
+        Dialogs().Set(hWnd, pOpening);
+        pOpening->Attach(hWnd);
     }
     ADM_Dialog* pDialog = FromWindow(hWnd);
     if (pDialog == nullptr) return FALSE;
     const INT_PTR nResult = pDialog->DialogProc(hWnd, uMsg, wParam, lParam);
-    if (uMsg == WM_NCDESTROY) RemovePropA(hWnd, kDialogProp);
+    if (uMsg == WM_NCDESTROY) LetGo(hWnd);
     return nResult;
 }
 
+void ADM_Dialog::LetGo(HWND hWnd) {
+    RemovePropA(hWnd, kDialogProp);
+    Dialogs().Erase(hWnd);
+}
+
 ADM_Dialog* ADM_Dialog::FromWindow(HWND hWnd) {
-    return hWnd == nullptr ? nullptr : static_cast<ADM_Dialog*>(GetPropA(hWnd, kDialogProp));
+    ADM_Dialog* const* ppDialog = Dialogs().Find(hWnd);
+    return ppDialog != nullptr ? *ppDialog : nullptr;
 }
 
 INT_PTR ADM_Dialog::Answer(HWND hWnd, LRESULT nResult) {
