@@ -132,7 +132,8 @@ inline std::string_view ProfileText::NextLine(std::string_view& sRest) {
     std::size_t nEnd = sRest.find('\n');
     nEnd = nEnd == std::string_view::npos ? sRest.size() : nEnd + 1;
     const std::size_t nReturn = sRest.substr(0, nEnd).find('\r');
-    if (nReturn != std::string_view::npos && nReturn + 2 != nEnd) nEnd = nReturn + 1;
+    const bool bPair = nReturn + 1 < nEnd && sRest[nReturn + 1] == '\n';
+    if (nReturn != std::string_view::npos && !bPair) nEnd = nReturn + 1;
     const std::string_view sLine = sRest.substr(0, nEnd);
     sRest.remove_prefix(nEnd);
     return sLine;
@@ -200,6 +201,8 @@ inline void ProfileText::AddToIndex(Section& section, std::uint32_t uLine) {
 inline void ProfileText::Parse(Section& section) {
     section.bParsed = true;
     std::string_view sRest = section.sBody;
+    constexpr std::size_t kShortLine = 12;  // the usual entry is longer
+    section.lines.reserve(section.sBody.size() / kShortLine);
     while (!sRest.empty()) section.lines.push_back(ReadLine(NextLine(sRest)));
     std::size_t nBlank = 0;
     while (!section.lines.empty() && Trim(section.lines.back().sText).empty()) {

@@ -65,6 +65,11 @@ struct ListResult {
     std::int64_t nCount = 0;
 
     void AddRange(std::int64_t nFirst, std::int64_t nLast) {
+        if (nFirst == nLast) {
+            if (nCount < nMax) pnValues[nCount] = static_cast<std::int32_t>(nFirst);
+            ++nCount;
+            return;
+        }
         const std::int64_t nStep = nFirst <= nLast ? 1 : -1;
         const std::int64_t nSteps = (nLast - nFirst) * nStep + 1;
         const std::int64_t nRoom = nCount < nMax ? nMax - nCount : 0;
@@ -96,16 +101,55 @@ bool ReadItem(const char* p, const char* pEnd, int nOffset, const NameList& name
     return true;
 }
 
+// Reads an unsigned number of at most nine digits; returns its end, or null for anything else.
+const char* ReadPlainNumber(const char* p, std::int64_t* pnNumber) {
+    const char* pFirst = p;
+    std::uint32_t uNumber = 0;
+    for (; *p >= '0' && *p <= '9'; ++p) uNumber = uNumber * 10 + static_cast<unsigned>(*p - '0');
+    if (p == pFirst || p - pFirst > 9) return nullptr;
+    *pnNumber = uNumber;
+    return p;
+}
+
+// Reads an item of plain numbers in one pass, as nearly all are; returns its end, or null when the
+// item needs a closer look.
+const char* ReadPlainItem(const char* p, int nOffset, ListResult& result) {
+    std::int64_t nFirst = 0;
+    p = ReadPlainNumber(p, &nFirst);
+    if (p == nullptr) return nullptr;
+    std::int64_t nLast = nFirst;
+    if (p[0] == '.' && p[1] == '.') {
+        p = ReadPlainNumber(p + 2, &nLast);
+        if (p == nullptr) return nullptr;
+    }
+    if ((*p != ',' && *p != '\0') || nFirst - nOffset < kLow || nLast - nOffset < kLow ||
+        nFirst - nOffset > kHigh || nLast - nOffset > kHigh) {
+        return nullptr;
+    }
+    result.AddRange(nFirst - nOffset, nLast - nOffset);
+    return p;
+}
+
 int Parse(const char* szText, std::int32_t* pnValues, int nMax, int nOffset, const NameList& names,
           const ListRules& rules) {
     ListResult result = {pnValues, pnValues != nullptr && nMax > 0 ? nMax : 0};
     for (const char* p = szText;; ++p) {
+        if (rules.bTrimItems) {
+            while (IsListBlank(*p)) ++p;
+        }
+        // A name may look like a number, and goes before it.
+        if (names.nCount == 0) {
+            if (const char* pPlainEnd = ReadPlainItem(p, nOffset, result)) {
+                p = pPlainEnd;
+                if (*p == '\0') break;
+                continue;
+            }
+        }
         const char* pEnd = p;
         while (*pEnd != ',' && *pEnd != '\0') ++pEnd;
         const char* pItem = p;
         const char* pItemEnd = pEnd;
         if (rules.bTrimItems) {
-            while (pItem != pItemEnd && IsListBlank(*pItem)) ++pItem;
             while (pItem != pItemEnd && IsListBlank(pItemEnd[-1])) --pItemEnd;
         }
         if (!ReadItem(pItem, pItemEnd, nOffset, names, result)) return 0;
@@ -167,9 +211,12 @@ int ParseList(const char* szText, std::int32_t* pnNumbers, int nMaxCount, int nO
               const char* const* pszNames, int nNameCount) {
     if (szText == nullptr) return 0;
     const NameList names = {pszNames, nullptr, pszNames != nullptr ? nNameCount : 0};
+    const int nCount = Parse(szText, pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
+    if (nCount != 0) return nCount;
+    // White space is an error within an item: a text that has some is read again without it.
     const char* p = szText;
     while (*p != '\0' && !IsWhiteSpace(*p)) ++p;
-    if (*p == '\0') return Parse(szText, pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
+    if (*p == '\0') return 0;
     const std::size_t nSize = std::strlen(szText) + 1;
     const std::unique_ptr<char[]> pCopy(new (std::nothrow) char[nSize]);
     if (pCopy == nullptr) return 0;

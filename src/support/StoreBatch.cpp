@@ -66,11 +66,6 @@ bool WriteWholeFile(const char* szPath, std::string_view sText) {
     return CloseHandle(hFile) && bWritten;
 }
 
-// Brings the platform's own copy of profile files, if it keeps one, to the disk.
-void FlushProfileCache(const std::string& sPath) {
-    WritePrivateProfileStringA(nullptr, nullptr, nullptr, sPath.c_str());
-}
-
 }  // namespace
 
 StoreBatch::StoreBatch(const char* szApp)
@@ -123,7 +118,6 @@ ProfileText* StoreBatch::Profile() {
     if (m_bLoaded) return m_pText.get();
     m_bLoaded = true;
     m_sPath = PathOfProfile(m_sApp);
-    FlushProfileCache(m_sPath);
     std::string sText;
     const FileState eState = ReadWholeFile(m_sPath, &sText);
     if (eState != FileState::kUnreadable && !ProfileText::IsUnicode(sText)) {
@@ -142,7 +136,6 @@ bool StoreBatch::SaveProfile() {
     if (GetTempFileNameA(FolderOf(m_sPath).c_str(), "zxp", 0, szNew) == 0) return false;
     if (WriteWholeFile(szNew, m_pText->Text()) &&
         MoveFileExA(szNew, m_sPath.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-        FlushProfileCache(m_sPath);
         return true;
     }
     DeleteFileA(szNew);
