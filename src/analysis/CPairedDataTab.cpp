@@ -145,7 +145,9 @@ void CPairedDataTab::ShowDependent() {
 }
 
 void CPairedDataTab::ShowLimits() {
-    if (m_pData->GetFlags().bUseStoredInfo == 0) {
+    // While no column is listed, as in the middle of typing, the limits stay as they are.
+    const bool bNoColumn = m_bListMode && GetListSelCount() == 0;
+    if (m_pData->GetFlags().bUseStoredInfo == 0 && !bNoColumn) {
         const std::uint32_t uCount = PointsForRange();
         const auto nCount = static_cast<int>(uCount);
         m_txtFrom.SetRange(1, nCount, 1);

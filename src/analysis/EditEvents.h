@@ -1,7 +1,8 @@
-// The events of a single-page dialog: which notification of which control runs which step, one row each.
+// The events of a single-page dialog: which notification of which control runs which step, one row
+// each.
 //
-// Nothing runs before the dialog is ready or while it shows values. In read-only mode every event shows the
-// record again and gives the focus to the Cancel button.
+// Nothing runs before the dialog is ready or while it shows values. In read-only mode every event
+// shows the record again and gives the focus to the Cancel button.
 #pragma once
 
 #include <functional>

@@ -1,0 +1,665 @@
+// The data tab of one family of sets, as its user meets it.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "PageDialog.h"
+#include "support/BoundedText.h"
+#include "support/WindowReading.h"
+
+namespace {
+
+using test_support::DialogScript;
+using test_support::FindControl;
+using test_support::ItemsOf;
+using test_support::SelectedIndexes;
+using test_support::TextOf;
+using Numbers = std::vector<int>;
+
+constexpr char kNoData[] = "No data have been selected. At least one data set must be specified.";
+
+class UnitaryTab : public testing::Test, protected analysis_test::PageSetup {
+  protected:
+    UnitaryTab() {
+        source.Region(0, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
+        record.eDataGroup1SelectionMode = 1;
+        record.eDataSet1SelectionMode = 3;
+        List("0..2");
+    }
+    void List(const char* text) { CopyText(record.szUnitarySelectionList1, text); }
+    // What is selected in the list now.
+    static auto Selected(Numbers want, int list = IDC_SET_LIST) {
+        return [want, list](HWND dialog) {
+            EXPECT_EQ(SelectedIndexes(FindControl(dialog, list)), want);
+        };
+    }
+    static Numbers Upto(int n) {
+        Numbers numbers;
+        for (int i = 0; i < n; ++i) numbers.push_back(i);
+        return numbers;
+    }
+    static DialogScript& EnabledList(DialogScript& script, bool enabled) {
+        return script.ExpectEnabled(IDC_SET_LIST, enabled)
+            .ExpectEnabled(IDC_SELECT_ALL, enabled)
+            .ExpectEnabled(IDC_SELECT_NONE, enabled)
+            .ExpectEnabled(IDC_SELECT_INVERT, enabled);
+    }
+};
+
+// --- What is shown
+
+TEST_F(UnitaryTab, CaptionsComeFromTheNounsOfTheHost) {
+    DialogScript script;
+    script.ExpectText(IDC_GROUP_LABEL, "Select Signal:")
+        .ExpectText(IDC_SET_LABEL, "Select Traces:")
+        .ExpectText(IDC_SETS_VISIBLE, "All visi&ble traces")
+        .ExpectText(IDC_SETS_ALL, "All traces (including &hidden)")
+        .ExpectText(IDC_SETS_ACTIVE, "Acti&ve trace")
+        .ExpectText(IDC_SETS_LISTED, "S&elect from list")
+        .ExpectText(IDC_SETS_TYPED, "&Specify a list (example: 1..5,18,25..40):")
+        .ExpectText(IDC_GROUPS_ACTIVE, "Ac&tive signal")
+        .ExpectText(IDC_GROUPS_ONE, "Spe&cify a signal")
+        .ExpectText(IDC_GROUPS_VISIBLE, "A&ll visible signals")
+        .ExpectText(IDC_GROUPS_ALL, "All signals (incl&uding hidden)")
+        .ExpectText(IDC_REGION_LABEL, "Analysis &region:")
+        .ExpectText(IDC_FORCE_TO_ZERO, "Force excluded region to &zero")
+        .ExpectText(IDC_SELECT_ALL, "Select &All")
+        .ExpectText(IDC_SELECT_NONE, "Select N&one")
+        .ExpectText(IDC_SELECT_INVERT, "&Invert")
+        .ExpectText(IDC_SET_COUNT, "IN 0 contains 12 traces")
+        .ExpectItems(IDC_GROUP, {"IN 0", "IN 1"})
+        .ExpectItems(IDC_REGION, {"Whole trace", "Cursors 1..2"})
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+}
+
+TEST_F(UnitaryTab, NullNounsGiveTheBuiltInCaptions) {
+    source.NullTexts();
+    DialogScript script;
+    script.ExpectText(IDC_GROUP_LABEL, "Select Group:")
+        .ExpectText(IDC_SET_LABEL, "Select Set:")
+        .ExpectText(IDC_SETS_VISIBLE, "All visi&ble sets")
+        .ExpectText(IDC_GROUPS_ALL, "All groups (incl&uding hidden)")
+        .ExpectText(IDC_SET_COUNT, "Group contains 12 sets")
+        .ExpectItems(IDC_GROUP, {})
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+}
+
+TEST_F(UnitaryTab, NounsOfTheHostAreNeverFormats) {
+    source.groupLabel = "%s%n%d";
+    source.setLabel = std::string(300, 'S') + "%n";
+    source.groupNames[0] = "%0 %1 %s";
+    DialogScript script;
+    script.ExpectText(IDC_GROUP_LABEL, "Select %s%n%d:")
+        .ExpectText(IDC_GROUPS_ACTIVE, "Ac&tive %s%n%d")
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+}
+
+TEST_F(UnitaryTab, StoredListShowsOneBased) {
+    record.eDataSet1SelectionMode = 4;
+    DialogScript script;
+    script.ExpectText(IDC_SET_LIST_TEXT, "1..3").Do(Selected({0, 1, 2})).Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_STREQ(record.szUnitarySelectionList1, "0..2");
+}
+
+TEST_F(UnitaryTab, ListThatCannotBeParsedShowsSetOne) {
+    for (const char* text : {"abc", "", "1,,3", "4x", "50..60"}) {
+        SCOPED_TRACE(text);
+        List(text);
+        DialogScript script;
+        script.ExpectText(IDC_SET_LIST_TEXT, "1").Do(Selected({0})).Click(IDOK);
+        EXPECT_EQ(ShowUnitary(script), 1);
+    }
+}
+
+TEST_F(UnitaryTab, NumberEqualToTheCountPassesAndOneAboveDoesNot) {
+    List("3,12,13");
+    DialogScript script;
+    script.ExpectText(IDC_SET_LIST_TEXT, "4,13").Do(Selected({3})).Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
+TEST_F(UnitaryTab, FlagsDecideWhatIsOffered) {
+    flags = {.bAllowForceToZero = 1, .bAllowRegion = 0, .bShowGroups = 0, .bShowSetTools = 0};
+    record.bForceExcludedRegionToZero = 1;
+    DialogScript script;
+    script.ExpectVisible(IDC_GROUP, false)
+        .ExpectVisible(IDC_GROUP_LABEL, false)
+        .ExpectVisible(IDC_GROUPS_ACTIVE, false)
+        .ExpectVisible(IDC_GROUPS_ONE, false)
+        .ExpectVisible(IDC_GROUPS_VISIBLE, false)
+        .ExpectVisible(IDC_GROUPS_ALL, false)
+        .ExpectVisible(IDC_REGION, false)
+        .ExpectVisible(IDC_REGION_LABEL, false)
+        .ExpectVisible(IDC_SELECT_ALL, false)
+        .ExpectVisible(IDC_SELECT_NONE, false)
+        .ExpectVisible(IDC_SELECT_INVERT, false)
+        .ExpectVisible(IDC_FORCE_TO_ZERO, true)
+        .ExpectChecked(IDC_FORCE_TO_ZERO, BST_CHECKED)
+        .Click(IDC_FORCE_TO_ZERO)
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(record.bForceExcludedRegionToZero, 0);
+}
+
+TEST_F(UnitaryTab, OneSignalWithoutSelectorStillHasSetRadios) {
+    source.Groups({"IN 0"});
+    flags.bShowGroups = 0;
+    DialogScript script;
+    script.ExpectVisible(IDC_GROUP, false)
+        .ExpectVisible(IDC_GROUPS_ONE, false)
+        .Click(IDC_SETS_ALL)
+        .Do(Selected(Upto(12)))
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(record.eDataSet1SelectionMode, 1);
+}
+
+TEST_F(UnitaryTab, NoGroupsSetsOrRegionsOpenAndClose) {
+    source.regions.clear();
+    source.Sets(0).Points(0);
+    DialogScript sets;
+    sets.ExpectText(IDC_SET_COUNT, "IN 0 contains 0 traces")
+        .ExpectItems(IDC_REGION, {})
+        .Click(IDOK)
+        .Answer(IDOK, kNoData)
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(sets), 2);
+    source.Groups({});
+    DialogScript groups;
+    groups.ExpectText(IDC_SET_COUNT, "Group contains 0 traces").Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(groups), 2);
+}
+
+// --- Sets
+
+TEST_F(UnitaryTab, SetModesSelectAndEnable) {
+    source.hiddenEvery = 4;
+    source.activeSet = 6;
+    Numbers visible;
+    for (int i = 0; i < 12; ++i) {
+        if (i % 4 != 3) visible.push_back(i);
+    }
+    DialogScript script;
+    EnabledList(script, true).ExpectEnabled(IDC_SET_LIST_TEXT, false);
+    script.Do([this] { log.Take(); }).Click(IDC_SETS_VISIBLE).Do(Selected(visible));
+    EnabledList(script, false).ExpectEnabled(IDC_SET_LIST_TEXT, false);
+    script.Do([this] { EXPECT_EQ(record.eDataSet1SelectionMode, 0); })
+        .Click(IDC_SETS_ALL)
+        .Do(Selected(Upto(12)))
+        .Do([this] { EXPECT_EQ(record.eDataSet1SelectionMode, 1); })
+        .Click(IDC_SETS_ACTIVE)
+        .Do(Selected({5}))
+        .Do([this] { EXPECT_EQ(record.eDataSet1SelectionMode, 2); });
+    EnabledList(script, false);
+    script.Click(IDC_SETS_LISTED).Do(Selected({0, 1, 2}));
+    EnabledList(script, true);
+    script.Click(IDC_SETS_TYPED).ExpectEnabled(IDC_SET_LIST_TEXT, true).Do([this] {
+        EXPECT_EQ(record.eDataSet1SelectionMode, 4);
+    });
+    EnabledList(script, false);
+    script
+        .Do([this] {
+            const std::vector<int> told = log.Take();
+            EXPECT_EQ(std::count(told.begin(), told.end(), 2212), 5);
+        })
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_STREQ(record.szUnitarySelectionList1, "0..2");
+}
+
+TEST_F(UnitaryTab, NoActiveSetSelectsNothing) {
+    source.activeSet = 0;
+    record.eDataSet1SelectionMode = 2;
+    DialogScript script;
+    script.Do(Selected({})).Click(IDOK).Answer(IDOK, kNoData).Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
+TEST_F(UnitaryTab, OtherKindsForceTheListAndDisableTheFirstThreeRadios) {
+    for (const uint32_t kind : {1u, 2u}) {
+        for (const int mode : {0, 1, 2}) {
+            SCOPED_TRACE(kind);
+            source.Kind(kind);
+            record.eDataSet1SelectionMode = mode;
+            DialogScript script;
+            script.ExpectEnabled(IDC_SETS_VISIBLE, false)
+                .ExpectEnabled(IDC_SETS_ALL, false)
+                .ExpectEnabled(IDC_SETS_ACTIVE, false)
+                .ExpectEnabled(IDC_SETS_LISTED, true)
+                .ExpectEnabled(IDC_SETS_TYPED, true)
+                .ExpectChecked(IDC_SETS_LISTED, BST_CHECKED)
+                .ExpectEnabled(IDC_GROUPS_ACTIVE, false)
+                .ExpectEnabled(IDC_GROUPS_ONE, false)
+                .ExpectEnabled(IDC_GROUPS_VISIBLE, false)
+                .ExpectEnabled(IDC_GROUPS_ALL, false)
+                .ExpectEnabled(IDC_GROUP, true)
+                .ExpectVisible(IDC_REGION, false)
+                .Do(Selected({0, 1, 2}))
+                .Click(IDOK);
+            EXPECT_EQ(ShowUnitary(script), 1);
+            EXPECT_EQ(record.eDataSet1SelectionMode, 3);
+        }
+    }
+}
+
+TEST_F(UnitaryTab, ListAndTextFollowEachOther) {
+    DialogScript script;
+    script.ClickItem(IDC_SET_LIST, 4)
+        .ExpectText(IDC_SET_LIST_TEXT, "5")
+        .ClickItem(IDC_SET_LIST, 7, test_support::kShift)
+        .ExpectText(IDC_SET_LIST_TEXT, "5..8")
+        .ClickItem(IDC_SET_LIST, 0, test_support::kControl)
+        .ExpectText(IDC_SET_LIST_TEXT, "1,5..8")
+        .Do([this] { EXPECT_STREQ(record.szUnitarySelectionList1, "0,4..7"); })
+        .Click(IDC_SETS_TYPED)
+        .Type(IDC_SET_LIST_TEXT, "2, 4 .. 6")
+        .Do(Selected({1, 3, 4, 5}))
+        .Do([this] { EXPECT_STREQ(record.szUnitarySelectionList1, "1,3..5"); })
+        .Click(IDC_SETS_LISTED)
+        .ExpectText(IDC_SET_LIST_TEXT, "2,4..6")
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+}
+
+TEST_F(UnitaryTab, TypedTextThatCannotBeReadSelectsNothing) {
+    record.eDataSet1SelectionMode = 4;
+    DialogScript script;
+    script.Type(IDC_SET_LIST_TEXT, "4x")
+        .Do(Selected({}))
+        .Do([this] { EXPECT_STREQ(record.szUnitarySelectionList1, ""); })
+        .Click(IDOK)
+        .Answer(IDOK, kNoData)
+        .Type(IDC_SET_LIST_TEXT, "5..3")
+        .Do(Selected({2, 3, 4}))
+        .Do([this] { EXPECT_STREQ(record.szUnitarySelectionList1, "4,3,2"); })
+        .Type(IDC_SET_LIST_TEXT, "99")
+        .Do(Selected({}))
+        .Type(IDC_SET_LIST_TEXT, "1")
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_STREQ(record.szUnitarySelectionList1, "0");
+}
+
+TEST_F(UnitaryTab, ToolsSelectAllNoneAndTheOthers) {
+    DialogScript script;
+    script.Click(IDC_SELECT_INVERT)
+        .Do(Selected({3, 4, 5, 6, 7, 8, 9, 10, 11}))
+        .ExpectText(IDC_SET_LIST_TEXT, "4..12")
+        .Click(IDC_SELECT_ALL)
+        .Do(Selected(Upto(12)))
+        .ExpectText(IDC_SET_LIST_TEXT, "1..12")
+        .Do([this] { EXPECT_STREQ(record.szUnitarySelectionList1, "0..11"); })
+        .Click(IDC_SELECT_NONE)
+        .Do(Selected({}))
+        .ExpectText(IDC_SET_LIST_TEXT, "")
+        .Do([this] { EXPECT_STREQ(record.szUnitarySelectionList1, "0..11"); })
+        .Click(IDOK)
+        .Answer(IDOK, kNoData)
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
+TEST_F(UnitaryTab, ToolsKeepTheFirstVisibleItem) {
+    source.Sets(200);
+    int top = -1;
+    DialogScript script;
+    script
+        .Do([](HWND dialog) {
+            SendMessageA(FindControl(dialog, IDC_SET_LIST), LB_SETTOPINDEX, 60, 0);
+        })
+        .Click(IDC_SELECT_ALL)
+        .Do([&](HWND dialog) {
+            top = static_cast<int>(
+                SendMessageA(FindControl(dialog, IDC_SET_LIST), LB_GETTOPINDEX, 0, 0));
+        })
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(top, 60);
+}
+
+TEST_F(UnitaryTab, TenThousandSetsAndAListOfTheWholeField) {
+    source.Sets(10000).Points(2);
+    std::string typed;
+    for (int i = 1; typed.size() < 985; i += 2) typed += (i > 1 ? "," : "") + std::to_string(i);
+    record.eDataSet1SelectionMode = 4;
+    DialogScript script(120000);
+    script
+        .Do([&](HWND dialog) {
+            SetWindowTextA(FindControl(dialog, IDC_SET_LIST_TEXT), typed.c_str());
+        })
+        .Do([&](HWND dialog) {
+            const Numbers items = SelectedIndexes(FindControl(dialog, IDC_SET_LIST));
+            EXPECT_EQ(items.size(),
+                      1 + static_cast<std::size_t>(std::count(typed.begin(), typed.end(), ',')));
+            EXPECT_EQ(items[1], 2);
+        })
+        .Click(IDC_SETS_LISTED)
+        .Click(IDC_SELECT_INVERT)
+        .Click(IDC_SELECT_ALL)
+        .ExpectText(IDC_SET_LIST_TEXT, "1..10000")
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_STREQ(record.szUnitarySelectionList1, "0..9999");
+    EXPECT_EQ(record.uVisibleSets, 10000u);
+}
+
+TEST_F(UnitaryTab, SelectedCountIsStoredAtOk) {
+    std::uint32_t count = 0;
+    DialogScript script;
+    script.Click(IDC_SELECT_INVERT)
+        .Do([&] {
+            current->ReadControls();
+            count = current->Model().GetSelectedGroupCount(0);
+        })
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(count, 9u);
+}
+
+TEST_F(UnitaryTab, SheetKeepsTheSelectionAsDependentColumns) {
+    source.Kind(2);
+    DialogScript script;
+    script.ExpectText(IDC_SET_LIST_TEXT, "1..3")
+        .ClickItem(IDC_SET_LIST, 6)
+        .SelectTab("Options")
+        .SelectTab("Data")
+        .ExpectText(IDC_SET_LIST_TEXT, "7")
+        .Do(Selected({6}))
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_STREQ(record.szDepVarSelectionList, "6");
+    EXPECT_STREQ(record.szUnitarySelectionList1, "0..2");
+}
+
+// --- Groups
+
+TEST_F(UnitaryTab, GroupModesChooseTheGroup) {
+    source.activeGroup = 1;
+    source.setCounts = {12, 5};
+    DialogScript script;
+    script.ExpectChecked(IDC_GROUPS_ONE, BST_CHECKED)
+        .ExpectEnabled(IDC_GROUP, true)
+        .ExpectSelected(IDC_GROUP, "IN 0")
+        .Click(IDC_GROUPS_ACTIVE)
+        .ExpectEnabled(IDC_GROUP, false)
+        .ExpectSelected(IDC_GROUP, "IN 1")
+        .ExpectText(IDC_SET_COUNT, "IN 1 contains 5 traces")
+        .Do([](HWND dialog) { EXPECT_EQ(ItemsOf(FindControl(dialog, IDC_SET_LIST)).size(), 5u); })
+        .Do([this] {
+            EXPECT_EQ(record.eDataGroup1SelectionMode, 0);
+            EXPECT_EQ(record.uGroup1Index, 1u);
+        })
+        .Click(IDC_GROUPS_ONE)
+        .ExpectEnabled(IDC_GROUP, true)
+        .ExpectSelected(IDC_GROUP, "IN 0")
+        .ExpectText(IDC_SET_COUNT, "IN 0 contains 12 traces")
+        .Choose(IDC_GROUP, "IN 1")
+        .ExpectText(IDC_SET_COUNT, "IN 1 contains 5 traces")
+        .Do(Selected({0, 1, 2}))
+        .Click(IDC_GROUPS_VISIBLE)
+        .ExpectEnabled(IDC_GROUP, false)
+        .Do([this] { EXPECT_EQ(record.eDataGroup1SelectionMode, 2); })
+        .Click(IDC_GROUPS_ALL)
+        .ExpectEnabled(IDC_GROUP, false)
+        .Do([this] { EXPECT_EQ(record.eDataGroup1SelectionMode, 3); })
+        .Click(IDC_GROUPS_ONE)
+        .ExpectSelected(IDC_GROUP, "IN 1")
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(record.uGroup1Index, 1u);
+    EXPECT_EQ(record.eDataGroup1SelectionMode, 1);
+}
+
+TEST_F(UnitaryTab, StoredGroupIsShownWithItsSets) {
+    source.setCounts = {12, 5};
+    record.uGroup1Index = 1;
+    DialogScript script;
+    script.ExpectSelected(IDC_GROUP, "IN 1")
+        .ExpectText(IDC_SET_COUNT, "IN 1 contains 5 traces")
+        .SelectTab("Options")
+        .SelectTab("Data")
+        .ExpectSelected(IDC_GROUP, "IN 1")
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(record.uGroup1Index, 1u);
+}
+
+TEST_F(UnitaryTab, OtherKindsKeepTheGroupThatTheUserChose) {
+    source.Kind(1);
+    record.eDataGroup1SelectionMode = 0;
+    DialogScript script;
+    script.Choose(IDC_GROUP, "IN 1").ExpectSelected(IDC_GROUP, "IN 1").Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(record.uGroup1Index, 1u);
+    source.Kind(2);
+    DialogScript sheet;
+    sheet.Choose(IDC_GROUP, "IN 1").ExpectSelected(IDC_GROUP, "IN 1").Click(IDOK);
+    EXPECT_EQ(ShowUnitary(sheet), 1);
+    EXPECT_EQ(record.uPairedGroupIndex, 1u);
+}
+
+// --- Region
+
+TEST_F(UnitaryTab, RegionIsShownByIdAndAChangeRebuildsTheDescription) {
+    record.eAnalysisRegion = 3;
+    DialogScript script;
+    script.ExpectVisible(IDC_REGION, true)
+        .ExpectSelected(IDC_REGION, "Cursors 1..2")
+        .Do([this] {
+            EXPECT_EQ(current->Model().GetRegionPosition(), 1);
+            EXPECT_EQ(record.uGroupCount, 0u);
+            log.Take();
+        })
+        .Choose(IDC_REGION, "Whole trace")
+        .Do([this] {
+            EXPECT_EQ(log.Take(), (Numbers{2214, 2229, 2227, 2212}));
+            EXPECT_EQ(record.uGroupCount, 2u);
+            EXPECT_EQ(record.eAnalysisRegion, 0);
+        })
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
+TEST_F(UnitaryTab, RegionChangeWithStoredInfoRebuildsNothing) {
+    flags.bUseStoredInfo = 1;
+    DialogScript script;
+    script.Do([this] { log.Take(); })
+        .Choose(IDC_REGION, "Cursors 1..2")
+        .Do([this] {
+            EXPECT_EQ(log.Take(), (Numbers{2214, 2227, 2212}));
+            EXPECT_EQ(record.uGroupCount, 0u);
+        })
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(record.eAnalysisRegion, 3);
+}
+
+TEST_F(UnitaryTab, RegionThatTheDataLackBecomesTheFirst) {
+    record.eAnalysisRegion = 44;
+    DialogScript script;
+    script.ExpectSelected(IDC_REGION, "Whole trace").Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_EQ(record.eAnalysisRegion, 0);
+}
+
+// --- Coming and going
+
+TEST_F(UnitaryTab, OtherTabsAreToldOfComingAndGoing) {
+    DialogScript script;
+    script.Do([this] { log.Take(); })
+        .SelectTab("Options")
+        .Do([this] { EXPECT_EQ(log.Take(), (Numbers{2222})); })
+        .SelectTab("Data")
+        .Do([this] {
+            const Numbers told = log.Take();
+            ASSERT_GE(told.size(), 2u);
+            EXPECT_EQ(told.front(), 2221);
+            EXPECT_EQ(told.back(), 2218);
+        })
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
+TEST_F(UnitaryTab, TabWithNothingSelectedIsNotLeft) {
+    DialogScript script;
+    script.Click(IDC_SELECT_NONE)
+        .SelectTab("Options")
+        .Answer(IDOK, kNoData)
+        .ExpectVisible(IDC_SET_LIST, true)
+        .ExpectFocus(IDC_SET_LIST)
+        .Click(IDC_SELECT_ALL)
+        .SelectTab("Options")
+        .ExpectVisible(IDC_SET_LIST, false)
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+}
+
+TEST_F(UnitaryTab, DisabledTabGreysEverythingAndComesBack) {
+    const auto tab = [this] { return static_cast<CUnitaryDataTab*>(current->DataTab()); };
+    DialogScript script;
+    script.Do([=] { tab()->SetDisabled(true); });
+    for (const int id : {IDC_SETS_VISIBLE, IDC_SETS_LISTED, IDC_SETS_TYPED, IDC_SET_LIST,
+                         IDC_SELECT_ALL, IDC_GROUP, IDC_GROUP_LABEL, IDC_GROUPS_ONE, IDC_REGION,
+                         IDC_REGION_LABEL, IDC_SET_LABEL, IDC_SET_COUNT, IDC_SET_LIST_TEXT}) {
+        script.ExpectEnabled(id, false);
+    }
+    script.Do([=] { tab()->SetDisabled(false); });
+    EnabledList(script, true)
+        .ExpectEnabled(IDC_SET_LIST_TEXT, false)
+        .ExpectEnabled(IDC_GROUP, true)
+        .ExpectEnabled(IDC_SETS_VISIBLE, true)
+        .Do(Selected({0, 1, 2}))
+        .Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+}
+
+TEST_F(UnitaryTab, ReadOnlyUndoesEveryEdit) {
+    params.bReadOnly = 1;
+    flags.bAllowForceToZero = 1;
+    const ZXADLG_DataOptions before = record;
+    DialogScript script;
+    script.ClickItem(IDC_SET_LIST, 8)
+        .Do(Selected({0, 1, 2}))
+        .ExpectFocus(IDCANCEL)
+        .Click(IDC_SETS_ALL)
+        .ExpectChecked(IDC_SETS_LISTED, BST_CHECKED)
+        .Click(IDC_SELECT_ALL)
+        .Do(Selected({0, 1, 2}))
+        .Choose(IDC_GROUP, "IN 1")
+        .ExpectSelected(IDC_GROUP, "IN 0")
+        .Click(IDC_GROUPS_ALL)
+        .ExpectChecked(IDC_GROUPS_ONE, BST_CHECKED)
+        .ExpectChecked(IDC_GROUPS_ALL, BST_UNCHECKED)
+        .Choose(IDC_REGION, "Cursors 1..2")
+        .ExpectSelected(IDC_REGION, "Whole trace")
+        .Click(IDC_FORCE_TO_ZERO)
+        .ExpectChecked(IDC_FORCE_TO_ZERO, BST_UNCHECKED)
+        .ExpectFocus(IDCANCEL)
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(script), 2);
+    EXPECT_EQ(std::memcmp(&record, &before, sizeof record), 0);
+    EXPECT_TRUE(messages.empty());
+}
+
+TEST_F(UnitaryTab, ReadOnlyTypingIsUndone) {
+    params.bReadOnly = 1;
+    record.eDataSet1SelectionMode = 4;
+    DialogScript script;
+    script
+        .Do([](HWND dialog) {
+            SetWindowTextA(FindControl(dialog, IDC_SET_LIST_TEXT), "7..9");
+            EXPECT_EQ(TextOf(FindControl(dialog, IDC_SET_LIST_TEXT)), "1..3");
+        })
+        .ExpectFocus(IDCANCEL)
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
+// --- Two selections
+
+class DualTab : public UnitaryTab {
+  protected:
+    DualTab() {
+        record.eDataSet2SelectionMode = 3;
+        record.eDataGroup2SelectionMode = 1;
+        CopyText(record.szUnitarySelectionList2, "5,7");
+    }
+    int ShowDual(DialogScript& script) { return ShowUnitary(script, IDD_UNITARY_DATA_DUAL); }
+};
+
+TEST_F(DualTab, ShowsBothSelectionsAndEditsTheChosenOne) {
+    DialogScript script;
+    script.ExpectText(IDC_DATA_SET_1, "Select Trace Set &1:")
+        .ExpectText(IDC_DATA_SET_2, "Select Trace Set &2:")
+        .ExpectChecked(IDC_DATA_SET_1, BST_CHECKED)
+        .ExpectEnabled(IDC_SET_LIST, true)
+        .ExpectEnabled(IDC_SET_LIST_2, false)
+        .Do(Selected({0, 1, 2}))
+        .Do(Selected({5, 7}, IDC_SET_LIST_2))
+        .ExpectText(IDC_SET_LIST_TEXT, "1..3")
+        .Click(IDC_DATA_SET_2)
+        .ExpectEnabled(IDC_SET_LIST, false)
+        .ExpectEnabled(IDC_SET_LIST_2, true)
+        .ExpectText(IDC_SET_LIST_TEXT, "6,8")
+        .Do([this] { EXPECT_EQ(record.uSelectedDataSet, 1u); })
+        .ClickItem(IDC_SET_LIST_2, 9)
+        .ExpectText(IDC_SET_LIST_TEXT, "10")
+        .Do(Selected({0, 1, 2}))
+        .Click(IDC_DATA_SET_1)
+        .ExpectText(IDC_SET_LIST_TEXT, "1..3")
+        .Click(IDOK);
+    EXPECT_EQ(ShowDual(script), 1);
+    EXPECT_STREQ(record.szUnitarySelectionList1, "0..2");
+    EXPECT_STREQ(record.szUnitarySelectionList2, "9");
+    EXPECT_EQ(record.uSelectedDataSet, 0u);
+}
+
+TEST_F(DualTab, NullNounsGiveTheBuiltInRadios) {
+    source.NullTexts();
+    DialogScript script;
+    script.ExpectText(IDC_DATA_SET_1, "Select Set &1:")
+        .ExpectText(IDC_DATA_SET_2, "Select Set &2:")
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowDual(script), 2);
+}
+
+TEST_F(DualTab, EachSelectionHasModesAndAGroupOfItsOwn) {
+    source.setCounts = {12, 8};
+    record.eDataSet2SelectionMode = 1;
+    record.uGroup2Index = 1;
+    DialogScript script;
+    script.ExpectSelected(IDC_GROUP, "IN 0")
+        .Click(IDC_DATA_SET_2)
+        .ExpectSelected(IDC_GROUP, "IN 1")
+        .ExpectChecked(IDC_SETS_ALL, BST_CHECKED)
+        .ExpectEnabled(IDC_SET_LIST_2, false)
+        .ExpectText(IDC_SET_COUNT, "IN 1 contains 8 traces")
+        .Do(Selected(Upto(8), IDC_SET_LIST_2))
+        .Choose(IDC_GROUP, "IN 0")
+        .Click(IDC_SETS_LISTED)
+        .Click(IDOK);
+    EXPECT_EQ(ShowDual(script), 1);
+    EXPECT_EQ(record.uGroup1Index, 0u);
+    EXPECT_EQ(record.uGroup2Index, 0u);
+    EXPECT_EQ(record.eDataSet1SelectionMode, 3);
+    EXPECT_EQ(record.eDataSet2SelectionMode, 3);
+}
+
+TEST_F(DualTab, ReadOnlyKeepsTheFirstSelection) {
+    params.bReadOnly = 1;
+    DialogScript script;
+    script.Click(IDC_DATA_SET_2)
+        .ExpectChecked(IDC_DATA_SET_1, BST_CHECKED)
+        .ExpectEnabled(IDC_SET_LIST_2, false)
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowDual(script), 2);
+    EXPECT_EQ(record.uSelectedDataSet, 0u);
+}
+
+}  // namespace
