@@ -200,6 +200,32 @@ class LoggedPage : public Logged<ADM_TabSubDialog> {
     using ADM_TabSubDialog::m_szTabTitle;
 };
 
+class TestTabbed : public Logged<ADM_TabbedDialog> {
+  public:
+    explicit TestTabbed(EventLog& log) : Logged(log, "") { SetTabControlId(IDC_TABS); }
+
+    BOOL ValidatePages(int* pnPage, ADM_Wnd** ppFailed) override {
+        Log("pages");
+        if (pCrossFailed == nullptr) return 1;
+        *pnPage = nCrossPage;
+        *ppFailed = pCrossFailed;
+        return 0;
+    }
+    void OnPageSelected(int nIndex) override {
+        Log("selected(" + std::to_string(nIndex) + ")");
+        Logged::OnPageSelected(nIndex);
+    }
+    void OnPageLeft(int nIndex) override {
+        Log("left(" + std::to_string(nIndex) + ")");
+        Logged::OnPageLeft(nIndex);
+    }
+
+    int nCrossPage = 0;
+    ADM_Wnd* pCrossFailed = nullptr;
+    using ADM_TabbedDialog::m_bCreateAllPages;
+    using ADM_TabbedDialog::m_tabControl;
+};
+
 // Destroys a modeless dialog at the end of a test.
 class OpenDialog {
   public:

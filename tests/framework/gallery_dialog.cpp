@@ -43,6 +43,8 @@ class FieldsPage : public ADM_TabSubDialog {
             {IDC_G_FIXED, &m_fixed},
             {IDC_G_DISABLED_LABEL, &m_label},
             {IDC_G_DISABLED, &m_disabled},
+            {IDC_G_FLAT_LABEL, &m_flatLabel},
+            {IDC_G_SINGLE_LABEL, &m_singleLabel},
             {IDC_G_SENTENCE, &m_sentence},
             {IDC_G_WARNING, &m_warning},
             {IDC_G_POINTS, &m_points},
@@ -119,6 +121,9 @@ class FieldsPage : public ADM_TabSubDialog {
     void UpdateControls() override {
         m_label.Enable(m_bEverything);
         m_disabled.Enable(m_bEverything);
+        // A field greys together with its label.
+        m_flatLabel.Enable(m_flat.IsEnabled());
+        m_singleLabel.Enable(m_single.IsEnabled());
         const double dCutoff = m_cutoff.GetValue();
         m_sentence.SetArgInt(0, m_points.GetValue());
         m_sentence.SetArgDouble(1, dCutoff, -1, 4);
@@ -131,7 +136,7 @@ class FieldsPage : public ADM_TabSubDialog {
     ADM_IntegerText m_integer;
     ADM_FloatText m_float;
     ADM_DoubleText m_double, m_fixed, m_disabled;
-    ADM_Static m_label;
+    ADM_Static m_label, m_flatLabel, m_singleLabel;
     ADM_StaticText m_sentence, m_warning;
     ADM_IntegerGaugeText m_points, m_flat;
     ADM_DoubleGaugeText m_cutoff;

@@ -52,8 +52,9 @@ class RandomUser {
         // An event that runs a loop of its own comes back here.
         if (m_bInTick) return;
         m_bInTick = true;
-        for (int i = 0; i < kEventsPerTick && m_nLeft > 0; ++i, --m_nLeft) {
-            if (const HWND hDialog = test_support::ActiveDialog()) OneEvent(hDialog);
+        if (const HWND hDialog = test_support::ActiveDialog()) {
+            LookAt(hDialog);
+            for (int i = 0; i < kEventsPerTick && m_nLeft > 0; ++i, --m_nLeft) OneEvent(hDialog);
         }
         if (m_nLeft == 0) {
             if (const HWND hDialog = test_support::ActiveDialog()) {
@@ -63,14 +64,18 @@ class RandomUser {
         m_bInTick = false;
     }
 
-    HWND SomeControl(HWND hDialog) {
-        std::vector<HWND> shown;
+    // The controls that a user sees now; an event may hide or destroy some of them.
+    void LookAt(HWND hDialog) {
+        m_shown.clear();
         for (const HWND hWnd : test_support::Descendants(hDialog)) {
-            if (IsWindowVisible(hWnd) && IsWindowEnabled(hWnd)) shown.push_back(hWnd);
+            if (IsWindowVisible(hWnd) && IsWindowEnabled(hWnd)) m_shown.push_back(hWnd);
         }
-        return shown.empty()
-                   ? hDialog
-                   : shown[static_cast<std::size_t>(Pick(static_cast<int>(shown.size())))];
+    }
+
+    HWND SomeControl(HWND hDialog) {
+        if (m_shown.empty()) return hDialog;
+        const HWND hWnd = m_shown[static_cast<std::size_t>(Pick(static_cast<int>(m_shown.size())))];
+        return IsWindow(hWnd) ? hWnd : hDialog;
     }
 
     void OneEvent(HWND hDialog) {
@@ -197,6 +202,7 @@ class RandomUser {
     std::mt19937 m_random;
     int m_nLeft;
     bool m_bInTick = false;
+    std::vector<HWND> m_shown;
     UINT_PTR m_uTimer = 0;
 };
 
@@ -214,7 +220,11 @@ TEST(RandomEvents, GallerySurvivesThemAndLeavesNothing) {
     {
         const auto dialog = gallery::MakeGallery(hInstance);
         ASSERT_NE(dialog, nullptr);
-        RandomUser user(20241120u, test_support::RandomEventBudget());
+        // Another seed: --gtest_shuffle --gtest_random_seed=N.
+        const unsigned uSeed =
+            20241120u + static_cast<unsigned>(testing::UnitTest::GetInstance()->random_seed());
+        SCOPED_TRACE("seed " + std::to_string(uSeed));
+        RandomUser user(uSeed, test_support::RandomEventBudget());
         while (user.EventsLeft() > 0) {
             ++nOpenings;
             const INT_PTR nResult = dialog->DoModal(hInstance, gallery::GalleryTemplate(), nullptr);
