@@ -15,9 +15,18 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#include "zxadlg/AdjustBaselineOptions.h"
+#include "zxadlg/CurrentVoltageOptions.h"
 #include "zxadlg/DataOptions.h"
 #include "zxadlg/DlgParams.h"
+#include "zxadlg/ForceValuesOptions.h"
+#include "zxadlg/LeakSubtractionOptions.h"
+#include "zxadlg/ModifySampleRateOptions.h"
 #include "zxadlg/NormalizeOptions.h"
+#include "zxadlg/ResistanceOptions.h"
+#include "zxadlg/SubtractControlOptions.h"
+#include "zxadlg/TimeShiftOptions.h"
+#include "zxadlg/TraceVsTraceOptions.h"
 
 struct HWND__;
 
@@ -179,10 +188,84 @@ class ZXADLG_CLASS ZXADLG_CDlgFileSource {
 
 extern "C" {
 
+// Every function here takes the owner window (null: none), the option record, the data-selection
+// record (null where the host keeps none), the host's data and the parameters. A null record,
+// source or parameters gives ZXADLG_CREATE_FAILED, and nothing opens. The settings are kept in the
+// section of the store that the record's header names.
+
 // Normalize: over all points, or between a baseline and a peak region.
 int32_t ZXADLG_CALL ZXADLG_ShowNormalizeDialog(HWND__* parent, ZXADLG_NormalizeOptions* options,
                                                ZXADLG_DataOptions* data,
                                                ZXADLG_CDlgDataSource* source,
                                                const ZXADLG_DlgParams* params);
+
+// Time Shift: by an interval in ms (a value or the distance of two cursors), or so that the peaks
+// of a region stand under each other. A group that the data do not have becomes the last one, a
+// region the first. The data tab has no group selector, whatever bShowGroupSelector says.
+int32_t ZXADLG_CALL ZXADLG_ShowTimeShiftDialog(HWND__* parent, ZXADLG_TimeShiftOptions* options,
+                                               ZXADLG_DataOptions* data,
+                                               ZXADLG_CDlgDataSource* source,
+                                               const ZXADLG_DlgParams* params);
+
+// Force Values: a region is overwritten by a value at a cursor, a mean, a straight line, or a fixed
+// value in the units of the data (GetUnits).
+int32_t ZXADLG_CALL ZXADLG_ShowForceValuesDialog(HWND__* parent, ZXADLG_ForceValuesOptions* options,
+                                                 ZXADLG_DataOptions* data,
+                                                 ZXADLG_CDlgDataSource* source,
+                                                 const ZXADLG_DlgParams* params);
+
+// Adjust Baseline: by the mean or the slope of a region, by a fixed value, or by hand, which is
+// offered with bAdjustBaselineFourthMethod. A region that the data do not have becomes the first.
+int32_t ZXADLG_CALL ZXADLG_ShowAdjustBaselineDialog(HWND__* parent,
+                                                    ZXADLG_AdjustBaselineOptions* options,
+                                                    ZXADLG_DataOptions* data,
+                                                    ZXADLG_CDlgDataSource* source,
+                                                    const ZXADLG_DlgParams* params);
+
+// Leak Subtraction: the waveform, the factor between units and the passive resistance in megohms. A
+// factor that the user picks has single precision.
+int32_t ZXADLG_CALL ZXADLG_ShowLeakSubtractionDialog(HWND__* parent,
+                                                     ZXADLG_LeakSubtractionOptions* options,
+                                                     ZXADLG_DataOptions* data,
+                                                     ZXADLG_CDlgDataSource* source,
+                                                     const ZXADLG_DlgParams* params);
+
+// Resistance: the kind of clamp, the waveform and the factor between units.
+int32_t ZXADLG_CALL ZXADLG_ShowResistanceDialog(HWND__* parent, ZXADLG_ResistanceOptions* options,
+                                                ZXADLG_DataOptions* data,
+                                                ZXADLG_CDlgDataSource* source,
+                                                const ZXADLG_DlgParams* params);
+
+// Data Reduction/Interpolation: how the sampling rate of the data is to be changed. No data record.
+int32_t ZXADLG_CALL ZXADLG_ShowModifySamplingRateDialog(HWND__* parent,
+                                                        ZXADLG_ModifySampleRateOptions* options,
+                                                        ZXADLG_CDlgDataSource* source,
+                                                        const ZXADLG_DlgParams* params);
+
+// Current/Voltage: the x axis from the stimulus, the y axis from the response. The dialog writes
+// the host's data record directly, also on Cancel; its selection is neither restored nor stored.
+// Data without a stimulus waveform are refused with a message and ZXADLG_CANCEL, except in deferred
+// mode.
+int32_t ZXADLG_CALL ZXADLG_ShowCurrentVoltageDialog(HWND__* parent,
+                                                    ZXADLG_CurrentVoltageOptions* options,
+                                                    ZXADLG_DataOptions* data,
+                                                    ZXADLG_CDlgDataSource* source,
+                                                    const ZXADLG_DlgParams* params);
+
+// Trace vs. Trace: a set of the data or a stimulus waveform on each axis. The data record is
+// treated as by Current/Voltage.
+int32_t ZXADLG_CALL ZXADLG_ShowTraceVsTraceDialog(HWND__* parent,
+                                                  ZXADLG_TraceVsTraceOptions* options,
+                                                  ZXADLG_DataOptions* data,
+                                                  ZXADLG_CDlgDataSource* source,
+                                                  const ZXADLG_DlgParams* params);
+
+// Subtract Control: a control file and which of its signals are to be subtracted. No data record:
+// the third argument is ignored and may be null. A null file source gives ZXADLG_CREATE_FAILED.
+int32_t ZXADLG_CALL ZXADLG_ShowSubtractControlDialog(HWND__* parent,
+                                                     ZXADLG_SubtractControlOptions* options,
+                                                     void* unused, ZXADLG_CDlgDataSource* source,
+                                                     ZXADLG_CDlgFileSource* fileSource,
+                                                     const ZXADLG_DlgParams* params);
 
 }  // extern "C"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdarg>
 #include <iterator>
+#include <numeric>
 
 #include "framework/ADM_Dialog.h"
 
@@ -16,16 +17,25 @@ BOOL ADM_RadioButtons::Setup(ADM_Dialog* pDialog, int nFirstId, int nLastId) {
 
 BOOL ADM_RadioButtons::Setup(ADM_Dialog* pDialog, int nFirstId, int nLastId, int nValues,
                              const int* pnValues) {
-    if (pDialog == nullptr || nLastId < nFirstId) return 0;
-    m_pDialog = pDialog;
-    m_nCount = nLastId - nFirstId + 1;
-    m_pButtons = std::make_unique<Button[]>(static_cast<std::size_t>(m_nCount));
-    for (int i = 0; i < m_nCount; ++i) m_pButtons[i].nId = nFirstId + i;
+    if (nLastId < nFirstId) return 0;
+    std::vector<int> anIds(static_cast<std::size_t>(nLastId - nFirstId + 1));
+    std::iota(anIds.begin(), anIds.end(), nFirstId);
+    const BOOL bRegistered = SetupIds(pDialog, nLastId - nFirstId + 1, anIds.data(), nullptr);
     if (pnValues != nullptr) {
         m_anValues.assign(pnValues, pnValues + std::clamp(nValues, 0, m_nCount));
-    } else {
-        m_anValues.clear();
     }
+    return bRegistered;
+}
+
+BOOL ADM_RadioButtons::SetupIds(ADM_Dialog* pDialog, int nButtons, const int* pnIds,
+                                const int* pnValues) {
+    if (pDialog == nullptr || nButtons < 1 || pnIds == nullptr) return 0;
+    m_pDialog = pDialog;
+    m_nCount = nButtons;
+    m_pButtons = std::make_unique<Button[]>(static_cast<std::size_t>(m_nCount));
+    for (int i = 0; i < m_nCount; ++i) m_pButtons[i].nId = pnIds[i];
+    m_anValues.clear();
+    if (pnValues != nullptr) m_anValues.assign(pnValues, pnValues + nButtons);
     m_bBound = FALSE;
     const BOOL bRegistered = pDialog->RegisterControl(kNoItem, this);
     if (pDialog->GetHandle() != nullptr) OnAttach();

@@ -149,8 +149,10 @@ DecimalDigits ToDecimalDigits(double dValue, int nDigits) {
         ReadScientific(szText, result.ptr, digits);
     }
     if (nDigits == 0) {
-        if (digits.szDigits[0] >= '5') ++digits.nPoint;
-        digits.nCount = 0;
+        const bool bUp = digits.szDigits[0] >= '5';
+        if (bUp) ++digits.nPoint;
+        digits.nCount = bUp ? 1 : 0;
+        digits.szDigits[0] = '1';
     } else if (digits.nCount > nDigits) {
         RoundTo(digits, nDigits, dMagnitude);
     }

@@ -12,7 +12,8 @@ struct DecimalDigits {
     bool bNegative;  // the sign bit, which the value -0.0 has as well
 };
 
-// Rounds to `nDigits` significant digits, 0 to 17 (a value outside is pulled in). Zero digits give
-// no digits; a leading digit of 5 or more then moves the point up by one. Infinity gives the
-// characters "1#INF" and NaN "1#QNAN" whatever the count, with the point behind the first.
+// Rounds to `nDigits` significant digits, 0 to 17 (a value outside is pulled in). Zero digits
+// round to the place before the first digit: a leading digit of 5 or more gives the one digit 1
+// there, a smaller one gives no digits. Infinity gives the characters "1#INF" and NaN "1#QNAN"
+// whatever the count, with the point behind the first.
 DecimalDigits ToDecimalDigits(double dValue, int nDigits);

@@ -1,5 +1,6 @@
 #include "support/NumberFormat.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -145,7 +146,9 @@ void FormatFixed(NumberText& text, double dValue, std::uint32_t uDecimals, int n
         }
     }
     const DecimalDigits digits = ToDecimalDigits(dValue, static_cast<int>(nTotal));
-    WriteFixed(text, {digits, static_cast<int>(nTotal)}, digits.nPoint, uDecimals, nMaxDigits);
+    // A value that begins just behind the last decimal may round up to one digit.
+    const int nDigits = std::max(static_cast<int>(nTotal), digits.nCount);
+    WriteFixed(text, {digits, nDigits}, digits.nPoint, uDecimals, nMaxDigits);
 }
 
 std::int32_t Format(double dValue, char* szBuffer, int nSize, std::int32_t eFormat,

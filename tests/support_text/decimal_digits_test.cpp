@@ -36,10 +36,10 @@ TEST(DecimalDigits, ZeroHasNoDigitsAndKeepsItsSign) {
     EXPECT_EQ(Digits(0.0, 0), "@0");
 }
 
-TEST(DecimalDigits, NoDigitsOnlyMoveThePoint) {
+TEST(DecimalDigits, ZeroDigitsRoundToThePlaceBeforeTheFirst) {
     EXPECT_EQ(Digits(-123.0001, 0), "-@3");
-    EXPECT_EQ(Digits(0.6, 0), "@1");
-    EXPECT_EQ(Digits(0.51, 0), "@1");
+    EXPECT_EQ(Digits(0.6, 0), "1@1");
+    EXPECT_EQ(Digits(0.51, 0), "1@1");
     EXPECT_EQ(Digits(0.49, 0), "@0");
     EXPECT_EQ(Digits(0.4, 0), "@0");
     EXPECT_EQ(Digits(0.4, -5), "@0");
@@ -47,7 +47,7 @@ TEST(DecimalDigits, NoDigitsOnlyMoveThePoint) {
 
 TEST(DecimalDigits, ExactTiesGoAwayFromZero) {
     EXPECT_EQ(Digits(87646.25, 6), "876463@5");
-    EXPECT_EQ(Digits(0.5, 0), "@1");
+    EXPECT_EQ(Digits(0.5, 0), "1@1");
     EXPECT_EQ(Digits(2.5, 1), "3@1");
     EXPECT_EQ(Digits(-2.5, 1), "-3@1");
     EXPECT_EQ(Digits(1.5, 1), "2@1");

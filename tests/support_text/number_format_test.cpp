@@ -96,12 +96,13 @@ TEST(FormatDouble, ExactTiesRoundAwayFromZero) {
     EXPECT_EQ(Fixed(1.025, 2), "1.02");  // 1.02499999...
 }
 
-TEST(FormatDouble, ConversionToNoDigitsGivesNoDigit) {
-    // A value whose first digit stands just behind the last decimal is converted to no digits at
-    // all, and such a conversion gives none even where it rounds up. This is required.
-    EXPECT_EQ(Fixed(0.6, 0), "0");
-    EXPECT_EQ(Fixed(0.06, 1), "0.0");
-    EXPECT_EQ(Fixed(0.006, 2), "0.00");
+TEST(FormatDouble, RoundsAFirstDigitJustBehindTheLastDecimal) {
+    EXPECT_EQ(Fixed(0.6, 0), "1");
+    EXPECT_EQ(Fixed(0.4, 0), "0");
+    EXPECT_EQ(Fixed(0.06, 1), "0.1");
+    EXPECT_EQ(Fixed(0.04, 1), "0.0");
+    EXPECT_EQ(Fixed(0.006, 2), "0.01");
+    EXPECT_EQ(Fixed(-0.006, 2), "-0.01");
     EXPECT_EQ(Fixed(0.96, 1), "1.0");
 }
 
