@@ -1,0 +1,216 @@
+// Whole runs of the host: a dialog opened, a script played, records and store told.
+#include <cstdlib>
+#include <filesystem>
+
+#include "SettingsStore.h"
+#include "host_test.h"
+#include "platform/platform.h"
+
+namespace {
+
+class HostRun : public host_test::HostTest {};
+
+constexpr char kSource[] = ZX_SOURCE_DIR;
+
+TEST_F(HostRun, GivesTheSameRecordsAndTheSameStoreOnEverySystem) {
+    ASSERT_EQ(Run({"run", "normalize", "--script",
+                   std::string(kSource) + "/host/examples/normalize.script", "--store", Store()}),
+              zxhost::kDone)
+        << err;
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(out, ReadFile(std::string(kSource) + "/tests/host/normalize_run.txt"));
+    EXPECT_EQ(ReadFile(Store()),
+              ReadFile(std::string(kSource) + "/tests/host/normalize_store.txt"));
+}
+
+TEST_F(HostRun, FindsTheSettingsOfTheLastRun) {
+    ASSERT_EQ(Play("click \"Use specified regions\"\nchoose 2364 \"Cursors 3..4\"\nok\n"), 0)
+        << err;
+    EXPECT_TRUE(OutHas("result: 1 (OK)\n"));
+    ASSERT_EQ(
+        Play("expect chosen 2364 \"Cursors 3..4\"\nexpect checked \"Use &specified regions\"\n"
+             "cancel\n"),
+        0)
+        << err;
+    EXPECT_TRUE(
+        OutHas("result: 2 (Cancel)\nchanged in ZXADLG_NormalizeOptions:\n  nothing\n"
+               "changed in ZXADLG_DataOptions:\n  nothing\n"));
+    EXPECT_TRUE(OutHas("  eBaselineRegion=2\n"));
+}
+
+TEST_F(HostRun, ReadOnlyDisplaysAndKeepsTheStore) {
+    ASSERT_EQ(Play("expect title \"Normalize (read only)\"\nexpect hidden 1\nclick \"Close\"\n",
+                   {"--read-only"}),
+              0)
+        << err;
+    EXPECT_TRUE(OutHas("store:\n  empty\n"));
+    EXPECT_FALSE(std::filesystem::exists(Store()));
+}
+
+TEST_F(HostRun, DeferredGivesTheRecordsAndKeepsTheStore) {
+    ASSERT_EQ(Play("click 2362\nok\n", {"--deferred"}), 0) << err;
+    EXPECT_TRUE(OutHas("  bUseAllPoints: 0 -> 1\n"));
+    EXPECT_TRUE(OutHas("store:\n  empty\n"));
+    EXPECT_FALSE(std::filesystem::exists(Store()));
+}
+
+TEST_F(HostRun, ParametersChangeWhatTheDialogShows) {
+    ASSERT_EQ(Play("expect hidden 2246\ncancel\n", {"--params", "bShowDestination=0"}), 0) << err;
+    ASSERT_EQ(Play("expect shown 2246\ncancel\n"), 0) << err;
+}
+
+TEST_F(HostRun, OpensDataFromAFile) {
+    std::string rows = "Time (ms),Vm (mV)\n";
+    for (int i = 0; i < 400; ++i) rows += std::to_string(i) + "," + std::to_string(i % 7) + "\n";
+    ASSERT_EQ(Play("click 2362\nexpect text 2368 \"= 400 points\"\nok\n",
+                   {"--data", WriteFile("cell.csv", rows)}),
+              0)
+        << err;
+    EXPECT_TRUE(OutHas("data: cell.csv: 1 signal, 1 sweep, 400 points\n"));
+    EXPECT_TRUE(OutHas("  dMaxValue: 0 -> 6\n"));
+    EXPECT_TRUE(OutHas("  dSamplingFrequency: 0 -> 1000\n"));
+}
+
+TEST_F(HostRun, PlaysOnEveryKindOfData) {
+    for (const char* kind : {"family", "second-kind", "no-waveform", "sheet"}) {
+        SCOPED_TRACE(kind);
+        EXPECT_EQ(Play("tab Data\nexpect tab Data\ntab Options\nok\n", {"--recording", kind}), 0)
+            << err;
+    }
+}
+
+TEST_F(HostRun, AFailedStepTellsItsLineAndLeavesNothing) {
+    const std::string script = scratch.File("steps.txt");
+    EXPECT_EQ(Play("click 2362\n\nexpect disabled 2364\nok\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":3: control 2364 is not disabled\n");
+    EXPECT_TRUE(OutHas("result: 2 (Cancel)\n"));
+    EXPECT_FALSE(std::filesystem::exists(Store()));
+    EXPECT_EQ(Play("click 4711\nok\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":1: there is no control 4711\n");
+    EXPECT_EQ(Play("click \"Select Some\"\nok\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":1: there is no control \"Select Some\"\n");
+    EXPECT_EQ(Play("choose 2364 1\nok\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":1: control 2364 cannot be used: it is disabled\n");
+    EXPECT_EQ(
+        Play("click 2362\nchoose 2364 \"Cursors 7..8\"\nok\n", {"--recording", "no-waveform"}),
+        zxhost::kScriptFailed);
+    EXPECT_EQ(err, script +
+                       ":2: control 2364 has no item \"Cursors 7..8\"; there are \"Whole sweep\", "
+                       "\"Cursors 1..2\", \"Cursors 3..4\"\n");
+    EXPECT_EQ(Play("tab Output\nok\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":1: there is no tab \"Output\"; there are \"Options\", \"Data\"\n");
+    EXPECT_EQ(Play("expect title \"Other\"\nok\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":1: the title is \"Normalize\" and should be \"Other\"\n");
+}
+
+TEST_F(HostRun, AScriptMustEndWithTheDialog) {
+    const std::string script = scratch.File("steps.txt");
+    EXPECT_EQ(Play("expect title Normalize\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":1: the script is over and the dialog is still open\n");
+    EXPECT_EQ(Play("ok\ntab Data\n"), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":2: the dialog closed before this step: tab Data\n");
+    EXPECT_EQ(Play("wait 3000\nok\n", {"--time-limit", "1"}), zxhost::kScriptFailed);
+    EXPECT_EQ(err, script + ":1: the script takes longer than 1 s\n");
+}
+
+TEST_F(HostRun, MessagesAreMetAndTold) {
+    const char kWrongList[] = "tab Data\nclick 2241\ntype 2237 \"9..x\"\nok\n";
+    EXPECT_EQ(Play(kWrongList), zxhost::kScriptFailed);
+    const std::string unexpected = ":4: a message appears that the script does not expect: \"";
+    const std::size_t at = err.find(unexpected);
+    // It is told at the line after the one that caused it.
+    EXPECT_NE(at, std::string::npos) << err;
+    const std::string script = std::string(kWrongList) + "answer OK\ncancel\n";
+    EXPECT_EQ(Play(script), zxhost::kDone) << err;
+    EXPECT_TRUE(OutHas("message: ")) << out;
+    EXPECT_EQ(Play(std::string(kWrongList) + "expect message \"All is well.\"\n"),
+              zxhost::kScriptFailed);
+    EXPECT_NE(err.find(":5: the message is \""), std::string::npos) << err;
+    EXPECT_EQ(Play(std::string(kWrongList) + "answer Perhaps\n"), zxhost::kScriptFailed);
+    EXPECT_NE(err.find(":5: the message has no button \"Perhaps\""), std::string::npos) << err;
+}
+
+TEST_F(HostRun, BadInputIsRefusedBeforeTheDialogOpens) {
+    EXPECT_EQ(Play("clik 1\n"), zxhost::kNoInput);
+    EXPECT_EQ(err, "zxhost: " + scratch.File("steps.txt") + ":1: \"clik\" is no step\n");
+    EXPECT_EQ(Run({"run", "normalize", "--script", scratch.File("none.txt")}), zxhost::kNoInput);
+    EXPECT_EQ(err, "zxhost: " + scratch.File("none.txt") + ": the script cannot be opened\n");
+    EXPECT_EQ(Play("ok\n", {"--data", WriteFile("bad.csv", "1,2\n3\n")}), zxhost::kNoInput);
+    EXPECT_EQ(err,
+              "zxhost: " + scratch.File("bad.csv") + ":2: 1 value where the lines before have 2\n");
+    EXPECT_EQ(out, "");
+}
+
+TEST_F(HostRun, AStoreThatCannotBeUsedIsToldAndKept) {
+    WriteFile("store.ini", "[A]\nnonsense\n");
+    EXPECT_EQ(Play("ok\n"), zxhost::kNoInput);
+    EXPECT_EQ(err, "zxhost: " + Store() + ":2: a setting is \"KEY=VALUE\"\n");
+    WriteFile("store.ini", "x=1\n");
+    EXPECT_EQ(Play("ok\n"), zxhost::kNoInput);
+    EXPECT_EQ(err, "zxhost: " + Store() + ":1: a setting stands before the first section\n");
+    WriteFile("store.ini", "[A]\nx=1\n");
+    using std::filesystem::perms;
+    std::filesystem::permissions(Store(),
+                                 perms::owner_write | perms::group_write | perms::others_write,
+                                 std::filesystem::perm_options::remove);
+    EXPECT_EQ(Play("ok\n"), zxhost::kNoInput);
+    EXPECT_EQ(err, "zxhost: " + Store() + ": the store is read-only\n");
+    EXPECT_EQ(ReadFile(Store()), "[A]\nx=1\n");
+    std::filesystem::permissions(Store(), perms::owner_write, std::filesystem::perm_options::add);
+    EXPECT_EQ(Run({"run", "normalize", "--script", WriteFile("steps.txt", "ok\n"), "--store",
+                   scratch.File("no/such/store.ini")}),
+              zxhost::kNoInput);
+}
+
+TEST_F(HostRun, AStoreKeepsWhatOthersPutThere) {
+    WriteFile("store.ini", "; by hand\r\n[Other]\r\npath=a\\\\b\\nc\r\n");
+    ASSERT_EQ(Play("ok\n"), 0) << err;
+    EXPECT_EQ(ReadFile(Store()).substr(0, 9), "[Normaliz");
+    EXPECT_NE(ReadFile(Store()).find("\n\n[Other]\npath=a\\\\b\\nc\n"), std::string::npos);
+    // Nothing is left of the branch that the run had.
+    zxhost::SettingsStore own;
+    std::string error;
+    ASSERT_TRUE(own.Open(scratch.File("empty.ini"), &error)) << error;
+    EXPECT_EQ(zxhost::FormatSettings(own.Read()), "");
+}
+
+TEST_F(HostRun, AWrongCommandLineIsTold) {
+    const auto wrong = [this](const std::vector<std::string>& arguments) {
+        EXPECT_EQ(Run(arguments), zxhost::kWrongUsage);
+        return err;
+    };
+    const std::string how = " (zxhost --help tells how)";
+    EXPECT_EQ(wrong({"dance"}), "there is no command \"dance\"" + how);
+    EXPECT_EQ(wrong({"run"}), "run needs the name of one analysis" + how);
+    EXPECT_EQ(wrong({"run", "nothing"}), "there is no analysis \"nothing\"" + how);
+    EXPECT_EQ(wrong({"run", "normalize"}), "run needs --script FILE" + how);
+    EXPECT_EQ(wrong({"--data"}), "--data needs a value" + how);
+    EXPECT_EQ(wrong({"--colour", "red"}), "there is no option --colour" + how);
+    EXPECT_EQ(wrong({"--recording", "tape"}), "there is no recording \"tape\"" + how);
+    EXPECT_EQ(wrong({"--time-limit", "0"}),
+              "--time-limit is a number of seconds from 1 to 3600" + how);
+    EXPECT_EQ(wrong({"--params", "x"}), "--params: \"x\" should be NAME=0 or NAME=1" + how);
+    EXPECT_EQ(Run({"--help"}), zxhost::kDone);
+    EXPECT_EQ(out, zxhost::kHelp);
+    EXPECT_EQ(Run({"list"}), zxhost::kDone);
+    EXPECT_TRUE(OutHas("  normalize  Normalize (ZXADLG_NormalizeOptions, 20 bytes)\n"));
+    EXPECT_TRUE(OutHas("  bUseDataOptions=1  data tab, data record\n"));
+}
+
+// The program as it is shipped, with the library beside it.
+TEST_F(HostRun, TheProgramItselfPlaysAScript) {
+    char self[1024];
+    ASSERT_GT(GetModuleFileNameA(nullptr, self, sizeof self), 0u);
+    const std::string program =
+        (std::filesystem::path(self).parent_path() / ZX_HOST_PROGRAM).string();
+    const std::string script = WriteFile("steps.txt", "click 2362\nchoose 2364 2\nok\n");
+    const std::string printed = scratch.File("printed.txt");
+    const std::string command = program + " run normalize --script " + script + " --store " +
+                                Store() + " >" + printed + " 2>&1";
+    ASSERT_EQ(std::system(command.c_str()), 0) << ReadFile(printed);
+    EXPECT_NE(ReadFile(printed).find("eBaselineRegion: 0 -> 1"), std::string::npos);
+    EXPECT_NE(ReadFile(Store()).find("[NormalizeSection]\nbUseAllPoints=TRUE\neBaselineRegion=1\n"),
+              std::string::npos);
+}
+
+}  // namespace
