@@ -24,11 +24,15 @@ TEST(Strings, StandAsTheyAreGiven) {
          "1000 (for \xB5"
          "A and mV)"},
         {2159, "1000000 (for mA and mV)"},
+        {2163, "Current Clamp"},
+        {2174, "Data group"},
         {2175, "Data"},
         {2205, "The first point of the data range must be smaller than the last."},
         {2206, "An error was encountered during dialog initialization."},
         {2219, "Only one independent variable can be assigned."},
         {2227, "No data have been selected. At least one data set must be specified."},
+        {2274, "&Fixed value (%0):"},
+        {2280, "%0 to sear&ch:"},
         {2304,
          "Some or all groups do not contain enough data sets.\nThe minimum number of data sets in "
          "each data "
@@ -36,6 +40,7 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2305, "Some or all of the available data sets contain no data."},
         {2325, "Options"},
         {2366, "User list"},
+        {2367, "Voltage Clamp"},
         {2384, "%s (read only)"},
         {2395, "Close"},
         {2400, "Could not establish data properties. Select a valid data set."},
