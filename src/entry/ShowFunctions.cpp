@@ -3,24 +3,88 @@
 #include "ZXADLG.h"
 #include "entry/ShowSequence.h"
 #include "platform/platform.h"
+#include "traceops/AdjustBaselineDialog.h"
+#include "traceops/ForceValuesDialog.h"
+#include "traceops/LeakSubtractionDialog.h"
 #include "traceops/NormalizeDialog.h"
+#include "traceops/ResistanceDialog.h"
+#include "traceops/TimeShiftDialog.h"
 
 namespace {
 
-constexpr ShowRow<ZXADLG_NormalizeOptions> kNormalize = {"Normalize", DataRecord::kCopied,
-                                                         kDataOptionsNormal, &LoadNormalizeOptions,
-                                                         &SaveNormalizeOptions};
+// A dialog with a data tab: its selection is kept under the analysis's name.
+template <class Record>
+constexpr ShowRow<Record> TabbedRow(const char* szAnalysis, void (*pLoad)(const char*, Record*),
+                                    void (*pSave)(const char*, const Record*)) {
+    return {szAnalysis, DataRecord::kCopied, kDataOptionsNormal, pLoad, pSave};
+}
+
+constexpr auto kAdjustBaseline =
+    TabbedRow("AdjustBaseline", &LoadAdjustBaselineOptions, &SaveAdjustBaselineOptions);
+constexpr auto kForceValues =
+    TabbedRow("ForceValues", &LoadForceValuesOptions, &SaveForceValuesOptions);
+constexpr auto kLeakSubtraction =
+    TabbedRow("LeakSubtraction", &LoadLeakSubtractionOptions, &SaveLeakSubtractionOptions);
+constexpr auto kNormalize = TabbedRow("Normalize", &LoadNormalizeOptions, &SaveNormalizeOptions);
+constexpr auto kResistance =
+    TabbedRow("Resistance", &LoadResistanceOptions, &SaveResistanceOptions);
+constexpr auto kTimeShift = TabbedRow("TimeShift", &LoadTimeShiftOptions, &SaveTimeShiftOptions);
+
+template <class Dialog, class Record>
+int32_t ShowTabbed(const ShowRow<Record>& row, HWND parent, Record* options,
+                   ZXADLG_DataOptions* data, ZXADLG_CDlgDataSource* source,
+                   const ZXADLG_DlgParams* params) {
+    return RunShowSequence(row, options, data, source, params,
+                           [&](Record* pOptions, ZXADLG_DataOptions* pData) {
+                               Dialog dialog(parent, pOptions, pData, source, params);
+                               return static_cast<int>(dialog.DoModal());
+                           });
+}
 
 }  // namespace
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowAdjustBaselineDialog(
+    HWND parent, ZXADLG_AdjustBaselineOptions* options, ZXADLG_DataOptions* data,
+    ZXADLG_CDlgDataSource* source, const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CAdjustBaselineDialog>(kAdjustBaseline, parent, options, data, source,
+                                             params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowForceValuesDialog(HWND parent,
+                                                            ZXADLG_ForceValuesOptions* options,
+                                                            ZXADLG_DataOptions* data,
+                                                            ZXADLG_CDlgDataSource* source,
+                                                            const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CForceValuesDialog>(kForceValues, parent, options, data, source, params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowLeakSubtractionDialog(
+    HWND parent, ZXADLG_LeakSubtractionOptions* options, ZXADLG_DataOptions* data,
+    ZXADLG_CDlgDataSource* source, const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CLeakSubtractionDialog>(kLeakSubtraction, parent, options, data, source,
+                                              params);
+}
 
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowNormalizeDialog(HWND parent,
                                                           ZXADLG_NormalizeOptions* options,
                                                           ZXADLG_DataOptions* data,
                                                           ZXADLG_CDlgDataSource* source,
                                                           const ZXADLG_DlgParams* params) {
-    return RunShowSequence(kNormalize, options, data, source, params,
-                           [&](ZXADLG_NormalizeOptions* pOptions, ZXADLG_DataOptions* pData) {
-                               CNormalizeDialog dialog(parent, pOptions, pData, source, params);
-                               return static_cast<int>(dialog.DoModal());
-                           });
+    return ShowTabbed<CNormalizeDialog>(kNormalize, parent, options, data, source, params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowResistanceDialog(HWND parent,
+                                                           ZXADLG_ResistanceOptions* options,
+                                                           ZXADLG_DataOptions* data,
+                                                           ZXADLG_CDlgDataSource* source,
+                                                           const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CResistanceDialog>(kResistance, parent, options, data, source, params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowTimeShiftDialog(HWND parent,
+                                                          ZXADLG_TimeShiftOptions* options,
+                                                          ZXADLG_DataOptions* data,
+                                                          ZXADLG_CDlgDataSource* source,
+                                                          const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CTimeShiftDialog>(kTimeShift, parent, options, data, source, params);
 }
