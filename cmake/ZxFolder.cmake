@@ -29,6 +29,8 @@ function(zx_add_tests name)
     return()
   endif()
   add_executable(zx_${name}_tests ${sources})
+  # Test code itself need not be fast or stepped through: most of the time of a fresh build goes into it.
+  target_compile_options(zx_${name}_tests PRIVATE -O0 $<$<CONFIG:Debug>:-g1>)
   foreach(link IN LISTS ARG_LINKS)
     target_link_libraries(zx_${name}_tests PRIVATE zx_${link})
   endforeach()
