@@ -266,6 +266,25 @@ TEST_F(TimeShift, SourceWithoutGroupsOrRegionsHasNothingToChoose) {
     EXPECT_EQ(options.eSearchRegion, 0);
 }
 
+TEST_F(TimeShift, StoreFullOfNonsenseShowsTheFirstEntries) {
+    UseStore();
+    store.WriteFile(
+        "[TimeShiftSection]\r\neAlignmentMode=-99999999999\r\neDirection=left\r\n"
+        "eValueMode=cursors\r\nePeakPolarity=7\r\neSearchRegion=banana\r\neValueRegion=\r\n"
+        "uDataGroupIndex=4294967295\r\ndShiftValue=nan\r\n");
+    DialogScript script;
+    script.ExpectChecked(IDC_SHIFT_INTERVAL, BST_CHECKED)
+        .ExpectChecked(IDC_SHIFT_LEFT, BST_CHECKED)
+        .ExpectChecked(IDC_SHIFT_POSITIVE, BST_CHECKED)
+        .ExpectSelected(IDC_SHIFT_SEARCH_REGION, "Whole trace")
+        .ExpectSelected(IDC_SHIFT_GROUP, "IN 1")
+        .Type(IDC_SHIFT_VALUE, "1.5");
+    ShowAndAccept(script);
+    EXPECT_EQ(options.eSearchRegion, 8);
+    EXPECT_EQ(options.uDataGroupIndex, 1u);
+    EXPECT_EQ(options.dShiftValue, 1.5);
+}
+
 TEST_F(TimeShift, StoreKeepsSixDigits) {
     UseStore();
     options.dShiftValue = 1.23456789;
