@@ -1,63 +1,95 @@
 #include "contract/ValueExtent.h"
 
+#if defined(__x86_64__) || defined(__i386__)
+#include <immintrin.h>
+#endif
+
 namespace {
 
-// Four doubles at a time; the compiler makes of it what the target offers. Written as the
-// comparison that it stands for, so that a NaN leaves a lane alone.
-using Lanes = double __attribute__((vector_size(32), aligned(8)));
-
-template <int kUnroll>
-inline __attribute__((always_inline)) void Scan(const double* pdValues, std::size_t nCount,
-                                                double& dMin, double& dMax) {
-    constexpr std::size_t kLanes = 4;
-    constexpr std::size_t kStep = kUnroll * kLanes;
-    Lanes low[kUnroll];
-    Lanes high[kUnroll];
-    for (int j = 0; j < kUnroll; ++j) {
-        low[j] = Lanes{dMin, dMin, dMin, dMin};
-        high[j] = Lanes{dMax, dMax, dMax, dMax};
-    }
-    std::size_t i = 0;
-    for (; i + kStep <= nCount; i += kStep) {
-        for (int j = 0; j < kUnroll; ++j) {
-            const Lanes v = *reinterpret_cast<const Lanes*>(pdValues + i + j * kLanes);
-            low[j] = v < low[j] ? v : low[j];
-            high[j] = v > high[j] ? v : high[j];
-        }
-    }
-    for (int j = 0; j < kUnroll; ++j) {
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            if (low[j][lane] < dMin) dMin = low[j][lane];
-            if (high[j][lane] > dMax) dMax = high[j][lane];
-        }
-    }
-    for (; i < nCount; ++i) {
+// The comparisons as they stand: for a NaN neither holds.
+void ScanSingly(const double* pdValues, std::size_t nCount, double& dMin, double& dMax) {
+    for (std::size_t i = 0; i < nCount; ++i) {
         if (pdValues[i] < dMin) dMin = pdValues[i];
         if (pdValues[i] > dMax) dMax = pdValues[i];
     }
 }
 
-using ScanFunction = void (*)(const double*, std::size_t, double&, double&);
+#if defined(__x86_64__) || defined(__i386__)
 
+// As many vectors at a time as the registers hold, two for each.
+#if defined(__x86_64__)
+constexpr std::size_t kVectors = 6;
+#else
+constexpr std::size_t kVectors = 3;
+#endif
+
+// The vector operations give their second operand when either is a NaN: with the value first and
+// the limit second they are the comparisons above.
 void ScanBaseline(const double* pdValues, std::size_t nCount, double& dMin, double& dMax) {
-    Scan<2>(pdValues, nCount, dMin, dMax);
+    constexpr std::size_t kLanes = 2;
+    __m128d low[kVectors], high[kVectors];
+    for (std::size_t j = 0; j < kVectors; ++j) {
+        low[j] = _mm_set1_pd(dMin);
+        high[j] = _mm_set1_pd(dMax);
+    }
+    std::size_t i = 0;
+    for (; i + kVectors * kLanes <= nCount; i += kVectors * kLanes) {
+#pragma GCC unroll 8
+        for (std::size_t j = 0; j < kVectors; ++j) {
+            const __m128d v = _mm_loadu_pd(pdValues + i + j * kLanes);
+            low[j] = _mm_min_pd(v, low[j]);
+            high[j] = _mm_max_pd(v, high[j]);
+        }
+    }
+    double limits[kLanes];
+    for (std::size_t j = 0; j < kVectors; ++j) {
+        _mm_storeu_pd(limits, low[j]);
+        ScanSingly(limits, kLanes, dMin, dMax);
+        _mm_storeu_pd(limits, high[j]);
+        ScanSingly(limits, kLanes, dMin, dMax);
+    }
+    ScanSingly(pdValues + i, nCount - i, dMin, dMax);
 }
 
-#if defined(__x86_64__) || defined(__i386__)
 __attribute__((target("avx"))) void ScanAvx(const double* pdValues, std::size_t nCount,
                                             double& dMin, double& dMax) {
-    Scan<4>(pdValues, nCount, dMin, dMax);
+    constexpr std::size_t kLanes = 4;
+    __m256d low[kVectors], high[kVectors];
+    for (std::size_t j = 0; j < kVectors; ++j) {
+        low[j] = _mm256_set1_pd(dMin);
+        high[j] = _mm256_set1_pd(dMax);
+    }
+    std::size_t i = 0;
+    for (; i + kVectors * kLanes <= nCount; i += kVectors * kLanes) {
+#pragma GCC unroll 8
+        for (std::size_t j = 0; j < kVectors; ++j) {
+            const __m256d v = _mm256_loadu_pd(pdValues + i + j * kLanes);
+            low[j] = _mm256_min_pd(v, low[j]);
+            high[j] = _mm256_max_pd(v, high[j]);
+        }
+    }
+    double limits[kLanes];
+    for (std::size_t j = 0; j < kVectors; ++j) {
+        _mm256_storeu_pd(limits, low[j]);
+        ScanSingly(limits, kLanes, dMin, dMax);
+        _mm256_storeu_pd(limits, high[j]);
+        ScanSingly(limits, kLanes, dMin, dMax);
+    }
+    ScanSingly(pdValues + i, nCount - i, dMin, dMax);
 }
 
+#endif
+
+using ScanFunction = void (*)(const double*, std::size_t, double&, double&);
+
 ScanFunction ChooseScan() {
+#if defined(__x86_64__) || defined(__i386__)
     __builtin_cpu_init();
     return __builtin_cpu_supports("avx") ? &ScanAvx : &ScanBaseline;
-}
 #else
-ScanFunction ChooseScan() {
-    return &ScanBaseline;
-}
+    return &ScanSingly;
 #endif
+}
 
 }  // namespace
 
