@@ -16,7 +16,11 @@ helpers=
 clean_up() {
     local pid
     for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
-    [ -n "$helpers" ] && WINEPREFIX=$prefix wineserver -k 2>/dev/null
+    if [ -n "$helpers" ]; then
+        # Another run that shares the prefix may still need the server.
+        exec 9>&-
+        WINEPREFIX=$prefix flock -n -x "$prefix.users" wineserver -k 2>/dev/null
+    fi
     [ -n "${xvfb:-}" ] && kill "$xvfb" 2>/dev/null
     return 0
 }
@@ -63,12 +67,14 @@ if [ -z "${DISPLAY:-}" ]; then
     export DISPLAY=:$number
     echo "demo: virtual display $DISPLAY"
 fi
+exec 9>"$prefix.users"
+flock -s 9
 export WINEPREFIX=$prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 
 # The host keeps its settings where the user's own runs find them again.
 start_host() {
     helpers=yes
-    (cd build/win32/bin && exec wine zxhost.exe "$@") >"$out/host.txt" 2>&1 </dev/null &
+    (cd build/win32/bin && exec wine zxhost.exe "$@") >"$out/host.txt" 2>&1 </dev/null 9>&- &
     pids+=($!)
     host=$!
 }
@@ -93,11 +99,98 @@ picture() {  # WHAT
     echo "  $(printf '%02d' $step) $1"
 }
 
-# Where a control of a window is, told by the host itself: zxhost writes nothing of the kind, so the places
-# come from the dialog template: dialog units of the pages' font, 6 by 13 pixels per base unit.
+# The mouse to a place in a window, in pixels from its corner, and a click there.
 click() {  # WINDOW X Y
     xdotool mousemove --window "$1" "$2" "$3"
-    sleep 0.15
+    sleep 0.2
     xdotool click 1
-    sleep 0.25
+    sleep 0.3
 }
+
+# The same for a control of a dialog: its middle in dialog units as the template has it. A unit is 6/4 by
+# 13/8 pixels; the pages lie this far within the dialog.
+click_units() {  # WINDOW X Y
+    click "$1" $(($2 * 6 / 4)) $(($3 * 13 / 8))
+}
+click_page() {  # WINDOW X Y
+    click "$1" $((15 + $2 * 6 / 4)) $((33 + $3 * 13 / 8))
+}
+
+press() {
+    xdotool key --clearmodifiers "$1"
+    sleep 0.3
+}
+
+wait_closed() {  # TITLE
+    for _ in $(seq 100); do
+        [ -z "$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null)" ] && return 0
+        sleep 0.2
+    done
+    echo "demo: the window \"$1\" does not close"
+    return 1
+}
+
+open_normalize() {
+    click "$main" 132 271
+    dialog=$(window Normalize) || exit 1
+}
+
+close_host() {
+    xdotool windowfocus "$main"
+    press alt+F4
+    for _ in $(seq 100); do kill -0 "$host" 2>/dev/null || return 0; sleep 0.2; done
+    echo "demo: the host does not close"
+    return 1
+}
+
+settings="Z:${out//\//\\}\\settings.ini"
+echo "demo: first session"
+start_host --store "$settings"
+main=$(window zxhost) || exit 1
+picture recording
+xdotool mousemove --window "$main" 746 20 mousedown 1
+sleep 0.2
+for x in 700 650 600 560; do xdotool mousemove --window "$main" "$x" 24; sleep 0.1; done
+xdotool mouseup 1
+picture cursor-dragged
+open_normalize
+picture normalize-opened
+click_page "$dialog" 18 37
+picture regions-chosen-by-mouse
+press alt+b
+press Down
+press Tab
+press Down
+press Down
+picture regions-set-by-keys
+click "$dialog" 91 22
+picture data-page
+click_page "$dialog" 12 48
+press alt+a
+picture all-sweeps-selected
+click_units "$dialog" 279 236
+wait_closed Normalize || exit 1
+picture records-and-store
+close_host || exit 1
+cat "$out/host.txt"
+mv "$out/host.txt" "$out/first-session.txt"
+
+echo "demo: second session"
+start_host --store "$settings"
+main=$(window zxhost) || exit 1
+open_normalize
+picture settings-found-again
+click "$dialog" 40 22
+picture options-found-again
+press Escape
+wait_closed Normalize || exit 1
+close_host || exit 1
+mv "$out/host.txt" "$out/second-session.txt"
+grep -m1 '^result' "$out/second-session.txt"
+
+if ! tr -d '\r' <"$out/settings.ini" | grep -q '^ePeakRegion=2$'; then
+    echo "demo: the settings are not what was chosen:"
+    cat "$out/settings.ini"
+    exit 1
+fi
+echo "demo: pictures and records are in build/demo"
