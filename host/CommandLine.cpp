@@ -132,11 +132,7 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
     const std::int32_t result = player.Play(
         [&] { return analysis.show(nullptr, room.data(), &data, &source, &options.params); });
     for (const Message& message : player.Messages()) PrintMessage(out, message);
-    out << "result: " << result << " (" << DescribeResult(result) << ")\n";
-    PrintChanges(out, analysis.record, *analysis.fields, roomBefore.data(), room.data());
-    PrintChanges(out, "ZXADLG_DataOptions", kDataFields, &dataBefore, &data);
-    PrintStore(out, store);
-    out.flush();
+    PrintOutcome({analysis, result, roomBefore.data(), room.data(), dataBefore, data, store}, out);
     if (!store.Save(&error)) return fail();
     if (!player.Error().empty()) {
         err << player.Error() << "\n";
@@ -148,6 +144,15 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
 }
 
 }  // namespace
+
+void PrintOutcome(const Outcome& outcome, std::ostream& out) {
+    out << "result: " << outcome.result << " (" << DescribeResult(outcome.result) << ")\n";
+    PrintChanges(out, outcome.analysis.record, *outcome.analysis.fields, outcome.recordBefore,
+                 outcome.record);
+    PrintChanges(out, "ZXADLG_DataOptions", kDataFields, &outcome.dataBefore, &outcome.data);
+    PrintStore(out, outcome.store);
+    out.flush();
+}
 
 bool ParseCommandLine(const std::vector<std::string>& arguments, Options* options,
                       std::string* error) {

@@ -12,6 +12,7 @@
 #include "Analyses.h"
 #include "RecordFields.h"
 #include "Recording.h"
+#include "SettingsStore.h"
 
 namespace zxhost {
 
@@ -36,6 +37,18 @@ bool ParseCommandLine(const std::vector<std::string>& arguments, Options* option
 
 // The recording that the options name, read or simulated.
 bool LoadRecording(const Options& options, Recording* recording, std::string* error);
+
+// What came of one dialog: its result, the records before and after, and the store now.
+struct Outcome {
+    const Analysis& analysis;
+    std::int32_t result;
+    const void* recordBefore;
+    const void* record;
+    const ZXADLG_DataOptions& dataBefore;
+    const ZXADLG_DataOptions& data;
+    const SettingsStore& store;
+};
+void PrintOutcome(const Outcome& outcome, std::ostream& out);
 
 // Runs everything but the window. Gives the exit code; results go to `out`, errors to `err`.
 int RunCommand(const Options& options, std::ostream& out, std::ostream& err);
