@@ -20,14 +20,14 @@ COptionsTabBase::COptionsTabBase(CAnalysisOptionsInterfaceBase* pOptions,
       m_bReadOnly(pParams->bReadOnly != 0),
       m_pOptions(pOptions) {
     // The id between the two buttons belongs to another page.
-    constexpr int kValues[] = {0, -1, 1};
+    constexpr int kDestinations[] = {IDC_DESTINATION_APPEND, IDC_DESTINATION_REPLACE};
     RegisterControl(IDC_DESTINATION_GROUP, &m_grpDestination);
-    m_radDestination.Setup(this, IDC_DESTINATION_APPEND, IDC_DESTINATION_REPLACE, 3, kValues);
+    m_radDestination.SetupIds(this, 2, kDestinations, nullptr);
     RegisterControl(IDC_DYNAMIC_LINK, &m_chkDynamicLink);
     RegisterControl(IDC_WRITE_REGION_INFO, &m_chkWriteRegionInfo);
 
     On(&m_radDestination, ADMN_CLICKED,
-       [this] { m_pOptions->SetDestinationOption(m_radDestination.GetValue()); });
+       [this] { m_pOptions->SetDestinationOption(m_radDestination.GetSelected()); });
     On(&m_chkDynamicLink, ADMN_CLICKED,
        [this] { m_pOptions->SetDynamicLink(m_chkDynamicLink.GetCheck() == BST_CHECKED); });
     On(&m_chkWriteRegionInfo, ADMN_CLICKED,
@@ -52,8 +52,7 @@ BOOL COptionsTabBase::FinishInitialization() {
 
 void COptionsTabBase::ShowSharedOptions() {
     const UpdateScope updating(m_bUpdating);
-    // A stored option that is none of the two shows as the first.
-    m_radDestination.SetValue(m_pOptions->GetDestinationOption() == 1 ? 1 : 0);
+    SelectButton(m_radDestination, m_pOptions->GetDestinationOption());
     m_chkDynamicLink.SetCheck(m_pOptions->GetDynamicLink() ? BST_CHECKED : BST_UNCHECKED);
     m_chkWriteRegionInfo.SetCheck(m_pOptions->GetWriteRegionInfo() ? BST_CHECKED : BST_UNCHECKED);
 }
@@ -62,10 +61,6 @@ void COptionsTabBase::RefreshOptions() {
     const UpdateScope updating(m_bUpdating);
     ShowSharedOptions();
     ShowOptions();
-}
-
-void COptionsTabBase::SelectButton(ADM_RadioButtons& radButtons, int nIndex) {
-    radButtons.SetSelected(nIndex >= 0 && nIndex < radButtons.GetCount() ? nIndex : 0);
 }
 
 BOOL COptionsTabBase::OnPageShow() {
@@ -96,8 +91,8 @@ BOOL COptionsTabBase::CanLeavePage() {
 // --- Events
 // ---------------------------------------------------------------------------------------
 
-void COptionsTabBase::On(ADM_Wnd* pControl, int nCode, std::function<void()> step) {
-    m_vBindings.push_back({pControl, nCode, std::move(step)});
+void COptionsTabBase::On(ADM_Wnd* pControl, int nCode, EventTable::Step step) {
+    m_events.On(pControl, nCode, std::move(step));
 }
 
 void COptionsTabBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
@@ -110,7 +105,5 @@ void COptionsTabBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
         return;
     }
     if (m_bUpdating != 0) return;
-    for (const Binding& binding : m_vBindings) {
-        if (binding.pControl == pSender && binding.nCode == nCode) binding.step();
-    }
+    m_events.Run(pSender, nCode);
 }

@@ -7,9 +7,8 @@
 // again and gives the focus away.
 #pragma once
 
-#include <functional>
-#include <vector>
-
+#include "analysis/EditEvents.h"
+#include "analysis/SelectionControls.h"
 #include "framework/ADM_Button.h"
 #include "framework/ADM_RadioButtons.h"
 #include "framework/ADM_Static.h"
@@ -41,15 +40,11 @@ class COptionsTabBase : public ADM_TabSubDialog {
     void RefreshOptions();
     // What the user's event nCode of a control does. Nothing is called before the tab is ready,
     // while it shows values, or in read-only mode.
-    void On(ADM_Wnd* pControl, int nCode, std::function<void()> step);
-    // Selects the button of an index from outside: the first one for an index beyond the set.
-    static void SelectButton(ADM_RadioButtons& radButtons, int nIndex);
+    void On(ADM_Wnd* pControl, int nCode, EventTable::Step step);
     // Shows the record in the shared controls.
     void ShowSharedOptions();
     // Shows or hides the shared controls as the parameters say.
     void ApplyVisibility();
-    // True in an event that a subclass must not treat as the user's: not ready, or read-only.
-    bool IgnoresEvents() const { return !m_bReady || m_bReadOnly; }
 
     const ZXADLG_DlgParams* m_pParams;
     bool m_bDisabled = false;
@@ -60,13 +55,7 @@ class COptionsTabBase : public ADM_TabSubDialog {
     bool m_bReady = false;
 
   private:
-    struct Binding {
-        ADM_Wnd* pControl;
-        int nCode;
-        std::function<void()> step;
-    };
-
-    std::vector<Binding> m_vBindings;
+    EventTable m_events;
     ADM_Static m_grpDestination;
     ADM_RadioButtons m_radDestination;
     ADM_Button m_chkDynamicLink;

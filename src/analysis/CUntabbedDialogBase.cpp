@@ -2,6 +2,7 @@
 
 #include "ZXADLG.h"
 #include "analysis/DialogMessages.h"
+#include "analysis/SelectionControls.h"
 #include "contract/CAnalysisOptionsInterfaceBase.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
@@ -44,8 +45,7 @@ BOOL CUntabbedDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
 void CUntabbedDialogBase::ShowSharedOptions() {
     if (m_pOptions == nullptr) return;
     const UpdateScope updating(m_bUpdating);
-    // A stored option that is none of the two shows as the first.
-    m_radDestination.SetSelected(m_pOptions->GetDestinationOption() == 1 ? 1 : 0);
+    SelectButton(m_radDestination, m_pOptions->GetDestinationOption());
     m_chkDynamicLink.SetCheck(m_pOptions->GetDynamicLink() ? BST_CHECKED : BST_UNCHECKED);
 }
 

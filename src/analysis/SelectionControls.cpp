@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ZXADLG.h"
+#include "framework/ADM_RadioButtons.h"
 #include "ids.h"
 #include "support/BoundedText.h"
 #include "support/Framework.h"
@@ -32,6 +33,10 @@ class RedrawScope {
 };
 
 }  // namespace
+
+void SelectButton(ADM_RadioButtons& radButtons, int nIndex) {
+    radButtons.SetSelected(nIndex >= 0 && nIndex < radButtons.GetCount() ? nIndex : 0);
+}
 
 // --- Groups
 // ---------------------------------------------------------------------------------------

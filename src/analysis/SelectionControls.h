@@ -12,8 +12,12 @@
 #include "framework/ADM_ComboBox.h"
 #include "framework/ADM_ListBox.h"
 
+class ADM_RadioButtons;
 class ZXADLG_CDlgDataSource;
 class ZXADLG_CDlgFileSource;
+
+// Selects the button of an index from outside: the first one for an index beyond the set.
+void SelectButton(ADM_RadioButtons& radButtons, int nIndex);
 
 // Group names; an item's position is the group as long as every group has a name.
 class CZxDlgGroupCombo : public ADM_ComboBox {

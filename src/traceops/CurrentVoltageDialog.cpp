@@ -2,6 +2,7 @@
 
 #include "ZXADLG.h"
 #include "analysis/CaptionText.h"
+#include "analysis/SelectionControls.h"
 #include "ids.h"
 
 namespace {
@@ -12,10 +13,6 @@ constexpr int kVoltageFromEpoch = 3;
 // Indices of the current radios.
 constexpr int kCurrentMean = 1;
 constexpr int kCurrentPeak = 2;
-
-void SelectButton(ADM_RadioButtons& radButtons, int nIndex) {
-    radButtons.SetSelected(nIndex >= 0 && nIndex < radButtons.GetCount() ? nIndex : 0);
-}
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ZXADLG.h"
+#include "analysis/SelectionControls.h"
 #include "ids.h"
 #include "support/Framework.h"
 
@@ -12,11 +13,6 @@ constexpr int kMinMax = 2;
 constexpr char kMicroseconds[] = "\xB5s";  // code page 1252
 constexpr int kNoteDecimals = 2;
 constexpr int kNoteDigits = 15;
-
-// An index from outside: the first button stands for one beyond the set.
-void SelectButton(ADM_RadioButtons& radButtons, int nIndex) {
-    radButtons.SetSelected(nIndex >= 0 && nIndex < radButtons.GetCount() ? nIndex : 0);
-}
 
 }  // namespace
 
