@@ -12,7 +12,7 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr int kRounds = 41;
+constexpr int kRounds = 15;
 
 // The owner is told when the dialog's loop has nothing to do: the time is taken, and OK pressed.
 Clock::time_point g_idle;

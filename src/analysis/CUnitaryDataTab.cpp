@@ -56,10 +56,30 @@ BOOL CUnitaryDataTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
         m_btnNone.Show(SW_HIDE);
         m_btnInvert.Show(SW_HIDE);
     }
-    m_radGroups.Show(m_pData->GetFlags().bShowGroups != 0 ? SW_SHOW : SW_HIDE);
+    const bool bShowGroups = m_pData->GetFlags().bShowGroups != 0;
+    m_radGroups.Show(bShowGroups ? SW_SHOW : SW_HIDE);
+    if (!bShowGroups) CloseGroupGap();
     ShowSelection(true);
     m_bReady = true;
     return bResult;
+}
+
+// Without the group selector the region stands at the top of its column, where that would be.
+void CUnitaryDataTab::CloseGroupGap() {
+    const auto place = [this](const ADM_Wnd& control) {
+        RECT rc;
+        control.GetWindowRect(&rc);
+        MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(&rc), 2);
+        return rc;
+    };
+    const LONG nUp = place(m_lblRegion).top - place(m_lblGroup).top;
+    for (ADM_Wnd* pControl :
+         {static_cast<ADM_Wnd*>(&m_lblRegion), static_cast<ADM_Wnd*>(&m_cmbRegion),
+          static_cast<ADM_Wnd*>(&m_chkForceToZero)}) {
+        const RECT rc = place(*pControl);
+        SetWindowPos(pControl->GetHandle(), nullptr, rc.left, rc.top - nUp, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 // --- Display

@@ -23,6 +23,7 @@ class CUnitaryDataTab : public CDataTabBase {
     void ShowSelection(bool bFill);
 
   private:
+    void CloseGroupGap();
     int GetSetMode();
     void ShowRegion(bool bFill);
     void TakeRegion();

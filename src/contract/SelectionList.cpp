@@ -9,6 +9,11 @@
 #include "support/ListText.h"
 
 std::vector<std::int32_t> ParseSelection(const char* szText, int nOffset) {
+    // Most lists are short, and are parsed whenever a tab shows or a key is pressed.
+    constexpr int kFew = 64;
+    std::int32_t anFew[kFew];
+    const int nFew = ParseList(szText, anFew, kFew, nOffset, nullptr, 0);
+    if (nFew < kFew) return {anFew, anFew + nFew};
     constexpr int kMost = CDataOptionsInterface::kMaxSelected;
     std::vector<std::int32_t> vNumbers(kMost);
     const int nCount = ParseList(szText, vNumbers.data(), kMost, nOffset, nullptr, 0);

@@ -44,9 +44,9 @@ void ScanBaseline(const double* pdValues, std::size_t nCount, double& dMin, doub
     double limits[kLanes];
     for (std::size_t j = 0; j < kVectors; ++j) {
         _mm_storeu_pd(limits, low[j]);
-        ScanSingly(limits, kLanes, dMin, dMax);
+        for (const double d : limits) dMin = d < dMin ? d : dMin;
         _mm_storeu_pd(limits, high[j]);
-        ScanSingly(limits, kLanes, dMin, dMax);
+        for (const double d : limits) dMax = d > dMax ? d : dMax;
     }
     ScanSingly(pdValues + i, nCount - i, dMin, dMax);
 }
@@ -71,9 +71,9 @@ __attribute__((target("avx"))) void ScanAvx(const double* pdValues, std::size_t 
     double limits[kLanes];
     for (std::size_t j = 0; j < kVectors; ++j) {
         _mm256_storeu_pd(limits, low[j]);
-        ScanSingly(limits, kLanes, dMin, dMax);
+        for (const double d : limits) dMin = d < dMin ? d : dMin;
         _mm256_storeu_pd(limits, high[j]);
-        ScanSingly(limits, kLanes, dMin, dMax);
+        for (const double d : limits) dMax = d > dMax ? d : dMax;
     }
     ScanSingly(pdValues + i, nCount - i, dMin, dMax);
 }

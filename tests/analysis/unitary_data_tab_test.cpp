@@ -147,6 +147,31 @@ TEST_F(UnitaryTab, FlagsDecideWhatIsOffered) {
     EXPECT_EQ(record.bForceExcludedRegionToZero, 0);
 }
 
+TEST_F(UnitaryTab, RegionTakesThePlaceOfAHiddenGroupSelector) {
+    const auto top = [](HWND dialog, int id) {
+        RECT rc;
+        GetWindowRect(FindControl(dialog, id), &rc);
+        return rc.top;
+    };
+    LONG gap = 0;
+    DialogScript shown;
+    shown.Do([&](HWND dialog) { gap = top(dialog, IDC_REGION) - top(dialog, IDC_REGION_LABEL); })
+        .Do([&](HWND dialog) {
+            EXPECT_GT(top(dialog, IDC_REGION_LABEL), top(dialog, IDC_GROUPS_ALL));
+        })
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(shown), 2);
+    flags.bShowGroups = 0;
+    DialogScript hidden;
+    hidden
+        .Do([&](HWND dialog) {
+            EXPECT_EQ(top(dialog, IDC_REGION_LABEL), top(dialog, IDC_GROUP_LABEL));
+            EXPECT_EQ(top(dialog, IDC_REGION) - top(dialog, IDC_REGION_LABEL), gap);
+        })
+        .Click(IDCANCEL);
+    EXPECT_EQ(ShowUnitary(hidden), 2);
+}
+
 TEST_F(UnitaryTab, OneSignalWithoutSelectorStillHasSetRadios) {
     source.Groups({"IN 0"});
     flags.bShowGroups = 0;
