@@ -197,20 +197,38 @@ TEST_F(HostRun, AWrongCommandLineIsTold) {
     EXPECT_TRUE(OutHas("  bUseDataOptions=1  data tab, data record\n"));
 }
 
-// The program as it is shipped, with the library beside it.
-TEST_F(HostRun, TheProgramItselfPlaysAScript) {
-    char self[1024];
-    ASSERT_GT(GetModuleFileNameA(nullptr, self, sizeof self), 0u);
-    const std::string program =
-        (std::filesystem::path(self).parent_path() / ZX_HOST_PROGRAM).string();
+// A program that stands beside the tests, with the library beside it.
+class HostProgram : public host_test::HostTest {
+  protected:
+    int Start(const std::string& program, const std::string& arguments) {
+        char self[1024] = "";
+        GetModuleFileNameA(nullptr, self, sizeof self);
+        const std::string path = (std::filesystem::path(self).parent_path() / program).string();
+        const std::string file = scratch.File("printed.txt");
+        const int code = std::system((path + " " + arguments + " >" + file + " 2>&1").c_str());
+        for (char c : ReadFile(file)) {
+            if (c != '\r') printed += c;
+        }
+        return code;
+    }
+    std::string printed;
+};
+
+TEST_F(HostProgram, PlaysAScript) {
     const std::string script = WriteFile("steps.txt", "click 2362\nchoose 2364 2\nok\n");
-    const std::string printed = scratch.File("printed.txt");
-    const std::string command = program + " run normalize --script " + script + " --store " +
-                                Store() + " >" + printed + " 2>&1";
-    ASSERT_EQ(std::system(command.c_str()), 0) << ReadFile(printed);
-    EXPECT_NE(ReadFile(printed).find("eBaselineRegion: 0 -> 1"), std::string::npos);
+    ASSERT_EQ(Start(ZX_HOST_PROGRAM, "run normalize --script " + script + " --store " + Store()), 0)
+        << printed;
+    EXPECT_NE(printed.find("eBaselineRegion: 0 -> 1"), std::string::npos);
     EXPECT_NE(ReadFile(Store()).find("[NormalizeSection]\nbUseAllPoints=TRUE\neBaselineRegion=1\n"),
               std::string::npos);
+}
+
+TEST_F(HostProgram, TheHostOfTheGuideRuns) {
+    // Settings that it may have stored before would be what it shows.
+    const test_support::ScopedEnvironment root("ZDC_REGISTRY_ROOT", "ZxHostTests");
+    ASSERT_EQ(Start(ZX_MINIMAL_PROGRAM, "--ok"), 0) << printed;
+    EXPECT_EQ(printed, "Baseline region 0, peak region 0, in 3 of 3 sweeps.\n");
+    RegDeleteTreeA(HKEY_CURRENT_USER, "Software\\ZxHostTests");
 }
 
 }  // namespace

@@ -1,0 +1,28 @@
+# What a host installs: headers, the library with the import libraries of both kinds of linker, a CMake
+# package and the documents. The example host is a component of its own.
+set(zx_package lib/cmake/ZxAnalysisDialogs)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/ DESTINATION include COMPONENT ZxAnalysisDialogs)
+install(FILES ${CMAKE_SOURCE_DIR}/docs/hosting.md ${CMAKE_SOURCE_DIR}/docs/automation.md
+        DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
+install(TARGETS ZXANALYSISDIALOGS
+        RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
+        LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs
+        ARCHIVE DESTINATION lib COMPONENT ZxAnalysisDialogs)
+if(WIN32)
+  install(FILES ${ZX_VENDOR_IMPORT_LIBRARY} DESTINATION lib COMPONENT ZxAnalysisDialogs)
+else()
+  install(DIRECTORY ${ZX_PLATFORM_HEADERS} DESTINATION include COMPONENT ZxAnalysisDialogs)
+  set_target_properties(zxhost PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+endif()
+install(TARGETS zxhost RUNTIME DESTINATION bin COMPONENT ZxHost)
+
+include(CMakePackageConfigHelpers)
+set(ZX_POINTER_SIZE ${CMAKE_SIZEOF_VOID_P})
+configure_package_config_file(${CMAKE_SOURCE_DIR}/cmake/ZxAnalysisDialogsConfig.cmake.in
+  ${CMAKE_BINARY_DIR}/ZxAnalysisDialogsConfig.cmake INSTALL_DESTINATION ${zx_package}
+  NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+write_basic_package_version_file(${CMAKE_BINARY_DIR}/ZxAnalysisDialogsConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_BINARY_DIR}/ZxAnalysisDialogsConfig.cmake
+              ${CMAKE_BINARY_DIR}/ZxAnalysisDialogsConfigVersion.cmake
+        DESTINATION ${zx_package} COMPONENT ZxAnalysisDialogs)

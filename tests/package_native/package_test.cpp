@@ -1,0 +1,57 @@
+// Installs the library and builds the host of the embedding guide against it.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "support/ScratchStore.h"
+
+namespace {
+
+std::string Read(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+}
+
+// The first block of a language in the guide.
+std::string Block(const std::string& language) {
+    const std::string guide = Read(ZX_SOURCE_DIR "/docs/hosting.md");
+    const std::string mark = "```" + language + "\n";
+    const std::size_t begin = guide.find(mark);
+    if (begin == std::string::npos) return "";
+    const std::size_t first = begin + mark.size();
+    return guide.substr(first, guide.find("```", first) - first);
+}
+
+TEST(Package, TheGuidesHostBuildsAgainstAnInstallationAndRuns) {
+    const test_support::ScratchStore scratch;
+    const std::string root = scratch.File("package");
+    const std::string log = scratch.File("log.txt");
+    const auto run = [&](const std::string& command) {
+        return std::system((command + " >" + log + " 2>&1").c_str());
+    };
+    std::filesystem::create_directories(root + "/src");
+    std::ofstream(root + "/src/CMakeLists.txt") << Block("cmake");
+    std::ofstream(root + "/src/minimal_host.cpp") << Block("cpp");
+    ASSERT_EQ(run(ZX_CMAKE " --install " ZX_BINARY_DIR " --component ZxAnalysisDialogs --prefix " +
+                  root + "/installed"),
+              0)
+        << Read(log);
+    for (const char* file :
+         {"include/ZXADLG.h", "include/zxadlg/DataOptions.h", "include/zxadlg/headless.h",
+          "lib/libZXANALYSISDIALOGS.so", "share/doc/zxanalysisdialogs/hosting.md"})
+        EXPECT_TRUE(std::filesystem::exists(root + "/installed/" + file)) << file;
+    ASSERT_EQ(run(ZX_CMAKE " -S " + root + "/src -B " + root + "/build -DCMAKE_PREFIX_PATH=" +
+                  root + "/installed -DCMAKE_CXX_FLAGS='" ZX_CONSUMER_FLAGS "'"),
+              0)
+        << Read(log);
+    ASSERT_EQ(run(ZX_CMAKE " --build " + root + "/build"), 0) << Read(log);
+    ASSERT_EQ(run(root + "/build/minimal_host --ok"), 0) << Read(log);
+    EXPECT_EQ(Read(log), "Baseline region 0, peak region 0, in 3 of 3 sweeps.\n");
+    std::filesystem::remove_all(root);
+}
+
+}  // namespace
