@@ -60,7 +60,9 @@ for system in "$@"; do
     if [ "$system" = native ]; then
         tools/setup.sh native || exit 1
     else
-        reason=$(tools/setup.sh windows 2>&1 | tee /dev/stderr | tail -n 1)
+        said=$(tools/setup.sh windows 2>&1)
+        [ -z "$said" ] || printf '%s\n' "$said"
+        reason=$(printf '%s\n' "$said" | tail -n 1)
         if ! command -v wine >/dev/null || ! command -v i686-w64-mingw32-g++-posix >/dev/null; then
             count=$(tests_in_tree "$system")
             echo "=== $system: $count tests skipped, no Windows tools: $reason"
