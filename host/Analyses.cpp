@@ -1,26 +1,78 @@
 #include "Analyses.h"
 
+#include "OptionFields.h"
+
 namespace zxhost {
 namespace {
 
-// The Show functions of one form differ in the type of their option record alone.
+// --- Option records as a first run shows them: what zero would not do for.
+
+template <class Record>
+constexpr Record kDefaults = {};
+template <>
+constexpr ZXADLG_LeakSubtractionOptions kDefaults<ZXADLG_LeakSubtractionOptions> = {
+    .dPassiveResistance = 500.0, .dConversionFactor = 1.0};
+template <>
+constexpr ZXADLG_ResistanceOptions kDefaults<ZXADLG_ResistanceOptions> = {.dConversionFactor = 1.0};
+template <>
+constexpr ZXADLG_ModifySampleRateOptions kDefaults<ZXADLG_ModifySampleRateOptions> = {
+    .nReduceFactor = 2, .nInterpolFactor = 2};
+template <>
+constexpr ZXADLG_CurrentVoltageOptions kDefaults<ZXADLG_CurrentVoltageOptions> = {
+    .uSmoothingPoints = 5};
+template <>
+constexpr ZXADLG_SubtractControlOptions kDefaults<ZXADLG_SubtractControlOptions> = {.dMultiplier =
+                                                                                        1.0};
+
+// --- Show functions by their form.
+
 template <class Record, auto kShow>
-std::int32_t Show(HWND__* owner, void* options, ZXADLG_DataOptions* data,
-                  ZXADLG_CDlgDataSource* source, const ZXADLG_DlgParams* params) {
-    return kShow(owner, static_cast<Record*>(options), data, source, params);
+std::int32_t Usual(const DialogCall& call) {
+    return kShow(call.owner, static_cast<Record*>(call.options), call.data, call.source,
+                 call.params);
 }
 
 template <class Record, auto kShow>
-constexpr Analysis Row(const char* name, const char* title, const char* record,
-                       const std::span<const Field>* fields) {
-    static_assert(sizeof(Record) <= kMaxOptionSize);
-    return {name, title, record, sizeof(Record), fields, &Show<Record, kShow>};
+std::int32_t WithoutData(const DialogCall& call) {
+    return kShow(call.owner, static_cast<Record*>(call.options), call.source, call.params);
 }
 
-constexpr Analysis kRows[] = {
-    Row<ZXADLG_NormalizeOptions, &ZXADLG_ShowNormalizeDialog>(
-        "normalize", "Normalize", "ZXADLG_NormalizeOptions", &kNormalizeFields),
+template <class Record, auto kShow>
+std::int32_t WithFiles(const DialogCall& call) {
+    return kShow(call.owner, static_cast<Record*>(call.options), nullptr, call.source, call.files,
+                 call.params);
+}
+
+#define ZX_ROW(name, title, record, form, show)                                           \
+    {                                                                                     \
+        name, title, #record, sizeof(record), OptionFields<record>(), &kDefaults<record>, \
+            &form<record, &show>                                                          \
+    }
+
+const Analysis kRows[] = {
+    ZX_ROW("normalize", "Normalize", ZXADLG_NormalizeOptions, Usual, ZXADLG_ShowNormalizeDialog),
+    ZX_ROW("time-shift", "Time Shift", ZXADLG_TimeShiftOptions, Usual, ZXADLG_ShowTimeShiftDialog),
+    ZX_ROW("force-values", "Force Values", ZXADLG_ForceValuesOptions, Usual,
+           ZXADLG_ShowForceValuesDialog),
+    ZX_ROW("adjust-baseline", "Adjust Baseline", ZXADLG_AdjustBaselineOptions, Usual,
+           ZXADLG_ShowAdjustBaselineDialog),
+    ZX_ROW("leak-subtraction", "Leak Subtraction", ZXADLG_LeakSubtractionOptions, Usual,
+           ZXADLG_ShowLeakSubtractionDialog),
+    ZX_ROW("resistance", "Resistance", ZXADLG_ResistanceOptions, Usual,
+           ZXADLG_ShowResistanceDialog),
+    ZX_ROW("sampling-rate", "Data Reduction/Interpolation", ZXADLG_ModifySampleRateOptions,
+           WithoutData, ZXADLG_ShowModifySamplingRateDialog),
+    ZX_ROW("current-voltage", "Current/Voltage", ZXADLG_CurrentVoltageOptions, Usual,
+           ZXADLG_ShowCurrentVoltageDialog),
+    ZX_ROW("trace-vs-trace", "Trace vs. Trace", ZXADLG_TraceVsTraceOptions, Usual,
+           ZXADLG_ShowTraceVsTraceDialog),
+    ZX_ROW("subtract-control", "Subtract Control", ZXADLG_SubtractControlOptions, WithFiles,
+           ZXADLG_ShowSubtractControlDialog),
 };
+
+#undef ZX_ROW
+
+static_assert(sizeof(ZXADLG_SubtractControlOptions) <= kMaxOptionSize);
 
 }  // namespace
 

@@ -1,6 +1,6 @@
 // The analyses that the library offers: what the host needs to open each of their dialogs.
 //
-// A new dialog is one row, with the fields of its option record in RecordFields.
+// A new dialog is one row here and the table of its option record's fields in OptionFields.
 #pragma once
 
 #include <cstddef>
@@ -13,14 +13,24 @@
 
 namespace zxhost {
 
+// What a Show function gets; those that take less leave the rest alone.
+struct DialogCall {
+    HWND__* owner;
+    void* options;
+    ZXADLG_DataOptions* data;
+    ZXADLG_CDlgDataSource* source;
+    ZXADLG_CDlgFileSource* files;
+    const ZXADLG_DlgParams* params;
+};
+
 struct Analysis {
     const char* name;    // on the command line
     const char* title;   // for people
     const char* record;  // type of its option record
     std::size_t size;    // of the record, at most kMaxOptionSize
-    const std::span<const Field>* fields;
-    std::int32_t (*show)(HWND__* owner, void* options, ZXADLG_DataOptions* data,
-                         ZXADLG_CDlgDataSource* source, const ZXADLG_DlgParams* params);
+    std::span<const Field> fields;
+    const void* defaults;  // a record as a first run shows it
+    std::int32_t (*show)(const DialogCall& call);
 };
 
 inline constexpr std::size_t kMaxOptionSize = 65536;

@@ -1,8 +1,10 @@
 #include "CommandLine.h"
 
+#include <cstring>
 #include <ostream>
 
 #include "HostDataSource.h"
+#include "HostFileSource.h"
 #include "MembraneModel.h"
 #include "Script.h"
 #include "ScriptPlayer.h"
@@ -121,16 +123,19 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
 
     const Analysis& analysis = *options.analysis;
     HostDataSource source(&recording, store.ProfileName());
+    HostFileSource files;
     // Doubles make the room fit for every record.
     std::vector<double> room(kMaxOptionSize / sizeof(double), 0.0);
+    std::memcpy(room.data(), analysis.defaults, analysis.size);
     const std::vector<double> roomBefore = room;
     ZXADLG_DataOptions data = {};
     const ZXADLG_DataOptions dataBefore = data;
 
     out << "data: " << recording.Describe() << "\n";
     ScriptPlayer player(script, options.timeLimit * 1000);
-    const std::int32_t result = player.Play(
-        [&] { return analysis.show(nullptr, room.data(), &data, &source, &options.params); });
+    const std::int32_t result = player.Play([&] {
+        return analysis.show({nullptr, room.data(), &data, &source, &files, &options.params});
+    });
     for (const Message& message : player.Messages()) PrintMessage(out, message);
     PrintOutcome({analysis, result, roomBefore.data(), room.data(), dataBefore, data, store}, out);
     if (!store.Save(&error)) return fail();
@@ -147,7 +152,7 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
 
 void PrintOutcome(const Outcome& outcome, std::ostream& out) {
     out << "result: " << outcome.result << " (" << DescribeResult(outcome.result) << ")\n";
-    PrintChanges(out, outcome.analysis.record, *outcome.analysis.fields, outcome.recordBefore,
+    PrintChanges(out, outcome.analysis.record, outcome.analysis.fields, outcome.recordBefore,
                  outcome.record);
     PrintChanges(out, "ZXADLG_DataOptions", kDataFields, &outcome.dataBefore, &outcome.data);
     PrintStore(out, outcome.store);

@@ -9,7 +9,6 @@ namespace {
 
 using enum FieldType;
 using Data = ZXADLG_DataOptions;
-using Normalize = ZXADLG_NormalizeOptions;
 
 #define ZX_FIELD(record, field, type) \
     { #field, type, offsetof(record, field) }
@@ -78,15 +77,6 @@ constexpr Field kDataRows[] = {
     ZX_TEXT(Data, szDepVarSelectionList),
 };
 
-constexpr Field kNormalizeRows[] = {
-    ZX_FIELD(Normalize, eBaselineRegion, kU32),
-    ZX_FIELD(Normalize, ePeakRegion, kU32),
-    ZX_FIELD(Normalize, bUseAllPoints, kU8),
-    ZX_FIELD(Normalize, common.eDestinationOption, kI32),
-    ZX_FIELD(Normalize, common.bDynamicLink, kU8),
-    ZX_FIELD(Normalize, common.bWriteRegionInfo, kU8),
-};
-
 #undef ZX_FIELD
 #undef ZX_TEXT
 #undef ZX_MEMBER
@@ -149,7 +139,6 @@ std::string FormatBytes(const char* at, std::size_t size) {
 }  // namespace
 
 const std::span<const Field> kDataFields = kDataRows;
-const std::span<const Field> kNormalizeFields = kNormalizeRows;
 const std::span<const ParamName> kParamNames = kParamRows;
 
 std::string FormatField(const Field& field, std::size_t index, const void* record) {

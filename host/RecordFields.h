@@ -1,4 +1,5 @@
-// The fields of the records that cross the boundary, by name, for showing and comparing them.
+// Fields of records that cross the boundary, by name, for showing and comparing them; those of the
+// data record, and the bytes of the parameter record.
 #pragma once
 
 #include <cstddef>
@@ -32,7 +33,6 @@ struct FieldValue {
 };
 
 extern const std::span<const Field> kDataFields;
-extern const std::span<const Field> kNormalizeFields;
 
 // Numbers with the fewest digits that give them back, texts in quotes, bytes in hexadecimal.
 std::string FormatField(const Field& field, std::size_t index, const void* record);

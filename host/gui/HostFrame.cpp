@@ -3,12 +3,14 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "Analyses.h"
 #include "HostDataSource.h"
+#include "HostFileSource.h"
 #include "HostWindow.h"
 #include "PlotView.h"
 #include "SettingsStore.h"
@@ -60,8 +62,10 @@ class Frame {
             MessageBoxA(nullptr, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
             return kNoInput;
         }
-        for (const Analysis& analysis : kAnalyses)
+        for (const Analysis& analysis : kAnalyses) {
             recordOf_.emplace_back(analysis.size / sizeof(double) + 1, 0.0);
+            std::memcpy(recordOf_.back().data(), analysis.defaults, analysis.size);
+        }
         dataOf_.resize(kAnalyses.size());
         INITCOMMONCONTROLSEX controls = {sizeof controls,
                                          ICC_LISTVIEW_CLASSES | ICC_PROGRESS_CLASS};
@@ -373,8 +377,9 @@ class Frame {
         const std::vector<double> optionsBefore = options;
         const ZXADLG_DataOptions dataBefore = data;
         HostDataSource source(&recording_, store_.ProfileName());
-        const std::int32_t result = analysis.show(hwnd_, options.data(), &data, &source, &params_);
-        fields_ = CompareRecords(*analysis.fields, optionsBefore.data(), options.data());
+        const std::int32_t result =
+            analysis.show({hwnd_, options.data(), &data, &source, &files_, &params_});
+        fields_ = CompareRecords(analysis.fields, optionsBefore.data(), options.data());
         const std::vector<FieldValue> more = CompareRecords(kDataFields, &dataBefore, &data);
         fields_.insert(fields_.end(), more.begin(), more.end());
         const auto changed = std::count_if(fields_.begin(), fields_.end(),
@@ -422,6 +427,7 @@ class Frame {
     ZXADLG_DlgParams params_;
     Recording recording_;
     SettingsStore store_;
+    HostFileSource files_;
     // The records of each analysis, as its last dialog left them. Doubles make the room fit for
     // every record.
     std::vector<std::vector<double>> recordOf_;

@@ -1,7 +1,9 @@
 // The simulated data and what the dialogs are told of them.
 #include <cmath>
 #include <cstring>
+#include <iterator>
 
+#include "Analyses.h"
 #include "HostDataSource.h"
 #include "MembraneModel.h"
 #include "RecordFields.h"
@@ -160,6 +162,42 @@ TEST(RecordFields, NamesEveryByteOfTheSelectionAndTellsWhatChanged) {
     EXPECT_EQ(changed,
               "aRegions[49].nRegionId 0 -1\neDataSet1SelectionMode 0 3\n"
               "szUnitarySelectionList1 \"\" \"0..4\"\nadConstants[5] 0 0.1\n");
+}
+
+// Bytes of a record that no field of its table shows.
+std::size_t UnseenBytes(std::span<const zxhost::Field> fields, std::size_t size) {
+    std::vector<unsigned char> before(size, 0), after(size, 0);
+    std::size_t unseen = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        after[i] = 1;
+        bool seen = false;
+        for (const zxhost::FieldValue& value :
+             zxhost::CompareRecords(fields, before.data(), after.data()))
+            seen = seen || value.changed;
+        unseen += seen ? 0 : 1;
+        after[i] = 0;
+    }
+    return unseen;
+}
+
+TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
+    struct Row {
+        const char* name;
+        std::size_t padding;
+    };
+    // A common block has two bytes of padding; texts show what stands before their end alone.
+    const Row kRows[] = {{"normalize", 5},        {"time-shift", 2},
+                         {"force-values", 2},     {"adjust-baseline", 2},
+                         {"leak-subtraction", 6}, {"resistance", 2},
+                         {"sampling-rate", 2},    {"current-voltage", 3},
+                         {"trace-vs-trace", 4},   {"subtract-control", 511 + 12 + 1}};
+    EXPECT_EQ(std::size(kRows), zxhost::kAnalyses.size());
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.name);
+        const zxhost::Analysis* analysis = zxhost::FindAnalysis(row.name);
+        ASSERT_NE(analysis, nullptr);
+        EXPECT_EQ(UnseenBytes(analysis->fields, analysis->size), row.padding);
+    }
 }
 
 TEST(RecordFields, SetsParametersByName) {

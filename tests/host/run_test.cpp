@@ -79,6 +79,35 @@ TEST_F(HostRun, PlaysOnEveryKindOfData) {
     }
 }
 
+TEST_F(HostRun, OpensEveryAnalysisAndKeepsItsSettings) {
+    const std::string script = WriteFile("steps.txt", "ok\n");
+    for (const zxhost::Analysis& analysis : zxhost::kAnalyses) {
+        SCOPED_TRACE(analysis.name);
+        const std::string before = ReadFile(Store());
+        EXPECT_EQ(Run({"run", analysis.name, "--script", script, "--store", Store()}), 0) << err;
+        EXPECT_TRUE(OutHas("result: 1 (OK)\n")) << out;
+        EXPECT_NE(ReadFile(Store()), before);
+    }
+}
+
+TEST_F(HostRun, ShowsEveryAnalysisReadOnly) {
+    const std::string script = WriteFile("steps.txt", "expect hidden 1\ncancel\n");
+    for (const zxhost::Analysis& analysis : zxhost::kAnalyses) {
+        SCOPED_TRACE(analysis.name);
+        EXPECT_EQ(
+            Run({"run", analysis.name, "--script", script, "--store", Store(), "--read-only"}), 0)
+            << err;
+    }
+    EXPECT_FALSE(std::filesystem::exists(Store()));
+}
+
+TEST_F(HostRun, LetsTheUserPickAControlFile) {
+    const std::string script = WriteFile("steps.txt", "click \"Select File\"\nok\n");
+    EXPECT_EQ(Run({"run", "subtract-control", "--script", script, "--store", Store()}), 0) << err;
+    EXPECT_TRUE(OutHas("  szSubtractFileName: \"\" -> \"control-1.dat\"\n")) << out;
+    EXPECT_TRUE(OutHas("  nFileID: 0 -> 1\n")) << out;
+}
+
 TEST_F(HostRun, AFailedStepTellsItsLineAndLeavesNothing) {
     const std::string script = scratch.File("steps.txt");
     EXPECT_EQ(Play("click 2362\n\nexpect disabled 2364\nok\n"), zxhost::kScriptFailed);
