@@ -108,8 +108,8 @@ class ZXADLG_CLASS ZXADLG_CDlgDataSource {
 
     // Name of the store for the settings; null switches persistence off.
     virtual const char* GetProfileName() = 0;
-    // The x and y values of a set under a range. y values are always asked for with bUseFullRange
-    // set.
+    // The x and y values of a set under a range. y values are asked for with bUseFullRange set,
+    // but for the extent over a range of rows.
     virtual const double* GetXValues(uint32_t group, uint32_t set, const ZXADLG_DataRange* range,
                                      uint32_t reserved) = 0;
     virtual const double* GetYValues(uint32_t group, uint32_t set, const ZXADLG_DataRange* range,

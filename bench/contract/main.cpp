@@ -102,7 +102,10 @@ int main() {
     };
     bool bGood = PrintTiming("extent of 100 million points against a pure read",
                              TimeInTurn(15, ours, peer), 1.2);
-    if (dMin < 0 || dMax < 1000) bGood = false;
+    if (dMin < 0 || dMax < 1000) {
+        std::printf("the extent is wrong: %g to %g\n", dMin, dMax);
+        bGood = false;
+    }
     pSource->bCached = true;
     nRepeats = 50;
     bGood =

@@ -176,6 +176,26 @@ TEST_F(TabbedBase, BadPageComesUpAtOk) {
     EXPECT_EQ(ShowUnitary(script), 1);
 }
 
+TEST_F(TabbedBase, SourceThatAnswersNothingOpensEveryForm) {
+    source.NullTexts().NullArrays();
+    const std::vector<UINT> forms = {IDD_UNITARY_DATA, IDD_UNITARY_DATA_DUAL,
+                                     IDD_PAIRED_SIX_VARIABLES, IDD_PAIRED_ONE_VARIABLE,
+                                     IDD_PAIRED_LIST};
+    for (const std::uint32_t kind : {0u, 1u, 2u}) {
+        for (const std::uint32_t groups : {0u, 2u}) {
+            for (const UINT form : forms) {
+                SCOPED_TRACE(std::to_string(kind) + " " + std::to_string(groups) + " " +
+                             std::to_string(form));
+                source.Kind(kind).Groups(std::vector<std::string>(groups, "")).Sets(3).Points(0);
+                DialogScript script;
+                script.SelectTab("Data").Click(IDCANCEL);
+                const bool unitary = form == IDD_UNITARY_DATA || form == IDD_UNITARY_DATA_DUAL;
+                EXPECT_EQ(unitary ? ShowUnitary(script, form) : ShowPaired(script, form), 2);
+            }
+        }
+    }
+}
+
 // --- The options page
 
 TEST_F(TabbedBase, OptionsPageShowsAndStoresTheSharedOptions) {
