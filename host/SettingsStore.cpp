@@ -192,6 +192,8 @@ bool SettingsStore::Open(const std::string& path, std::string* error) {
     }
     SetEnvironmentVariableA(kRootVariable, root_.c_str());
     open_ = true;
+    // A run that was killed may have left a branch of this name behind.
+    if (temporary_) RegDeleteTreeA(HKEY_CURRENT_USER, ("Software\\" + root_).c_str());
     for (const auto& [section, values] : settings) {
         if (WriteSection(Key() + "\\" + section, values)) continue;
         *error = path + ": the settings cannot be kept in the registry";

@@ -203,6 +203,29 @@ TEST_F(HostRun, AStoreKeepsWhatOthersPutThere) {
     EXPECT_EQ(zxhost::FormatSettings(own.Read()), "");
 }
 
+TEST_F(HostRun, WhatAKilledRunLeftIsNotFound) {
+    std::string error;
+    std::string root(64, '\0');
+    {
+        zxhost::SettingsStore probe;
+        ASSERT_TRUE(probe.Open(scratch.File("a.ini"), &error)) << error;
+        root.resize(GetEnvironmentVariableA("ZDC_REGISTRY_ROOT", root.data(), 64));
+    }
+    // The next run has the next number.
+    const std::size_t dash = root.rfind('-') + 1;
+    const std::string branch =
+        "Software\\" + root.substr(0, dash) + std::to_string(std::stoi(root.substr(dash)) + 1);
+    HKEY key = nullptr;
+    ASSERT_EQ(RegCreateKeyExA(HKEY_CURRENT_USER, (branch + "\\zxhost\\Old").c_str(), 0, nullptr, 0,
+                              KEY_SET_VALUE, nullptr, &key, nullptr),
+              ERROR_SUCCESS);
+    RegSetValueExA(key, "x", 0, REG_SZ, reinterpret_cast<const BYTE*>("1"), 2);
+    RegCloseKey(key);
+    zxhost::SettingsStore store;
+    ASSERT_TRUE(store.Open(scratch.File("b.ini"), &error)) << error;
+    EXPECT_EQ(zxhost::FormatSettings(store.Read()), "");
+}
+
 TEST_F(HostRun, AWrongCommandLineIsTold) {
     const auto wrong = [this](const std::vector<std::string>& arguments) {
         EXPECT_EQ(Run(arguments), zxhost::kWrongUsage);
