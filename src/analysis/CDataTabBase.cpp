@@ -26,8 +26,7 @@ class TopIndexScope {
 
 }  // namespace
 
-// --- Controls
-// -------------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CDataTabBase::CDataTabBase(UINT uTemplateId, CDataOptionsInterface* pData, bool bReadOnly)
     : ADM_TabSubDialog(GetFrameworkInstance(), MAKEINTRESOURCEA(uTemplateId),
@@ -64,8 +63,7 @@ BOOL CDataTabBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     return bResult;
 }
 
-// --- Display
-// --------------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 void CDataTabBase::FillLists(std::uint32_t uGroup) {
     m_lstSets.Fill(uGroup, m_pData->GetDataSource(), false);
@@ -155,16 +153,14 @@ void CDataTabBase::ShowListText(const std::vector<std::int32_t>& vItems) {
     m_txtList.SetWindowText(szText);
 }
 
-// --- Enabling
-// -------------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void CDataTabBase::SetDisabled(bool bDisabled) {
     m_bDisabled = bDisabled;
     for (ADM_Wnd* pControl : m_vControls) pControl->Enable(!bDisabled);
 }
 
-// --- Storing
-// --------------------------------------------------------------------------------------
+// --- Storing ---------------------------------------------------------------------------------
 
 // The items that the edit names; the user counts from 1.
 std::vector<std::int32_t> CDataTabBase::ParseEdit() {
@@ -209,8 +205,7 @@ void CDataTabBase::WriteListSelection(int eMode) {
     ShowListText(vItems);
 }
 
-// --- Events
-// ---------------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CDataTabBase::ChangeGroup() {
     const int nItem = m_cmbGroup.GetCurSel();

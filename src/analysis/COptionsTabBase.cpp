@@ -8,8 +8,7 @@
 #include "ids.h"
 #include "support/Framework.h"
 
-// --- Controls
-// -------------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 COptionsTabBase::COptionsTabBase(CAnalysisOptionsInterfaceBase* pOptions,
                                  const ZXADLG_DlgParams* pParams, UINT uTemplateId,
@@ -47,8 +46,7 @@ BOOL COptionsTabBase::FinishInitialization() {
     return TRUE;
 }
 
-// --- Display
-// --------------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 void COptionsTabBase::ShowSharedOptions() {
     const UpdateScope updating(m_bUpdating);
@@ -68,8 +66,7 @@ BOOL COptionsTabBase::OnPageShow() {
     return ADM_TabSubDialog::OnPageShow();
 }
 
-// --- Enabling
-// -------------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void COptionsTabBase::ApplyVisibility() {
     const int nDestination = m_pParams->bShowDestination != 0 ? SW_SHOW : SW_HIDE;
@@ -88,8 +85,7 @@ BOOL COptionsTabBase::CanLeavePage() {
     return TRUE;
 }
 
-// --- Events
-// ---------------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void COptionsTabBase::On(ADM_Wnd* pControl, int nCode, EventTable::Step step) {
     m_events.On(pControl, nCode, std::move(step));

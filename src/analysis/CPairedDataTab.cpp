@@ -20,8 +20,7 @@ constexpr int kSigDigits = 5;
 
 }  // namespace
 
-// --- Controls
-// -------------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CPairedDataTab::CPairedDataTab(CDataOptionsInterface* pData, UINT uTemplateId, bool bDepList,
                                bool bReadOnly)
@@ -59,8 +58,7 @@ BOOL CPairedDataTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     return bResult;
 }
 
-// --- Display
-// --------------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 BOOL CPairedDataTab::OnPageShow() {
     const BOOL bResult = CDataTabBase::OnPageShow();
@@ -187,8 +185,7 @@ void CPairedDataTab::CorrectRange() {
     m_txtTo.SetValue(static_cast<int>(m_pData->GetLastDataIndex() + 1));
 }
 
-// --- Enabling
-// -------------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void CPairedDataTab::EnableRange() {
     const BOOL bRange = m_chkAll.GetCheck() != BST_CHECKED && !m_bDisabled;
@@ -216,8 +213,7 @@ void CPairedDataTab::SetDisabled(bool bDisabled) {
     if (!bDisabled && m_hWnd != nullptr) ShowAll();
 }
 
-// --- Assigning
-// ------------------------------------------------------------------------------------
+// --- Assigning -------------------------------------------------------------------------------
 
 int CPairedDataTab::CurrentColumn() {
     const std::vector<std::int32_t> vSelected = GetActiveList().GetSelection();
@@ -294,8 +290,7 @@ void CPairedDataTab::ShowDependentName(const std::vector<std::int32_t>& vColumns
     m_lblDependent.SetArg(0, szText);
 }
 
-// --- Checking and storing
-// -------------------------------------------------------------------------
+// --- Checking and storing --------------------------------------------------------------------
 
 bool CPairedDataTab::CheckRange(bool bReport) {
     if (m_chkAll.GetCheck() == BST_CHECKED || m_pData->GetFlags().bUseStoredInfo != 0) return true;
@@ -339,8 +334,7 @@ void CPairedDataTab::StoreListMode() {
     if (m_bReady) m_pData->Notify(kNotifyDataSelectionChanged);
 }
 
-// --- Events
-// ---------------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CPairedDataTab::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     CDataTabBase::Notify(pSender, nId, nCode, nData);

@@ -35,8 +35,7 @@ constexpr const char* kGroupCaptions[] = {"A&ll visible %ss",
 
 }  // namespace
 
-// --- Controls
-// -------------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CUnitaryDataTab::CUnitaryDataTab(CDataOptionsInterface* pData, UINT uTemplateId, bool bReadOnly)
     : CDataTabBase(uTemplateId, pData, bReadOnly) {
@@ -82,8 +81,7 @@ void CUnitaryDataTab::CloseGroupGap() {
     }
 }
 
-// --- Display
-// --------------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 int CUnitaryDataTab::GetSetMode() {
     return m_radSets.GetValue();
@@ -185,8 +183,7 @@ BOOL CUnitaryDataTab::OnPageShow() {
     return bResult;
 }
 
-// --- Enabling
-// -------------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void CUnitaryDataTab::EnableByMode(int eMode) {
     const bool bList = eMode == Model::kListedSets && !m_bDisabled;
@@ -266,8 +263,7 @@ void CUnitaryDataTab::ApplyGroupMode() {
     m_eGroupMode = eMode;
 }
 
-// --- Storing and checking
-// -------------------------------------------------------------------------
+// --- Storing and checking --------------------------------------------------------------------
 
 void CUnitaryDataTab::ReadControls() {
     CDataTabBase::ReadControls();
@@ -283,8 +279,7 @@ BOOL CUnitaryDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
     return CDataTabBase::Validate(bSilent, ppFailed);
 }
 
-// --- Events
-// ---------------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CUnitaryDataTab::AfterTool() {
     WriteListSelection(GetSetMode());

@@ -8,8 +8,7 @@
 #include "ids.h"
 #include "support/Framework.h"
 
-// --- Controls
-// -------------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CUntabbedDialogBase::CUntabbedDialogBase(HWND hwndParent, UINT uTemplateId,
                                          ZXADLG_CDlgDataSource* pSource,
@@ -39,8 +38,7 @@ BOOL CUntabbedDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     return bResult;
 }
 
-// --- Display
-// --------------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 void CUntabbedDialogBase::ShowSharedOptions() {
     if (m_pOptions == nullptr) return;
@@ -49,8 +47,7 @@ void CUntabbedDialogBase::ShowSharedOptions() {
     m_chkDynamicLink.SetCheck(m_pOptions->GetDynamicLink() ? BST_CHECKED : BST_UNCHECKED);
 }
 
-// --- Events
-// ---------------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CUntabbedDialogBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     ADM_Dialog::Notify(pSender, nId, nCode, nData);

@@ -36,8 +36,9 @@ class EventTable {
     std::vector<Row> m_vRows;
 };
 
-// The events of a single-page dialog. Nothing runs before the dialog is ready or while it shows values. In
-// read-only mode every event shows the record again and gives the focus to the Cancel button.
+// The events of a single-page dialog. Nothing runs before the dialog is ready or while it shows
+// values. In read-only mode every event shows the record again and gives the focus to the Cancel
+// button.
 class EditEvents {
   public:
     using Step = EventTable::Step;

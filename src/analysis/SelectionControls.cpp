@@ -38,8 +38,7 @@ void SelectButton(ADM_RadioButtons& radButtons, int nIndex) {
     radButtons.SetSelected(nIndex >= 0 && nIndex < radButtons.GetCount() ? nIndex : 0);
 }
 
-// --- Groups
-// ---------------------------------------------------------------------------------------
+// --- Groups ----------------------------------------------------------------------------------
 
 void CZxDlgGroupCombo::Fill(ZXADLG_CDlgDataSource* pSource, bool bAll) {
     ResetContent();
@@ -66,8 +65,7 @@ void CZxDlgGroupListBox::Fill(ZXADLG_CDlgFileSource* pSource) {
     SetCurSel(0);
 }
 
-// --- Sets
-// -----------------------------------------------------------------------------------------
+// --- Sets ------------------------------------------------------------------------------------
 
 void CZxDlgSetListBox::Fill(std::uint32_t uGroup, ZXADLG_CDlgDataSource* pSource, bool bNumbered) {
     if (m_hWnd == nullptr) return;
@@ -191,8 +189,7 @@ void CZxDlgDataSetCombo::Fill(std::uint32_t uGroup, ZXADLG_CDlgDataSource* pSour
     SetCurSel(0);
 }
 
-// --- Regions
-// --------------------------------------------------------------------------------------
+// --- Regions ---------------------------------------------------------------------------------
 
 void CZxDlgRegionCombo::Fill(ZXADLG_CDlgDataSource* pSource) {
     ResetContent();
@@ -218,8 +215,7 @@ void CZxDlgRegionCombo::SelectById(int nRegionId) {
     if (SelectData(0, nRegionId) < 0) SetCurSel(0);
 }
 
-// --- Waveforms and epochs
-// -------------------------------------------------------------------------
+// --- Waveforms and epochs --------------------------------------------------------------------
 
 void CZxDlgWaveformCombo::Fill(ZXADLG_CDlgDataSource* pSource) {
     ResetContent();
@@ -291,8 +287,7 @@ void CZxDlgFixedEpochCombo::SelectByCode(int nCode) {
     }
 }
 
-// --- Conversion factors
-// ---------------------------------------------------------------------------
+// --- Conversion factors ----------------------------------------------------------------------
 
 namespace {
 

@@ -59,8 +59,7 @@ bool CDataOptionsInterface::IsSheetData() const {
     return m_pSource->GetDataKind() == kSheetData;
 }
 
-// --- The selection
-// --------------------------------------------------------------------------------
+// --- The selection ---------------------------------------------------------------------------
 
 int CDataOptionsInterface::GetDataGroupSelectionMode(int n) const {
     return n == 1 ? m_pRecord->eDataGroup2SelectionMode : m_pRecord->eDataGroup1SelectionMode;
@@ -130,8 +129,7 @@ void CDataOptionsInterface::SetDependentName(const char* szName) {
     CopyText(m_szDependentName.data(), static_cast<int>(m_szDependentName.size()), szName);
 }
 
-// --- Features that the flags allow
-// ----------------------------------------------------------------
+// --- Features that the flags allow -----------------------------------------------------------
 
 bool CDataOptionsInterface::AllowsRegion() const {
     return m_pFlags->bAllowRegion != 0 && IsFileData();
@@ -164,8 +162,7 @@ bool CDataOptionsInterface::GetForceToZero() const {
     return AllowsForceToZero() && m_pRecord->bForceExcludedRegionToZero != 0;
 }
 
-// --- Questions
-// ------------------------------------------------------------------------------------
+// --- Questions -------------------------------------------------------------------------------
 
 std::uint32_t CDataOptionsInterface::GetGroup() const {
     if (IsSheetData()) return m_pRecord->uPairedGroupIndex;
@@ -281,8 +278,7 @@ std::uint32_t CDataOptionsInterface::GetActiveSetForGroup() const {
     return IsFileData() ? m_pSource->GetActiveSet(GetGroup()) : 0;
 }
 
-// --- The extent of y values
-// -----------------------------------------------------------------------
+// --- The extent of y values ------------------------------------------------------------------
 
 bool CDataOptionsInterface::ListGroups(std::vector<std::uint32_t>& vGroups) const {
     if (IsSheetData()) {

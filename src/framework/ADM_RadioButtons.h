@@ -35,8 +35,8 @@ class ADM_RadioButtons : public ADM_Wnd {
     // The same with the nValues values of type int behind nValues.
     BOOL SetupValues(ADM_Dialog* pDialog, int nFirstId, int nLastId, int nValues, ...);
 
-    // The same for buttons whose ids do not follow each other, in the order of pnIds; pnValues may be
-    // null.
+    // The same for buttons whose ids do not follow each other, in the order of pnIds; pnValues may
+    // be null.
     BOOL SetupIds(ADM_Dialog* pDialog, int nButtons, const int* pnIds, const int* pnValues);
 
     // Indices count from 0 and an index beyond the set is ignored.

@@ -230,8 +230,7 @@ UINT CZDMsgDialog::ShowSevereFailure() const {
     return kMessageSevereFailure;
 }
 
-// --- The dialog
-// -----------------------------------------------------------------------------------
+// --- The dialog ------------------------------------------------------------------------------
 
 INT_PTR CALLBACK CZDMsgDialog::DialogProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
     if (uMsg == WM_INITDIALOG) {
@@ -352,8 +351,7 @@ void CZDMsgDialog::OnInitDialog(HWND hWnd) {
     SetFocus(m_aButtons[m_nDefaultButton].hWnd);
 }
 
-// --- The free functions
-// ---------------------------------------------------------------------------
+// --- The free functions ----------------------------------------------------------------------
 
 UINT ShowMessage(HWND hOwner, LPCSTR szText, UINT uFlags, std::initializer_list<LPCSTR> args) {
     return ShowMessageTimed(hOwner, static_cast<UINT>(-1), szText, uFlags, args);

@@ -11,8 +11,7 @@ constexpr LONG kRowUnits = 18;  // from the third method down to the fourth
 
 }  // namespace
 
-// --- Options tab: controls
-// ------------------------------------------------------------------------
+// --- Options tab: controls -------------------------------------------------------------------
 
 CAdjustBaselineOptionsTab::CAdjustBaselineOptionsTab(CAdjustBaselineOptionsInterface* pOptions,
                                                      const ZXADLG_DlgParams* pParams,
@@ -45,8 +44,7 @@ BOOL CAdjustBaselineOptionsTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lPar
     return FinishInitialization();
 }
 
-// --- Options tab: display
-// -------------------------------------------------------------------------
+// --- Options tab: display --------------------------------------------------------------------
 
 void CAdjustBaselineOptionsTab::ShowOptions() {
     SelectButton(m_radMode, m_pAdjust->GetMode());
@@ -68,8 +66,7 @@ void CAdjustBaselineOptionsTab::WithholdManualMethod() {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// --- Options tab: enabling
-// ------------------------------------------------------------------------
+// --- Options tab: enabling -------------------------------------------------------------------
 
 void CAdjustBaselineOptionsTab::EnableFields() {
     const int eMode = m_radMode.GetSelected();
@@ -77,8 +74,7 @@ void CAdjustBaselineOptionsTab::EnableFields() {
     m_cmbRegion.Enable(eMode == kMean || eMode == kSlope);
 }
 
-// --- Dialog
-// ---------------------------------------------------------------------------------------
+// --- Dialog ----------------------------------------------------------------------------------
 
 CAdjustBaselineDialog::CAdjustBaselineDialog(HWND hwndParent,
                                              ZXADLG_AdjustBaselineOptions* pOptions,

@@ -16,7 +16,7 @@ constexpr int kCurrentPeak = 2;
 
 }  // namespace
 
-// --- Controls -------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CCurrentVoltageDialog::CCurrentVoltageDialog(HWND hwndParent,
                                              ZXADLG_CurrentVoltageOptions* pOptions,
@@ -65,7 +65,7 @@ BOOL CCurrentVoltageDialog::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) 
     return bResult;
 }
 
-// --- Display --------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 void CCurrentVoltageDialog::ShowLabels() {
     const char* szGroup = m_pSource->GetGroupLabel();
@@ -99,7 +99,7 @@ void CCurrentVoltageDialog::ShowOptions() {
     EnableSmoothing();
 }
 
-// --- Enabling -------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void CCurrentVoltageDialog::EnableX() {
     m_cmbXGroup.Enable(m_radVoltage.GetSelected() == kVoltageFromGroup);
@@ -123,7 +123,7 @@ void CCurrentVoltageDialog::EnableSmoothing() {
     m_spnSmoothing.Enable(bSmooth);
 }
 
-// --- Events ---------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CCurrentVoltageDialog::BindEvents() {
     m_events.On(&m_radVoltage, ADMN_CLICKED, [this] {

@@ -12,8 +12,7 @@ constexpr int kFixedValue = 4;
 
 }  // namespace
 
-// --- Options tab: controls
-// ------------------------------------------------------------------------
+// --- Options tab: controls -------------------------------------------------------------------
 
 CForceValuesOptionsTab::CForceValuesOptionsTab(CForceValuesOptionsInterface* pOptions,
                                                const ZXADLG_DlgParams* pParams,
@@ -42,8 +41,7 @@ BOOL CForceValuesOptionsTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam)
     return FinishInitialization();
 }
 
-// --- Options tab: display
-// -------------------------------------------------------------------------
+// --- Options tab: display --------------------------------------------------------------------
 
 void CForceValuesOptionsTab::ShowOptions() {
     m_cmbRegion.SelectById(m_pForce->GetRegion());
@@ -61,15 +59,13 @@ void CForceValuesOptionsTab::ShowUnits() {
     m_radMode.SetButtonText(kFixedValue, szCaption);
 }
 
-// --- Options tab: enabling
-// ------------------------------------------------------------------------
+// --- Options tab: enabling -------------------------------------------------------------------
 
 void CForceValuesOptionsTab::EnableFixedValue() {
     m_txtFixedValue.Enable(m_radMode.GetSelected() == kFixedValue);
 }
 
-// --- Dialog
-// ---------------------------------------------------------------------------------------
+// --- Dialog ----------------------------------------------------------------------------------
 
 CForceValuesDialog::CForceValuesDialog(HWND hwndParent, ZXADLG_ForceValuesOptions* pOptions,
                                        ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,

@@ -2,8 +2,7 @@
 
 #include "ids.h"
 
-// --- Options tab: controls
-// ------------------------------------------------------------------------
+// --- Options tab: controls -------------------------------------------------------------------
 
 CLeakSubtractionOptionsTab::CLeakSubtractionOptionsTab(CLeakSubtractOptionsInterface* pOptions,
                                                        const ZXADLG_DlgParams* pParams,
@@ -30,8 +29,7 @@ BOOL CLeakSubtractionOptionsTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lPa
     return FinishInitialization();
 }
 
-// --- Options tab: display
-// -------------------------------------------------------------------------
+// --- Options tab: display --------------------------------------------------------------------
 
 void CLeakSubtractionOptionsTab::ShowOptions() {
     m_txtResistance.SetValue(m_pLeak->GetPassiveResistance());
@@ -39,8 +37,7 @@ void CLeakSubtractionOptionsTab::ShowOptions() {
     m_cmbWaveform.SelectByValue(m_pLeak->GetWaveformIndex());
 }
 
-// --- Dialog
-// ---------------------------------------------------------------------------------------
+// --- Dialog ----------------------------------------------------------------------------------
 
 CLeakSubtractionDialog::CLeakSubtractionDialog(HWND hwndParent,
                                                ZXADLG_LeakSubtractionOptions* pOptions,

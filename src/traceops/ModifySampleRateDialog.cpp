@@ -16,7 +16,7 @@ constexpr int kNoteDigits = 15;
 
 }  // namespace
 
-// --- Controls -------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CModifySampleRateDialog::CModifySampleRateDialog(HWND hwndParent,
                                                  ZXADLG_ModifySampleRateOptions* pOptions,
@@ -72,7 +72,7 @@ BOOL CModifySampleRateDialog::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam
     return bResult;
 }
 
-// --- Display --------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 void CModifySampleRateDialog::ShowOptions() {
     m_txtReduceFactor.SetValue(m_pOptions->GetReduceFactor());
@@ -108,7 +108,7 @@ void CModifySampleRateDialog::ShowNote() {
     m_lblNote.SetArg(4, kMicroseconds);
 }
 
-// --- Enabling -------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void CModifySampleRateDialog::EnableMethods() {
     const BOOL bReduction = IsReduction();
@@ -122,7 +122,7 @@ void CModifySampleRateDialog::EnableMethods() {
     m_radInterpolation.Enable(!bReduction);
 }
 
-// --- Events ---------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CModifySampleRateDialog::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     ADM_Dialog::Notify(pSender, nId, nCode, nData);

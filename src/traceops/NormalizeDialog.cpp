@@ -2,8 +2,7 @@
 
 #include "ids.h"
 
-// --- Options tab: controls
-// ------------------------------------------------------------------------
+// --- Options tab: controls -------------------------------------------------------------------
 
 CNormalizeOptionsTab::CNormalizeOptionsTab(CNormalizeOptionsInterface* pOptions,
                                            const ZXADLG_DlgParams* pParams,
@@ -47,8 +46,7 @@ BOOL CNormalizeOptionsTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     return FinishInitialization();
 }
 
-// --- Options tab: display
-// -------------------------------------------------------------------------
+// --- Options tab: display --------------------------------------------------------------------
 
 void CNormalizeOptionsTab::ShowOptions() {
     m_cmbBaseline.SelectById(m_pNormalize->GetBaselineRegion());
@@ -72,8 +70,7 @@ BOOL CNormalizeOptionsTab::OnPageShow() {
     return COptionsTabBase::OnPageShow();
 }
 
-// --- Options tab: enabling
-// ------------------------------------------------------------------------
+// --- Options tab: enabling -------------------------------------------------------------------
 
 void CNormalizeOptionsTab::EnableRegions() {
     const BOOL bRegions = m_radMethod.GetValue() != 0;
@@ -85,8 +82,7 @@ void CNormalizeOptionsTab::EnableRegions() {
     }
 }
 
-// --- Dialog
-// ---------------------------------------------------------------------------------------
+// --- Dialog ----------------------------------------------------------------------------------
 
 CNormalizeDialog::CNormalizeDialog(HWND hwndParent, ZXADLG_NormalizeOptions* pOptions,
                                    ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,

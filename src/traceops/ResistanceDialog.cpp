@@ -9,8 +9,7 @@ constexpr std::uint32_t kCurrentClamp = 1;
 
 }  // namespace
 
-// --- Options tab: controls
-// ------------------------------------------------------------------------
+// --- Options tab: controls -------------------------------------------------------------------
 
 CResistanceOptionsTab::CResistanceOptionsTab(CResistanceOptionsInterface* pOptions,
                                              const ZXADLG_DlgParams* pParams,
@@ -39,8 +38,7 @@ BOOL CResistanceOptionsTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) 
     return FinishInitialization();
 }
 
-// --- Options tab: display
-// -------------------------------------------------------------------------
+// --- Options tab: display --------------------------------------------------------------------
 
 void CResistanceOptionsTab::ShowOptions() {
     // Required: the box is not emptied first, so that in read-only mode it grows with every event.
@@ -56,8 +54,7 @@ void CResistanceOptionsTab::AddExperimentType(UINT uStringId, std::uint32_t uTyp
     m_cmbExperimentType.SetItemData(nItem, static_cast<LPARAM>(uType));
 }
 
-// --- Dialog
-// ---------------------------------------------------------------------------------------
+// --- Dialog ----------------------------------------------------------------------------------
 
 CResistanceDialog::CResistanceDialog(HWND hwndParent, ZXADLG_ResistanceOptions* pOptions,
                                      ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,

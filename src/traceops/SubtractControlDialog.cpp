@@ -8,7 +8,7 @@
 #include "support/Framework.h"
 #include "support/MessageDialog.h"
 
-// --- Record ---------------------------------------------------------------------------------
+// --- Record ----------------------------------------------------------------------------------
 
 void CSubtractControlOptionsInterface::SetFileName(const char* szPath) {
     CopyText(m_pRecord->szSubtractFileName, szPath);
@@ -25,7 +25,7 @@ void CSubtractControlOptionsInterface::SetSignals(const std::vector<std::int32_t
     SetSignalCount(nCount);
 }
 
-// --- Controls -------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CSubtractControlDialog::CSubtractControlDialog(HWND hwndParent,
                                                ZXADLG_SubtractControlOptions* pOptions,
@@ -76,7 +76,7 @@ BOOL CSubtractControlDialog::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam)
     return bResult;
 }
 
-// --- Display --------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 void CSubtractControlDialog::ShowOptions() {
     m_chkMultiplier.SetCheck(m_options.GetUseMultiplier() ? BST_CHECKED : BST_UNCHECKED);
@@ -107,13 +107,13 @@ void CSubtractControlDialog::ShowSignals() {
     for (int i = 0; i < nCount; ++i) m_lstSignals.SelectItem(m_options.GetSignal(i));
 }
 
-// --- Enabling -------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void CSubtractControlDialog::EnableMultiplier() {
     m_txtMultiplier.Enable(m_chkMultiplier.GetCheck() == BST_CHECKED);
 }
 
-// --- Storing --------------------------------------------------------------------------------
+// --- Storing ---------------------------------------------------------------------------------
 
 void CSubtractControlDialog::StoreSignals() {
     m_options.SetSignals(m_lstSignals.GetSelection());
@@ -128,7 +128,7 @@ void CSubtractControlDialog::SelectFile() {
     FillSignals();
 }
 
-// --- Events ---------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CSubtractControlDialog::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     ADM_Dialog::Notify(pSender, nId, nCode, nData);

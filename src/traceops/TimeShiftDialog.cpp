@@ -5,8 +5,7 @@
 #include "ZXADLG.h"
 #include "ids.h"
 
-// --- Options tab: controls
-// ------------------------------------------------------------------------
+// --- Options tab: controls -------------------------------------------------------------------
 
 CTimeShiftOptionsTab::CTimeShiftOptionsTab(CTimeShiftOptionsInterface* pOptions,
                                            const ZXADLG_DlgParams* pParams,
@@ -62,8 +61,7 @@ BOOL CTimeShiftOptionsTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     return FinishInitialization();
 }
 
-// --- Options tab: display
-// -------------------------------------------------------------------------
+// --- Options tab: display --------------------------------------------------------------------
 
 void CTimeShiftOptionsTab::ShowOptions() {
     SelectButton(m_radAlignment, m_pShift->GetAlignmentMode());
@@ -99,8 +97,7 @@ void CTimeShiftOptionsTab::CaptionGroup() {
     }
 }
 
-// --- Options tab: enabling
-// ------------------------------------------------------------------------
+// --- Options tab: enabling -------------------------------------------------------------------
 
 void CTimeShiftOptionsTab::EnableByAlignment() {
     const BOOL bShift = ShiftsByInterval();
@@ -123,8 +120,7 @@ void CTimeShiftOptionsTab::EnableByValue() {
     m_cmbValueRegion.Enable(bShift && m_radValue.GetSelected() == 1);
 }
 
-// --- Dialog
-// ---------------------------------------------------------------------------------------
+// --- Dialog ----------------------------------------------------------------------------------
 
 CTimeShiftDialog::CTimeShiftDialog(HWND hwndParent, ZXADLG_TimeShiftOptions* pOptions,
                                    ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,

@@ -12,7 +12,7 @@ constexpr int kFromGroup = 1;
 
 }  // namespace
 
-// --- Controls -------------------------------------------------------------------------------
+// --- Controls --------------------------------------------------------------------------------
 
 CTraceVsTraceDialog::CTraceVsTraceDialog(HWND hwndParent, ZXADLG_TraceVsTraceOptions* pOptions,
                                          ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
@@ -68,7 +68,7 @@ void CTraceVsTraceDialog::FillAxis(const AxisControls& controls) {
     controls.cmbGroup.Fill(m_pSource, true);
 }
 
-// --- Display --------------------------------------------------------------------------------
+// --- Display ---------------------------------------------------------------------------------
 
 void CTraceVsTraceDialog::ShowLabels() {
     const char* szGroup = m_pSource->GetGroupLabel();
@@ -116,7 +116,7 @@ void CTraceVsTraceDialog::ShowSets(const AxisControls& controls) {
     if (!bInside) m_pTraces->SetSet(controls.axis, 0);
 }
 
-// --- Enabling -------------------------------------------------------------------------------
+// --- Enabling --------------------------------------------------------------------------------
 
 void CTraceVsTraceDialog::EnableAxis(const AxisControls& controls) {
     const int nSource = controls.radSource.GetSelected();
@@ -124,7 +124,7 @@ void CTraceVsTraceDialog::EnableAxis(const AxisControls& controls) {
     controls.cmbGroup.Enable(nSource == kFromGroup);
 }
 
-// --- Events ---------------------------------------------------------------------------------
+// --- Events ----------------------------------------------------------------------------------
 
 void CTraceVsTraceDialog::BindEvents() {
     BindAxis(XControls());

@@ -87,7 +87,7 @@ DialogScript& DialogScript::AddForNewDialog(const std::string& name, Where where
     return *this;
 }
 
-// --- Input ---
+// --- Input -----------------------------------------------------------------------------------
 
 HWND DialogScript::Control(HWND dialog, int id, bool forInput) {
     HWND control = FindControl(dialog, id);
@@ -329,7 +329,7 @@ DialogScript& DialogScript::CloseByFrame(Where where) {
     });
 }
 
-// --- Dialogs on top ---
+// --- Dialogs on top --------------------------------------------------------------------------
 
 DialogScript& DialogScript::Answer(int answer, Where where) {
     return AddForNewDialog(
@@ -368,7 +368,7 @@ DialogScript& DialogScript::EnterDialog(Where where) {
     });
 }
 
-// --- Waiting ---
+// --- Waiting ---------------------------------------------------------------------------------
 
 DialogScript& DialogScript::WaitUntil(std::function<bool()> condition, Where where) {
     return Add("WaitUntil", where, [condition](DialogScript& script, HWND) {
@@ -389,7 +389,7 @@ bool DialogScript::StepIsLate() const {
     return GetTickCount() - stepTime_ > kStepLimit;
 }
 
-// --- Running ---
+// --- Running ---------------------------------------------------------------------------------
 
 void DialogScript::Begin(Where where) {
     running_ = {"start", where, nullptr, false};

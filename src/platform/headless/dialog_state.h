@@ -33,19 +33,19 @@ HWND CreateDialogFrom(HINSTANCE instance, const std::uint8_t* data, std::size_t 
                       DLGPROC proc, LPARAM param, bool modal);
 INT_PTR RunDialog(HWND dialog, HWND owner);
 
-// --- The default button ---
+// --- The default button ----------------------------------------------------------------------
 UINT DialogCode(HWND control);
 HWND ShownDefaultButton(HWND dialog);
 // After the focus went to `control`: its button becomes the default one, or the dialog's own again.
 void ShowDefaultFor(HWND dialog, HWND control);
 void ChangeDefaultId(HWND dialog, DialogState& state, int id);
 
-// --- Focus ---
+// --- Focus -----------------------------------------------------------------------------------
 // Gives a control the focus as the keyboard does, the text of an edit selected.
 void FocusByKey(HWND control);
 HWND FirstTabStop(HWND dialog);
 
-// --- Mnemonics ---
+// --- Mnemonics -------------------------------------------------------------------------------
 // True when the character belonged to a control of the dialog.
 bool PressMnemonic(HWND dialog, HWND from, int character);
 

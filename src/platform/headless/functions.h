@@ -6,8 +6,7 @@
 #include "platform/headless/constants.h"
 #include "platform/headless/types.h"
 
-// --- Window classes
-// -------------------------------------------------------------------------------
+// --- Window classes --------------------------------------------------------------------------
 ATOM RegisterClassA(const WNDCLASSA* wc);
 BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance);
 BOOL GetClassInfoA(HINSTANCE instance, LPCSTR className, WNDCLASSA* wc);
@@ -15,8 +14,7 @@ int GetClassNameA(HWND hwnd, LPSTR buffer, int size);
 ULONG_PTR GetClassLongPtrA(HWND hwnd, int index);
 ULONG_PTR SetClassLongPtrA(HWND hwnd, int index, LONG_PTR value);
 
-// --- Windows
-// --------------------------------------------------------------------------------------
+// --- Windows ---------------------------------------------------------------------------------
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y,
                      int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
                      LPVOID param);
@@ -73,8 +71,7 @@ int EnumPropsA(HWND hwnd, PROPENUMPROCA proc);
 LRESULT CallWindowProcA(WNDPROC proc, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT DefWindowProcA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
-// --- Focus, activation, keyboard and mouse
-// --------------------------------------------------------
+// --- Focus, activation, keyboard and mouse ---------------------------------------------------
 HWND GetFocus();
 HWND SetFocus(HWND hwnd);
 HWND GetActiveWindow();
@@ -104,8 +101,7 @@ UINT MapVirtualKeyA(UINT code, UINT type);
 UINT GetCaretBlinkTime();
 BOOL MessageBeep(UINT type);
 
-// --- Messages, timers and hooks
-// -------------------------------------------------------------------
+// --- Messages, timers and hooks --------------------------------------------------------------
 LRESULT SendMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL PostMessageA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL PostThreadMessageA(DWORD thread, UINT message, WPARAM wParam, LPARAM lParam);
@@ -130,8 +126,7 @@ BOOL UnhookWindowsHookEx(HHOOK hook);
 LRESULT CallNextHookEx(HHOOK hook, int code, WPARAM wParam, LPARAM lParam);
 BOOL CallMsgFilterA(MSG* msg, int code);
 
-// --- Dialogs
-// --------------------------------------------------------------------------------------
+// --- Dialogs ---------------------------------------------------------------------------------
 INT_PTR DialogBoxParamA(HINSTANCE instance, LPCSTR name, HWND parent, DLGPROC proc, LPARAM param);
 INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATEA dialog, HWND parent,
                                 DLGPROC proc, LPARAM param);
@@ -157,8 +152,7 @@ BOOL MapDialogRect(HWND dialog, RECT* rect);
 LONG GetDialogBaseUnits();
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 
-// --- Painting
-// -------------------------------------------------------------------------------------
+// --- Painting --------------------------------------------------------------------------------
 BOOL InvalidateRect(HWND hwnd, const RECT* rect, BOOL erase);
 BOOL ValidateRect(HWND hwnd, const RECT* rect);
 BOOL GetUpdateRect(HWND hwnd, RECT* rect, BOOL erase);
@@ -243,8 +237,7 @@ HENHMETAFILE SetWinMetaFileBits(UINT size, const BYTE* data, HDC reference,
 BOOL PlayEnhMetaFile(HDC dc, HENHMETAFILE metafile, const RECT* rect);
 BOOL DeleteEnhMetaFile(HENHMETAFILE metafile);
 
-// --- Rectangles
-// -----------------------------------------------------------------------------------
+// --- Rectangles ------------------------------------------------------------------------------
 BOOL SetRect(RECT* rect, int left, int top, int right, int bottom);
 BOOL SetRectEmpty(RECT* rect);
 BOOL CopyRect(RECT* to, const RECT* from);
@@ -256,8 +249,7 @@ BOOL IsRectEmpty(const RECT* rect);
 BOOL EqualRect(const RECT* a, const RECT* b);
 BOOL PtInRect(const RECT* rect, POINT point);
 
-// --- System
-// ---------------------------------------------------------------------------------------
+// --- System ----------------------------------------------------------------------------------
 int GetSystemMetrics(int index);
 BOOL SystemParametersInfoA(UINT action, UINT param, PVOID data, UINT flags);
 HMONITOR MonitorFromRect(const RECT* rect, DWORD flags);
@@ -273,8 +265,7 @@ int MulDiv(int number, int numerator, int denominator);
 void OutputDebugStringA(LPCSTR text);
 BOOL IsDebuggerPresent();
 
-// --- Clipboard
-// ------------------------------------------------------------------------------------
+// --- Clipboard -------------------------------------------------------------------------------
 BOOL OpenClipboard(HWND owner);
 BOOL CloseClipboard();
 BOOL EmptyClipboard();
@@ -287,8 +278,7 @@ LPVOID GlobalLock(HGLOBAL memory);
 BOOL GlobalUnlock(HGLOBAL memory);
 SIZE_T GlobalSize(HGLOBAL memory);
 
-// --- Modules and resources
-// ------------------------------------------------------------------------
+// --- Modules and resources -------------------------------------------------------------------
 HMODULE GetModuleHandleA(LPCSTR name);
 BOOL GetModuleHandleExA(DWORD flags, LPCSTR name, HMODULE* module);
 DWORD GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size);
@@ -303,8 +293,7 @@ DWORD SizeofResource(HMODULE module, HRSRC resource);
 BOOL EnumResourceNamesA(HMODULE module, LPCSTR type, ENUMRESNAMEPROCA proc, LONG_PTR param);
 int LoadStringA(HINSTANCE instance, UINT id, LPSTR buffer, int size);
 
-// --- Themes and common controls
-// -------------------------------------------------------------------
+// --- Themes and common controls --------------------------------------------------------------
 void InitCommonControls();
 BOOL IsAppThemed();
 BOOL IsThemeActive();
@@ -319,8 +308,7 @@ HRESULT EnableThemeDialogTexture(HWND hwnd, DWORD flags);
 BOOL IsThemeDialogTextureEnabled(HWND hwnd);
 HRESULT SetWindowTheme(HWND hwnd, LPCWSTR appName, LPCWSTR idList);
 
-// --- Profile files, registry, environment, files
-// --------------------------------------------------
+// --- Profile files, registry, environment, files ---------------------------------------------
 DWORD GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR defaultText, LPSTR buffer,
                                DWORD size, LPCSTR file);
 UINT GetPrivateProfileIntA(LPCSTR section, LPCSTR key, INT defaultValue, LPCSTR file);

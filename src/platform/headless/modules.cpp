@@ -55,7 +55,7 @@ HMODULE HandleOf(Module* module) {
     return reinterpret_cast<HMODULE>(module);
 }
 
-// --- The section of a module that has not said where its resources are ---
+// --- The section of a module that has not said where its resources are -----------------------
 
 bool ReadAt(std::ifstream& file, std::uint64_t at, void* target, std::size_t size) {
     file.clear();
@@ -377,7 +377,7 @@ FARPROC GetProcAddress(HMODULE handle, LPCSTR name) {
     return reinterpret_cast<FARPROC>(found);
 }
 
-// --- Resources ---
+// --- Resources -------------------------------------------------------------------------------
 
 HRSRC FindResourceA(HMODULE module, LPCSTR name, LPCSTR type) {
     const ResourceName wantedType = NameFromCaller(type);

@@ -152,7 +152,7 @@ class KeepAlive {
     World& world_;
 };
 
-// --- Geometry ---
+// --- Geometry --------------------------------------------------------------------------------
 inline int Width(const RECT& r) {
     return r.right - r.left;
 }
@@ -182,12 +182,12 @@ bool Enabled(const Window& window);  // itself, whatever its parents are
 bool Within(const Window* outer, const Window* inner);
 Window* Root(Window* window);
 
-// --- Sending ---
+// --- Sending ---------------------------------------------------------------------------------
 LRESULT Send(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 // Calls a window's own procedure without hooks.
 LRESULT CallProcedure(Window& window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// --- Windows: steps that several files need ---
+// --- Windows: steps that several files need --------------------------------------------------
 // WM_SIZE and WM_MOVE of a new window, once.
 void SendFirstSize(Window& window);
 // Puts a top-level window and what it owns on top, without a message.
@@ -203,7 +203,7 @@ RECT FrameThickness(DWORD style, DWORD exStyle);
 RECT AskClientRect(Window& window, const RECT& frame, bool validRects);
 DWORD EdgeCorrected(DWORD style, DWORD exStyle);
 
-// --- Painting ---
+// --- Painting --------------------------------------------------------------------------------
 void InvalidateAll(Window& window, bool frame);
 void InvalidateParentArea(Window& window, const RECT& frameInParent);
 // The next window that waits to be painted, null for none; `within` limits it to a subtree.
@@ -211,7 +211,7 @@ Window* NextToPaint(Window* within);
 void PaintWindow(Window& window);
 void ForgetUpdates(Window& window);
 
-// --- Unsupported requests ---
+// --- Unsupported requests --------------------------------------------------------------------
 std::string Hex(std::uint64_t value);
 
 }  // namespace headless

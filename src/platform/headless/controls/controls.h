@@ -1,5 +1,5 @@
-// The standard window classes. Each is an ordinary window procedure with its object in window long 0,
-// written against the public functions alone; each file registers its class once at start-up.
+// The standard window classes. Each is an ordinary window procedure with its object in window long
+// 0, written against the public functions alone; each file registers its class once at start-up.
 #pragma once
 
 namespace headless {
@@ -7,7 +7,7 @@ namespace headless {
 void RegisterButtonClass();
 void RegisterStaticClass();
 void RegisterEditClass();
-void RegisterListBoxClass();   // "ListBox" and the drop-down list "ComboLBox"
+void RegisterListBoxClass();  // "ListBox" and the drop-down list "ComboLBox"
 void RegisterComboBoxClass();
 void RegisterTabControlClass();
 
