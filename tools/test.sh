@@ -63,6 +63,7 @@ for system in "$@"; do
         said=$(tools/setup.sh windows 2>&1)
         [ -z "$said" ] || printf '%s\n' "$said"
         reason=$(printf '%s\n' "$said" | tail -n 1)
+        reason=${reason:-no 32-bit cross compiler or no Wine on the path}
         if ! command -v wine >/dev/null || ! command -v i686-w64-mingw32-g++-posix >/dev/null; then
             count=$(tests_in_tree "$system")
             echo "=== $system: $count tests skipped, no Windows tools: $reason"
