@@ -229,9 +229,11 @@ bool ParseCommandLine(const std::vector<std::string>& arguments, Options* option
     return true;
 }
 
-bool LoadRecording(const Options& options, Recording* recording, std::string* error) {
+bool LoadRecording(const Options& options, Recording* recording, std::string* error,
+                   const ReadProgress& progress) {
     const Kind& kind = *FindKind(options.recording);
-    if (!options.data.empty()) return ReadRecording(options.data, kind.kind, recording, error);
+    if (!options.data.empty())
+        return ReadRecording(options.data, kind.kind, recording, error, progress);
     *recording = SimulateRecording(kind.simulation);
     return true;
 }

@@ -13,6 +13,7 @@
 #include "RecordFields.h"
 #include "Recording.h"
 #include "SettingsStore.h"
+#include "TextReader.h"
 
 namespace zxhost {
 
@@ -36,7 +37,8 @@ bool ParseCommandLine(const std::vector<std::string>& arguments, Options* option
                       std::string* error);
 
 // The recording that the options name, read or simulated.
-bool LoadRecording(const Options& options, Recording* recording, std::string* error);
+bool LoadRecording(const Options& options, Recording* recording, std::string* error,
+                   const ReadProgress& progress = nullptr);
 
 // What came of one dialog: its result, the records before and after, and the store now.
 struct Outcome {

@@ -269,7 +269,7 @@ ScriptPlayer::State ScriptPlayer::Expect(const Step& step, HWND dialog) {
     return State::kDone;
 }
 
-// --- Input ---
+// --- Input -----------------------------------------------------------------------------------
 
 HWND ScriptPlayer::ControlOf(const Step& step, HWND dialog, bool forInput) {
     HWND control = FindControl(dialog, step.control);
@@ -391,7 +391,7 @@ void ScriptPlayer::Press(const Step& step, HWND dialog) {
     PostMessageA(focus, system ? WM_SYSKEYUP : WM_KEYUP, key, up);
 }
 
-// --- Judging ---
+// --- Judging ---------------------------------------------------------------------------------
 
 void ScriptPlayer::Compare(const std::string& what, const std::string& seen, const Word& wanted) {
     if (seen != wanted.text)

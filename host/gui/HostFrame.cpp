@@ -14,7 +14,6 @@
 #include "HostWindow.h"
 #include "PlotView.h"
 #include "SettingsStore.h"
-#include "TextReader.h"
 #include "zxadlg/headless.h"
 // The file dialog needs the types of the platform.
 #include <commdlg.h>
@@ -58,10 +57,12 @@ class Frame {
 
     int Run() {
         std::string error;
-        if (!store_.Open(options_.store, &error) || !LoadRecording(options_, &recording_, &error)) {
+        if (!store_.Open(options_.store, &error)) {
             MessageBoxA(nullptr, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
             return kNoInput;
         }
+        // A file may take its time and is read when there is a window to tell so.
+        if (options_.data.empty()) LoadRecording(options_, &recording_, &error);
         for (const Analysis& analysis : kAnalyses) {
             recordOf_.emplace_back(analysis.size / sizeof(double) + 1, 0.0);
             std::memcpy(recordOf_.back().data(), analysis.defaults, analysis.size);
@@ -84,6 +85,10 @@ class Frame {
         if (!hwnd_) return kNoInput;
         ShowWindow(hwnd_, SW_SHOW);
         SetFocus(Item(kIdAnalyses));
+        if (!options_.data.empty()) {
+            UpdateWindow(hwnd_);
+            ReadFile(options_);
+        }
         MSG msg;
         while (GetMessageA(&msg, nullptr, 0, 0) > 0) {
             if (IsDialogMessageA(hwnd_, &msg)) continue;
@@ -189,7 +194,7 @@ class Frame {
         HWND progress = Make(PROGRESS_CLASSA, "", 0, kIdProgress);
         SendMessageA(progress, PBM_SETRANGE, 0, MAKELPARAM(0, 1000));
         ShowWindow(progress, SW_HIDE);
-        Tell(recording_.Describe());
+        if (recording_.PointCount() > 0) Tell(recording_.Describe());
         ShowStore();
     }
 
@@ -342,23 +347,28 @@ class Frame {
         open.nMaxFile = sizeof path;
         open.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
         if (!GetOpenFileNameA(&open)) return;
+        Options chosen;
+        chosen.data = path;
+        if (recording_.kind == DataKind::kSheet) chosen.recording = "sheet";
+        ReadFile(chosen);
+    }
+
+    void ReadFile(const Options& chosen) {
         HWND progress = Item(kIdProgress);
         ShowWindow(progress, SW_SHOW);
-        Tell(std::string("Reading ") + path);
+        Tell("Reading " + chosen.data);
         EnableWindow(hwnd_, FALSE);
         std::string error;
-        const bool sheet = recording_.kind == DataKind::kSheet;
-        const bool good = ReadRecording(path, sheet ? DataKind::kSheet : DataKind::kRecording,
-                                        &recording_, &error, [&](double fraction) {
-                                            SendMessageA(progress, PBM_SETPOS,
-                                                         static_cast<WPARAM>(fraction * 1000.0), 0);
-                                            UpdateWindow(hwnd_);
-                                            return true;
-                                        });
+        const bool good = LoadRecording(chosen, &recording_, &error, [&](double fraction) {
+            SendMessageA(progress, PBM_SETPOS, static_cast<WPARAM>(fraction * 1000.0), 0);
+            UpdateWindow(hwnd_);
+            UpdateWindow(progress);
+            return true;
+        });
         EnableWindow(hwnd_, TRUE);
         ShowWindow(progress, SW_HIDE);
         if (!good) {
-            Tell("");
+            Tell(recording_.Describe());
             MessageBoxA(hwnd_, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
             return;
         }
@@ -370,6 +380,10 @@ class Frame {
     void OpenDialog() {
         const LRESULT index = SendMessageA(Item(kIdAnalyses), LB_GETCURSEL, 0, 0);
         if (index < 0) return;
+        if (recording_.PointCount() == 0) {
+            Tell("There are no data; load a recording first.");
+            return;
+        }
         const auto at = static_cast<std::size_t>(index);
         const Analysis& analysis = kAnalyses[at];
         std::vector<double>& options = recordOf_[at];
