@@ -61,7 +61,7 @@ double CZDCParser::EvaluateStep(int nStep) {
             } else if (step.eOpcode == OPCODE_REMAINDER) {
                 step.dValue = std::fmod(dLeft, dRight);
             } else if (step.eOpcode == OPCODE_POWER) {
-                step.dValue = std::pow(dLeft, dRight);
+                step.dValue = Power(dLeft, dRight);
             } else {
                 step.dValue = dLeft - dRight;
             }

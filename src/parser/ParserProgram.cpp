@@ -29,7 +29,7 @@ struct CParserProgram::Handlers {
         if constexpr (eOpcode == OPCODE_MULTIPLY) return dLeft * dRight;
         if constexpr (eOpcode == OPCODE_DIVIDE) return dLeft / dRight;
         if constexpr (eOpcode == OPCODE_REMAINDER) return std::fmod(dLeft, dRight);
-        if constexpr (eOpcode == OPCODE_POWER) return std::pow(dLeft, dRight);
+        if constexpr (eOpcode == OPCODE_POWER) return Power(dLeft, dRight);
         if constexpr (eOpcode == OPCODE_ADD) return dLeft + dRight;
         return dLeft - dRight;
     }
@@ -39,7 +39,7 @@ struct CParserProgram::Handlers {
     static double Term(const Operation* p, double dBefore, const CZDCParser& parser) {
         double dSum = bSumBefore ? dBefore : *p[2].pLeft;
         do {
-            const double dPower = std::pow(*p[0].pLeft, *p[0].pRight);
+            const double dPower = Power(*p[0].pLeft, *p[0].pRight);
             const double dProduct = *p[1].pLeft * dPower;
             dSum = dSum + dProduct;
             *p[0].pResult = dPower;

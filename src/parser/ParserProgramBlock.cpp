@@ -177,7 +177,7 @@ void CParserProgram::RunChunk(const Chunk& chunk) {
                 combine([](double a, double b) { return a / b; });
                 break;
             case OPCODE_POWER:
-                combine([](double a, double b) { return std::pow(a, b); });
+                combine([](double a, double b) { return Power(a, b); });
                 break;
             case OPCODE_ADD:
                 combine([](double a, double b) { return a + b; });

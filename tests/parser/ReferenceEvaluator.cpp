@@ -62,7 +62,7 @@ double ReferenceEvaluator::Power() {
     const double dValue = Call();
     if (!Take('^')) return dValue;
     const double dExponent = Signed();
-    return std::pow(dValue, dExponent);
+    return ::Power(dValue, dExponent);
 }
 
 bool ReferenceEvaluator::TakeFunction(std::string_view& function) {

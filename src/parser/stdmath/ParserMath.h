@@ -17,3 +17,6 @@ inline double Sine(double x) {
 inline double Cosine(double x) {
     return std::cos(x);
 }
+inline double Power(double x, double y) {
+    return std::pow(x, y);
+}

@@ -107,3 +107,12 @@ double Sine(double x) {
 double Cosine(double x) {
     return SineAhead(x, 1);
 }
+
+double Power(double x, double y) {
+    if constexpr (sizeof(void*) == 8) {
+        return static_cast<double>(
+            std::pow(static_cast<long double>(x), static_cast<long double>(y)));
+    } else {
+        return std::pow(x, y);
+    }
+}

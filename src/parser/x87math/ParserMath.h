@@ -30,3 +30,6 @@ class PrecisionScope {
 // To be called in a PrecisionScope.
 double Sine(double x);
 double Cosine(double x);
+// x to the power of y, to within one unit in the last place, which the 64-bit library's own misses
+// for large powers.
+double Power(double x, double y);
