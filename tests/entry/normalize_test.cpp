@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cfenv>
+#include <clocale>
 #include <cstring>
+#include <locale>
+#include <string>
 
 #include "ZXADLG.h"
 #include "contract/OptionPersistence.h"
@@ -196,6 +200,22 @@ TEST_F(Normalize, TabOfTheLastOkIsShownAgainAndCancelKeepsIt) {
     DialogScript third;
     third.Do([&](HWND dialog) { EXPECT_EQ(shownTab(dialog), 1); }).SelectTab("Options").Click(IDOK);
     EXPECT_EQ(Show(third), 1);
+}
+
+TEST_F(Normalize, LeavesLocaleAndFloatingPointSettingsOfTheHostAlone) {
+    const std::string locale = std::setlocale(LC_ALL, nullptr);
+    const std::string global = std::locale().name();
+    const int rounding = std::fegetround();
+    ASSERT_EQ(std::fesetround(FE_UPWARD), 0);
+    DialogScript script;
+    script.Click(IDC_NORMALIZE_REGIONS).SelectTab("Data").SelectTab("Options").Click(IDOK);
+    const int result = Show(script);
+    const int after = std::fegetround();
+    std::fesetround(rounding);
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(after, FE_UPWARD);
+    EXPECT_EQ(std::setlocale(LC_ALL, nullptr), locale);
+    EXPECT_EQ(std::locale().name(), global);
 }
 
 TEST_F(Normalize, NullArgumentsOpenNothing) {

@@ -10,6 +10,8 @@
 #include "ids.h"
 #include "platform/platform.h"
 #include "support/DialogScript.h"
+#include "support/TestDataSource.h"
+#include "support/TestWindows.h"
 
 namespace {
 
@@ -90,17 +92,32 @@ TEST(Module, ImportsFromTheSystemAlone) {
         EXPECT_EQ(system.count(sName), 1u) << sName;
 }
 
-TEST(Module, LeavesNoWindowClassBehind) {
+TEST(Module, LeavesNothingBehindWhenItGoes) {
     for (int i = 0; i < 3; ++i) {
-        const LoadedModule module(kModule);
-        auto* pShow = module.Function<ShowNormalizeFunction>("ZXADLG_ShowNormalizeDialog");
-        ASSERT_NE(pShow, nullptr);
-        // Refused, but only after the set-up of the framework would be in place for a real call.
-        EXPECT_EQ(pShow(nullptr, nullptr, nullptr, nullptr, nullptr), -1);
-    }
-    WNDCLASSA wc;
-    for (const char* szClass : {"ZCC_ProgressBar", "ZDC_SpinnerHorz", "ZDC_SpinnerVert"}) {
-        EXPECT_FALSE(GetClassInfoA(nullptr, szClass, &wc)) << szClass;
+        SCOPED_TRACE(i);
+        {
+            const LoadedModule module(kModule);
+            auto* pShow = module.Function<ShowNormalizeFunction>("ZXADLG_ShowNormalizeDialog");
+            ASSERT_NE(pShow, nullptr);
+            test_support::TestDataSource source;
+            ZXADLG_NormalizeOptions options = {};
+            ZXADLG_DataOptions data = {};
+            ZXADLG_DlgParams params = {};
+            params.bUseDataOptions = 1;
+            WNDCLASSA wc;
+            DialogScript script;
+            script.Do([&] { EXPECT_TRUE(GetClassInfoA(module.Get(), "ZDC_SpinnerVert", &wc)); })
+                .Click(IDCANCEL);
+            EXPECT_EQ(script.Run([&] { return pShow(nullptr, &options, &data, &source, &params); }),
+                      2);
+        }
+        EXPECT_EQ(GetModuleHandleA(kModule), nullptr);
+        WNDCLASSA wc;
+        for (const char* szClass : {"ZCC_ProgressBar", "ZDC_SpinnerHorz", "ZDC_SpinnerVert"}) {
+            EXPECT_FALSE(GetClassInfoA(nullptr, szClass, &wc)) << szClass;
+        }
+        // A hook or a timer of the module that stayed would run into its freed code here.
+        test_support::PumpMessages();
     }
 }
 
