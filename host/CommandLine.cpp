@@ -29,6 +29,7 @@ const char kHelp[] =
     "OPTIONS\n"
     "  --script FILE      the steps to play; docs/automation.md tells the language\n"
     "  --store FILE       keep settings in this file instead of the host's own branch\n"
+    "  --control FILE     what browsing for a control file gives (subtract-control)\n"
     "  --read-only        the dialog displays only\n"
     "  --deferred         the dialog edits settings for a later run\n"
     "  --params N=0/1,... parameters by name\n"
@@ -123,7 +124,8 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
 
     const Analysis& analysis = *options.analysis;
     HostDataSource source(&recording, store.ProfileName());
-    HostFileSource files;
+    HostFileSource files([&options](HWND__*) { return options.control; },
+                         [&err](const std::string& why) { err << "zxhost: " << why << "\n"; });
     // Doubles make the room fit for every record.
     std::vector<double> room(kMaxOptionSize / sizeof(double), 0.0);
     std::memcpy(room.data(), analysis.defaults, analysis.size);
@@ -189,7 +191,8 @@ bool ParseCommandLine(const std::vector<std::string>& arguments, Options* option
         }
         const bool known = argument == "--data" || argument == "--recording" ||
                            argument == "--script" || argument == "--store" ||
-                           argument == "--params" || argument == "--time-limit";
+                           argument == "--params" || argument == "--time-limit" ||
+                           argument == "--control";
         if (!known) return wrong("there is no option " + argument);
         if (i + 1 == arguments.size()) return wrong(argument + " needs a value");
         const std::string& value = arguments[++i];
@@ -201,6 +204,7 @@ bool ParseCommandLine(const std::vector<std::string>& arguments, Options* option
         }
         if (argument == "--script") read.script = value;
         if (argument == "--store") read.store = value;
+        if (argument == "--control") read.control = value;
         if (argument == "--params") {
             std::string why;
             if (!ApplyParams(value, &read.params, &why)) return wrong("--params: " + why);

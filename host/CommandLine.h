@@ -28,6 +28,7 @@ struct Options {
     const Analysis* analysis = nullptr;
     std::string script;
     std::string store;             // file; empty: the host's own branch
+    std::string control;           // the file that browsing for a control file gives; empty: none
     std::uint32_t timeLimit = 60;  // s
     ZXADLG_DlgParams params = DefaultParams();
 };

@@ -1,43 +1,46 @@
 #include "HostFileSource.h"
 
-#include <iterator>
+#include <utility>
+
+#include "Recording.h"
+#include "TextReader.h"
 
 namespace zxhost {
-namespace {
 
-struct ControlFile {
-    const char* path;
-    int32_t groups;
-    const char* names[2];
-};
-
-constexpr ControlFile kFiles[] = {
-    {"control-1.dat", 2, {"Im", "Vm"}},
-    {"control-2.dat", 1, {"Im", nullptr}},
-};
-
-}  // namespace
+HostFileSource::HostFileSource(Choose choose, Complain complain)
+    : choose_(std::move(choose)), complain_(std::move(complain)) {}
 
 int32_t HostFileSource::GetGroupCount() {
-    return current_ == 0 ? 0 : kFiles[current_ - 1].groups;
+    return current_ == 0 ? 0 : static_cast<int32_t>(files_[current_ - 1].groups.size());
 }
 
 const char* HostFileSource::GetGroupName(uint32_t group) {
-    return static_cast<int32_t>(group) < GetGroupCount() ? kFiles[current_ - 1].names[group]
-                                                         : nullptr;
+    if (group >= static_cast<uint32_t>(GetGroupCount())) return nullptr;
+    return files_[current_ - 1].groups[group].c_str();
 }
 
 const char* HostFileSource::GetTitle(HWND__*, HWND__*, intptr_t) {
     return "the recording";
 }
 
-const char* HostFileSource::BrowseForFile(HWND__*) {
-    current_ = current_ % static_cast<uint32_t>(std::size(kFiles)) + 1;
-    return kFiles[current_ - 1].path;
+const char* HostFileSource::BrowseForFile(HWND__* owner) {
+    const std::string path = choose_(owner);
+    if (path.empty()) return nullptr;
+    Recording recording;
+    std::string error;
+    if (!ReadRecording(path, DataKind::kRecording, &recording, &error)) {
+        complain_(error);
+        return nullptr;
+    }
+    ControlFile file{path, {}};
+    for (const Group& group : recording.groups) file.groups.push_back(group.name);
+    files_.push_back(std::move(file));
+    current_ = static_cast<uint32_t>(files_.size());
+    return files_.back().path.c_str();
 }
 
 void HostFileSource::SelectFile(uint32_t file) {
-    current_ = file <= std::size(kFiles) ? file : 0;
+    current_ = file <= files_.size() ? file : 0;
 }
 
 }  // namespace zxhost

@@ -336,17 +336,23 @@ class Frame {
         Tell(recording_.Describe());
     }
 
-    void ChooseFile() {
+    // Lets the user pick a text file; empty when there is no choice.
+    static std::string PickFile(HWND owner) {
         char path[MAX_PATH] = "";
         OPENFILENAMEA open = {};
         open.lStructSize = sizeof open;
-        open.hwndOwner = hwnd_;
+        open.hwndOwner = owner;
         open.lpstrFilter =
             "Text (*.txt;*.csv;*.tsv;*.dat)\0*.txt;*.csv;*.tsv;*.dat\0All files\0*.*\0";
         open.lpstrFile = path;
         open.nMaxFile = sizeof path;
         open.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-        if (!GetOpenFileNameA(&open)) return;
+        return GetOpenFileNameA(&open) ? path : "";
+    }
+
+    void ChooseFile() {
+        const std::string path = PickFile(hwnd_);
+        if (path.empty()) return;
         Options chosen;
         chosen.data = path;
         if (recording_.kind == DataKind::kSheet) chosen.recording = "sheet";
@@ -441,7 +447,10 @@ class Frame {
     ZXADLG_DlgParams params_;
     Recording recording_;
     SettingsStore store_;
-    HostFileSource files_;
+    HostFileSource files_{[](HWND__* owner) { return PickFile(owner); },
+                          [this](const std::string& error) {
+                              MessageBoxA(hwnd_, error.c_str(), "Control file", MB_ICONERROR);
+                          }};
     // The records of each analysis, as its last dialog left them. Doubles make the room fit for
     // every record.
     std::vector<std::vector<double>> recordOf_;

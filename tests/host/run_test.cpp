@@ -103,9 +103,32 @@ TEST_F(HostRun, ShowsEveryAnalysisReadOnly) {
 
 TEST_F(HostRun, LetsTheUserPickAControlFile) {
     const std::string script = WriteFile("steps.txt", "click \"Select File\"\nok\n");
-    EXPECT_EQ(Run({"run", "subtract-control", "--script", script, "--store", Store()}), 0) << err;
-    EXPECT_TRUE(OutHas("  szSubtractFileName: \"\" -> \"control-1.dat\"\n")) << out;
+    const std::string control = WriteFile("leak.csv", "ms,Im (pA),Im (pA)\n0,1,2\n1,1,2\n2,1,2\n");
+    EXPECT_EQ(Run({"run", "subtract-control", "--script", script, "--store", Store(), "--control",
+                   control}),
+              0)
+        << err;
+    EXPECT_TRUE(OutHas("leak.csv\"\n")) << out;
     EXPECT_TRUE(OutHas("  nFileID: 0 -> 1\n")) << out;
+    EXPECT_TRUE(OutHas("  nNumGroups: 0 -> 1\n")) << out;
+}
+
+TEST_F(HostRun, AControlFileThatCannotBeReadLeavesPathAndList) {
+    const std::string script =
+        WriteFile("steps.txt", "click \"Select File\"\nexpect text 2551 \"\"\nok\n");
+    EXPECT_EQ(Run({"run", "subtract-control", "--script", script, "--store", Store(), "--control",
+                   WriteFile("broken.csv", "a,b\n1\nx,y\n")}),
+              0)
+        << err;
+    EXPECT_NE(err.find("broken.csv"), std::string::npos) << err;
+    EXPECT_TRUE(OutHas("store:")) << out;
+    EXPECT_FALSE(OutHas("nFileID: 0")) << out;
+}
+
+TEST_F(HostRun, WithoutAControlFileBrowsingIsANo) {
+    const std::string script = WriteFile("steps.txt", "click \"Select File\"\nok\n");
+    EXPECT_EQ(Run({"run", "subtract-control", "--script", script, "--store", Store()}), 0) << err;
+    EXPECT_FALSE(OutHas("nFileID: 0")) << out;
 }
 
 TEST_F(HostRun, AFailedStepTellsItsLineAndLeavesNothing) {
