@@ -41,7 +41,7 @@ class FieldsPage : public ADM_TabSubDialog {
             {IDC_G_FLOAT, &m_float},
             {IDC_G_DOUBLE, &m_double},
             {IDC_G_FIXED, &m_fixed},
-            {IDC_G_DISABLED_LABEL, &m_label},
+            {IDC_G_GREYED_LABEL, &m_label},
             {IDC_G_DISABLED, &m_disabled},
             {IDC_G_FLAT_LABEL, &m_flatLabel},
             {IDC_G_SINGLE_LABEL, &m_singleLabel},

@@ -180,7 +180,7 @@ unsigned ReplaceFileText(const std::string& native, std::string_view text) {
     if (exists && (!S_ISREG(state.st_mode) || (state.st_mode & S_IWUSR) == 0)) {
         return ERROR_ACCESS_DENIED;
     }
-    std::string temporary = native + ".XXXXXX";
+    std::string temporary = native + "." + std::string(6, 'X');  // filled in by mkstemp
     const int file = mkostemp(temporary.data(), O_CLOEXEC);
     if (file < 0) return errno == ENOENT ? ERROR_PATH_NOT_FOUND : ErrorOfSystem(errno);
     unsigned error = ERROR_SUCCESS;
