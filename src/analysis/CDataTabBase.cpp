@@ -29,38 +29,49 @@ class TopIndexScope {
 // --- Controls --------------------------------------------------------------------------------
 
 CDataTabBase::CDataTabBase(UINT uTemplateId, CDataOptionsInterface* pData, bool bReadOnly)
-    : ADM_TabSubDialog(GetFrameworkInstance(), MAKEINTRESOURCEA(uTemplateId),
-                       MAKEINTRESOURCEA(IDS_TAB_DATA)),
+    : CEditPage(bReadOnly, GetFrameworkInstance(), MAKEINTRESOURCEA(uTemplateId),
+                MAKEINTRESOURCEA(IDS_TAB_DATA)),
       m_pData(pData),
       m_bDualList(uTemplateId == IDD_UNITARY_DATA_DUAL),
-      m_bSetsSelectable(!pData->IsSheetData()),
-      m_bReadOnly(bReadOnly) {
+      m_bSetsSelectable(!pData->IsSheetData()) {
     m_radDataSet.Setup(this, IDC_DATA_SET_1, IDC_DATA_SET_2);
-    RegisterControl(IDC_SET_LIST, &m_lstSets);
-    RegisterControl(IDC_SET_LIST_2, &m_lstSets2);
-    RegisterControl(IDC_GROUP_LABEL, &m_lblGroup);
-    RegisterControl(IDC_GROUP, &m_cmbGroup);
-    RegisterControl(IDC_SET_LABEL, &m_lblSets);
-    RegisterControl(IDC_SET_LIST_TEXT, &m_txtList);
-    RegisterControl(IDC_SELECT_ALL, &m_btnAll);
-    RegisterControl(IDC_SELECT_NONE, &m_btnNone);
-    RegisterControl(IDC_SELECT_INVERT, &m_btnInvert);
-    RegisterControl(IDC_SET_COUNT, &m_lblCount);
+    Label(IDC_SET_LIST, m_lstSets);
+    Label(IDC_SET_LIST_2, m_lstSets2);
+    Label(IDC_GROUP_LABEL, m_lblGroup);
+    Label(IDC_GROUP, m_cmbGroup);
+    Label(IDC_SET_LABEL, m_lblSets);
+    Label(IDC_SET_LIST_TEXT, m_txtList);
+    Label(IDC_SELECT_ALL, m_btnAll);
+    Label(IDC_SELECT_NONE, m_btnNone);
+    Label(IDC_SELECT_INVERT, m_btnInvert);
+    Label(IDC_SET_COUNT, m_lblCount);
+    OnEvent(m_cmbGroup, ADMN_COMBOSELCHANGE, [this] { ChangeGroup(); });
+    OnEvent(m_radDataSet, ADMN_CLICKED, [this] { ChooseList(); });
 }
 
-BOOL CDataTabBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    const BOOL bResult = ADM_TabSubDialog::OnInitDialog(hWnd, hFocus, lParam);
+bool CDataTabBase::SetUp() {
     m_txtList.LimitText(kListTextSize - 1);
-    const UpdateScope updating(m_bUpdating);
     const bool bShowGroups = m_pData->GetFlags().bShowGroups != 0;
-    m_cmbGroup.Show(bShowGroups ? SW_SHOW : SW_HIDE);
-    m_lblGroup.Show(bShowGroups ? SW_SHOW : SW_HIDE);
+    ShowControls({&m_cmbGroup, &m_lblGroup}, bShowGroups);
     if (bShowGroups) m_cmbGroup.Fill(m_pData->GetDataSource(), true);
     FillLists(0);
     ShowLabels();
     // The lists began with the sets of the first group; a stored selection may be in another one.
     ListCurrentGroup();
-    return bResult;
+    return true;
+}
+
+void CDataTabBase::BindTools(const Step& after) {
+    const auto tool = [this, after](ADM_Button& btn, void (CZxDlgSetListBox::*pApply)()) {
+        OnEvent(btn, ADMN_CLICKED, [this, after, pApply] {
+            const TopIndexScope top(GetActiveList());
+            (GetActiveList().*pApply)();
+            after();
+        });
+    };
+    tool(m_btnAll, &CZxDlgSetListBox::SelectAll);
+    tool(m_btnNone, &CZxDlgSetListBox::SelectNone);
+    tool(m_btnInvert, &CZxDlgSetListBox::Invert);
 }
 
 // --- Display ---------------------------------------------------------------------------------
@@ -93,7 +104,7 @@ void CDataTabBase::ShowLabels() {
     m_radDataSet.SetButtonText(0, szCaption);
     FormatCaption(szCaption, szSet != nullptr ? "Select %s Set &2:" : "Select Set &2:", szSet);
     m_radDataSet.SetButtonText(1, szCaption);
-    if (m_bReadOnly) m_radDataSet.SetSelected(m_nActiveList);
+    if (IsReadOnly()) m_radDataSet.SetSelected(m_nActiveList);
     ChooseList();
     CorrectGroup();
 }
@@ -101,8 +112,6 @@ void CDataTabBase::ShowLabels() {
 void CDataTabBase::ChooseList() {
     if (!m_bDualList) return;
     m_nActiveList = m_radDataSet.GetSelected();
-    m_lstSets.Enable(m_nActiveList == 0 && !m_bDisabled);
-    m_lstSets2.Enable(m_nActiveList == 1 && !m_bDisabled);
     m_pData->SetSelectedDataSet(static_cast<std::uint32_t>(m_nActiveList));
     m_cmbGroup.SetCurSel(static_cast<int>(m_pData->GetGroup()));
 }
@@ -118,7 +127,7 @@ void CDataTabBase::CorrectGroup() {
 
 BOOL CDataTabBase::OnPageShow() {
     m_pData->Notify(kNotifyDataTabShown);
-    return ADM_TabSubDialog::OnPageShow();
+    return CEditPage::OnPageShow();
 }
 
 const char* CDataTabBase::GetStoredList(int n) const {
@@ -153,11 +162,18 @@ void CDataTabBase::ShowListText(const std::vector<std::int32_t>& vItems) {
     m_txtList.SetWindowText(szText);
 }
 
-// --- Enabling --------------------------------------------------------------------------------
+void CDataTabBase::Undo() {
+    ShowLabels();
+    CEditPage::Undo();
+}
 
-void CDataTabBase::SetDisabled(bool bDisabled) {
-    m_bDisabled = bDisabled;
-    for (ADM_Wnd* pControl : m_vControls) pControl->Enable(!bDisabled);
+// --- Rules -----------------------------------------------------------------------------------
+
+// The list that is not edited is greyed; lists stay alive in read-only mode, to be scrolled.
+void CDataTabBase::UpdateControls() {
+    if (!m_bDualList) return;
+    m_lstSets.Enable(m_nActiveList == 0 && !IsDisabled());
+    m_lstSets2.Enable(m_nActiveList == 1 && !IsDisabled());
 }
 
 // --- Storing ---------------------------------------------------------------------------------
@@ -227,20 +243,17 @@ void CDataTabBase::ChangeGroup() {
     m_pData->Notify(kNotifyDataSelectionChanged);
 }
 
-void CDataTabBase::GiveFocusAway() {
-    const UpdateScope updating(m_bUpdating);
-    FocusCancel(GetDialogWnd());
-}
+// --- Checking --------------------------------------------------------------------------------
 
-void CDataTabBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
-    ADM_TabSubDialog::Notify(pSender, nId, nCode, nData);
-    if (!m_bReady || m_bReadOnly || m_bUpdating != 0) return;
-    if (pSender == &m_cmbGroup && nCode == ADMN_COMBOSELCHANGE) ChangeGroup();
-    if (pSender == &m_radDataSet && nCode == ADMN_CLICKED) ChooseList();
+BOOL CDataTabBase::Passes(const CheckResult& result, BOOL bSilent, ADM_Wnd** ppFailed) {
+    if (!result.has_value()) return TRUE;
+    if (!bSilent) ShowFinding(m_hWnd, *result);
+    if (ppFailed != nullptr) *ppFailed = FindControl(GetDlgItem(m_hWnd, result->nControl));
+    return FALSE;
 }
 
 BOOL CDataTabBase::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
-    if (!ADM_TabSubDialog::Validate(bSilent, ppFailed)) return FALSE;
+    if (!CEditPage::Validate(bSilent, ppFailed)) return FALSE;
     m_pData->Notify(kNotifyDataTabLeft);
     return TRUE;
 }

@@ -2,34 +2,27 @@
 // lists of sets, and the labels built from the host's nouns. Subclasses add how sets are chosen.
 //
 // The stored selection is a list text of 0-based numbers; what the user sees and types counts
-// from 1. In read-only mode every event shows the stored selection again and gives the focus away.
+// from 1.
 #pragma once
 
 #include <cstdint>
 #include <vector>
 
-#include "analysis/SelectionControls.h"
+#include "analysis/CEditPage.h"
 #include "contract/CDataOptionsInterface.h"
-#include "framework/ADM_Button.h"
-#include "framework/ADM_RadioButtons.h"
-#include "framework/ADM_Static.h"
 #include "framework/ADM_StaticText.h"
 #include "framework/ADM_TabSubDialog.h"
 #include "framework/ADM_Text.h"
 
-class CDataTabBase : public ADM_TabSubDialog {
+class CDataTabBase : public CEditPage<ADM_TabSubDialog> {
   public:
     CDataTabBase(UINT uTemplateId, CDataOptionsInterface* pData, bool bReadOnly);
 
-    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
+    void UpdateControls() override;
     // Tells the other tabs that this one is about to be shown.
     BOOL OnPageShow() override;
     // Tells the other tabs, on success, that this one is about to be left.
     BOOL Validate(BOOL bSilent, ADM_Wnd** ppFailed) override;
-
-    // Enables or disables every control of the tab together.
-    virtual void SetDisabled(bool bDisabled);
 
     // The list of the selection that the tab edits.
     CZxDlgSetListBox& GetActiveList() { return m_nActiveList == 0 ? m_lstSets : m_lstSets2; }
@@ -41,6 +34,9 @@ class CDataTabBase : public ADM_TabSubDialog {
 
   protected:
     static constexpr int kListTextSize = 1000;
+
+    bool SetUp() override;
+    void Undo() override;
 
     // Captions from the host's nouns, the lists of the current group, and the stored selection's
     // place.
@@ -59,17 +55,15 @@ class CDataTabBase : public ADM_TabSubDialog {
     void WriteListText(int eMode);
     // The selection of the active list becomes the text of the edit and, in mode 3 or 4, is stored.
     void WriteListSelection(int eMode);
-    void GiveFocusAway();
-    HWND MessageOwner() const { return m_hWnd; }
+    // Binds the tools of a list to what follows each.
+    void BindTools(const Step& after);
+    // Shows the message of a finding, unless silent, and names the control that it points to.
+    BOOL Passes(const CheckResult& result, BOOL bSilent, ADM_Wnd** ppFailed);
 
     CDataOptionsInterface* m_pData;
     int m_nActiveList = 0;
     bool m_bDualList;
     bool m_bSetsSelectable;
-    bool m_bReadOnly;
-    bool m_bDisabled = false;
-    bool m_bReady = false;
-    BOOL m_bUpdating = 0;
 
     ADM_RadioButtons m_radDataSet;
     CZxDlgSetListBox m_lstSets;

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "ZXADLG.h"
-#include "analysis/DialogMessages.h"
+#include "analysis/DataChecks.h"
 #include "contract/NotificationCodes.h"
 #include "contract/SelectionList.h"
 #include "framework/UpdateScope.h"
@@ -30,47 +30,80 @@ CPairedDataTab::CPairedDataTab(CDataOptionsInterface* pData, UINT uTemplateId, b
     pData->SetUseDepVarList(bDepList);
     for (int i = 0; i < kVariables; ++i) {
         const auto n = static_cast<std::size_t>(i);
-        RegisterControl(IDC_VARIABLE_FIRST + i, &m_abtnVariable[n]);
-        RegisterControl(IDC_VARIABLE_NAME_FIRST + i, &m_albVariable[n]);
-        RegisterControl(IDC_CONSTANT_FIRST + i, &m_atxtConstant[n]);
+        Label(IDC_VARIABLE_FIRST + i, m_abtnVariable[n]);
+        Label(IDC_VARIABLE_NAME_FIRST + i, m_albVariable[n]);
+        Label(IDC_CONSTANT_FIRST + i, m_atxtConstant[n]);
         m_atxtConstant[n].SetSigDigits(kSigDigits);
     }
-    RegisterControl(IDC_DEPENDENT, &m_btnDependent);
-    RegisterControl(IDC_PAIRED_UNUSED, &m_lblUnused);
-    RegisterControl(IDC_DEPENDENT_NAME, &m_lblDependent);
-    RegisterControl(IDC_RANGE_ALL, &m_chkAll);
-    RegisterControl(IDC_RANGE_FROM_LABEL, &m_lblFrom);
-    RegisterControl(IDC_RANGE_FROM, &m_txtFrom);
-    RegisterControl(IDC_RANGE_FROM_SPIN, &m_spnFrom);
-    RegisterControl(IDC_RANGE_TO_LABEL, &m_lblTo);
-    RegisterControl(IDC_RANGE_TO, &m_txtTo);
-    RegisterControl(IDC_RANGE_TO_SPIN, &m_spnTo);
-    RegisterControl(IDC_RANGE_AVAILABLE, &m_lblAvailable);
+    Label(IDC_DEPENDENT, m_btnDependent);
+    Label(IDC_PAIRED_UNUSED, m_lblUnused);
+    Label(IDC_DEPENDENT_NAME, m_lblDependent);
+    Label(IDC_RANGE_ALL, m_chkAll);
+    Label(IDC_RANGE_FROM_LABEL, m_lblFrom);
+    Label(IDC_RANGE_FROM, m_txtFrom);
+    Spinner(IDC_RANGE_FROM_SPIN, m_spnFrom, m_txtFrom);
+    Label(IDC_RANGE_TO_LABEL, m_lblTo);
+    Label(IDC_RANGE_TO, m_txtTo);
+    Spinner(IDC_RANGE_TO_SPIN, m_spnTo, m_txtTo);
+    Label(IDC_RANGE_AVAILABLE, m_lblAvailable);
     m_radList.Setup(this, IDC_SETS_TYPED, IDC_SETS_LISTED);
-    m_txtFrom.SetGauge(&m_spnFrom);
-    m_txtTo.SetGauge(&m_spnTo);
+
+    OnEvent(m_cmbGroup, ADMN_COMBOSELCHANGE, [this] { ShowRecord(); });
+    if (m_bListMode) {
+        BindList();
+    } else {
+        BindAssignment();
+    }
+    BindRange();
 }
 
-BOOL CPairedDataTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    const BOOL bResult = CDataTabBase::OnInitDialog(hWnd, hFocus, lParam);
-    ShowAll();
-    m_bReady = true;
-    return bResult;
+void CPairedDataTab::BindAssignment() {
+    OnEvent(m_btnDependent, ADMN_CLICKED, [this] {
+        AssignDependent();
+        ShowLimits();
+        m_pData->Notify(kNotifyDataSelectionChanged);
+    });
+    for (int i = 0; i < kVariables; ++i) {
+        const auto n = static_cast<std::size_t>(i);
+        OnEvent(m_abtnVariable[n], ADMN_CLICKED, [this, i] {
+            AssignVariable(i);
+            ShowLimits();
+            m_pData->Notify(kNotifyDataSelectionChanged);
+        });
+        OnEvent(m_atxtConstant[n], ADMN_TEXTCHANGE, [this, n] {
+            m_pData->SetConstant(static_cast<std::uint32_t>(n), m_atxtConstant[n].GetValue());
+        });
+    }
+}
+
+void CPairedDataTab::BindList() {
+    OnEvent(m_lstSets, ADMN_LISTSELCHANGE, [this] {
+        m_nActiveList = 0;
+        ChangeListSelection();
+    });
+    BindTools([this] { ChangeListSelection(); });
+    OnEvent(m_radList, ADMN_CLICKED, [this] { StoreListMode(); });
+    OnEvent(m_txtList, ADMN_TEXTCHANGE, [this] { ChangeListText(); });
+}
+
+void CPairedDataTab::BindRange() {
+    OnEvent(m_txtFrom, ADMN_TEXTCHANGE, [this] { ChangeRow(); });
+    OnEvent(m_txtTo, ADMN_TEXTCHANGE, [this] { ChangeRow(); });
+    OnEvent(m_chkAll, ADMN_CLICKED, [this] { ChangeRange(); });
 }
 
 // --- Display ---------------------------------------------------------------------------------
 
 BOOL CPairedDataTab::OnPageShow() {
     const BOOL bResult = CDataTabBase::OnPageShow();
-    ShowAll();
+    ShowRecord();
     return bResult;
 }
 
-void CPairedDataTab::ShowAll() {
-    const UpdateScope updating(m_bUpdating);
+void CPairedDataTab::ShowOptions() {
     if (m_pData->GetFlags().bUseStoredInfo != 0) m_lblAvailable.Show(SW_HIDE);
     m_radList.SetSelected(m_pData->GetDataSetSelectionMode(0) == Model::kTypedSets ? 0 : 1);
-    m_chkAll.SetCheck(m_pData->GetUseFullDataRange() ? BST_CHECKED : BST_UNCHECKED);
+    ShowValue(m_chkAll, m_pData->GetUseFullDataRange());
     ShowButtons();
     SelectColumn(static_cast<int>(m_pData->GetIndepVarDataSetIndex()));
     CorrectAssignment();
@@ -79,10 +112,7 @@ void CPairedDataTab::ShowAll() {
     ShowDependent();
     AssignDependent();
     ShowLimits();
-    if (m_bListMode) {
-        EnableListMode();
-        StoreListMode();
-    }
+    if (m_bListMode) StoreListMode();
     CorrectRange();
 }
 
@@ -120,7 +150,6 @@ void CPairedDataTab::ShowVariables() {
         AssignVariable(i);
         return;
     }
-    m_atxtConstant[0].Enable(FALSE);
     GetActiveList().SelectNone();
     SelectColumn(nColumn);
     AssignVariable(0);
@@ -157,7 +186,6 @@ void CPairedDataTab::ShowLimits() {
             m_pData->SetLastDataIndex(uCount == 0 ? 0 : uCount - 1);
         }
     }
-    EnableRange();
 }
 
 std::uint32_t CPairedDataTab::PointsForRange() {
@@ -185,32 +213,28 @@ void CPairedDataTab::CorrectRange() {
     m_txtTo.SetValue(static_cast<int>(m_pData->GetLastDataIndex() + 1));
 }
 
-// --- Enabling --------------------------------------------------------------------------------
+// --- Rules -----------------------------------------------------------------------------------
 
-void CPairedDataTab::EnableRange() {
-    const BOOL bRange = m_chkAll.GetCheck() != BST_CHECKED && !m_bDisabled;
-    m_lblAvailable.Enable(bRange);
-    m_lblFrom.Enable(bRange);
-    m_txtFrom.Enable(bRange);
-    m_spnFrom.Enable(bRange);
-    m_lblTo.Enable(bRange);
-    m_txtTo.Enable(bRange);
-    m_spnTo.Enable(bRange);
-}
-
-void CPairedDataTab::EnableListMode() {
-    const bool bTyped = m_radList.GetSelected() == kTypedIndex;
-    m_txtList.Enable(bTyped && !m_bDisabled);
-    const BOOL bList = !bTyped && !m_bDisabled;
-    GetActiveList().Enable(bList);
-    m_btnAll.Enable(bList);
-    m_btnNone.Enable(bList);
-    m_btnInvert.Enable(bList);
-}
-
-void CPairedDataTab::SetDisabled(bool bDisabled) {
-    CDataTabBase::SetDisabled(bDisabled);
-    if (!bDisabled && m_hWnd != nullptr) ShowAll();
+void CPairedDataTab::UpdateControls() {
+    CDataTabBase::UpdateControls();
+    EnableControls(
+        {&m_lblAvailable, &m_lblFrom, &m_txtFrom, &m_spnFrom, &m_lblTo, &m_txtTo, &m_spnTo},
+        !ReadValue(m_chkAll));
+    if (m_bListMode) {
+        const bool bTyped = m_radList.GetSelected() == kTypedIndex;
+        EnableControls({&m_txtList}, bTyped);
+        EnableControls({&m_btnAll, &m_btnNone, &m_btnInvert}, !bTyped);
+        // A list stays alive in read-only mode, to be scrolled.
+        GetActiveList().Enable((!bTyped || IsReadOnly()) && !IsDisabled());
+        m_lblSets.Enable(GetActiveList().IsEnabled());
+    } else if (HasSeveralVariables()) {
+        for (int i = 0; i < kVariables; ++i) {
+            const auto n = static_cast<std::size_t>(i);
+            const bool bUsed = i < static_cast<int>(m_pData->GetConstantCount());
+            EnableControls({&m_abtnVariable[n]}, bUsed);
+            EnableControls({&m_atxtConstant[n]}, bUsed && i != m_nAssigned);
+        }
+    }
 }
 
 // --- Assigning -------------------------------------------------------------------------------
@@ -231,7 +255,7 @@ void CPairedDataTab::SelectColumn(int n) {
 void CPairedDataTab::AssignVariable(int nVariable) {
     if (m_bListMode) return;
     if (m_bDepList && GetListSelCount() > 1) {
-        ShowErrorString(MessageOwner(), IDS_ONE_INDEPENDENT);
+        ShowFinding(m_hWnd, {.nStringId = IDS_ONE_INDEPENDENT});
         return;
     }
     const UpdateScope updating(m_bUpdating);
@@ -239,25 +263,22 @@ void CPairedDataTab::AssignVariable(int nVariable) {
     const int nColumn = CurrentColumn();
     if (nColumn >= 0) {
         GetActiveList().GetItemText(nColumn, szColumn, static_cast<int>(sizeof szColumn));
-        if (m_bReady) m_pData->SetIndepVarDataSetIndex(static_cast<std::uint32_t>(nColumn));
+        if (IsReady()) m_pData->SetIndepVarDataSetIndex(static_cast<std::uint32_t>(nColumn));
     }
     if (!HasSeveralVariables()) {
         m_albVariable[0].SetArg(0, szColumn);
         return;
     }
+    m_nAssigned = nVariable;
     const auto nCount = static_cast<int>(m_pData->GetConstantCount());
     for (int i = 0; i < kVariables; ++i) {
         const auto n = static_cast<std::size_t>(i);
         if (i >= nCount) {
-            m_atxtConstant[n].Enable(FALSE);
             m_albVariable[n].SetArg(0, " ");
-            m_abtnVariable[n].Enable(FALSE);
         } else if (i == nVariable) {
-            m_atxtConstant[n].Enable(FALSE);
             m_albVariable[n].SetArg(0, szColumn);
             m_pData->SetIsConstant(static_cast<std::uint32_t>(i), false);
         } else {
-            m_atxtConstant[n].Enable(!m_bDisabled);
             m_albVariable[n].SetArgString(0, GetFrameworkInstance(), IDS_CONSTANT);
             m_pData->SetIsConstant(static_cast<std::uint32_t>(i), true);
         }
@@ -292,35 +313,32 @@ void CPairedDataTab::ShowDependentName(const std::vector<std::int32_t>& vColumns
 
 // --- Checking and storing --------------------------------------------------------------------
 
+CheckResult CPairedDataTab::FindRangeFault() {
+    if (ReadValue(m_chkAll) || m_pData->GetFlags().bUseStoredInfo != 0) return {};
+    return CheckRowOrder(m_txtFrom.GetValue(), m_txtTo.GetValue(), IDC_RANGE_FROM);
+}
+
 bool CPairedDataTab::CheckRange(bool bReport) {
-    if (m_chkAll.GetCheck() == BST_CHECKED || m_pData->GetFlags().bUseStoredInfo != 0) return true;
-    const int nFirst = m_txtFrom.GetValue();
-    const int nLast = m_txtTo.GetValue();
-    if (nFirst != 0 && nLast != 0 && nFirst < nLast) return true;
-    if (bReport) {
-        ShowErrorString(MessageOwner(), IDS_RANGE_ORDER);
+    const CheckResult result = FindRangeFault();
+    if (result.has_value() && bReport) {
+        ShowFinding(m_hWnd, *result);
         m_txtFrom.SetFocus();
     }
-    return false;
+    return !result.has_value();
 }
 
 BOOL CPairedDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
     if (!CDataTabBase::Validate(bSilent, ppFailed)) return FALSE;
-    if (m_bListMode && GetListSelCount() == 0) {
-        if (!bSilent) ShowErrorString(MessageOwner(), IDS_NO_DATA_SELECTED);
-        if (ppFailed != nullptr) *ppFailed = &GetActiveList();
+    const int nWhere =
+        m_radList.GetSelected() == kTypedIndex ? IDC_SET_LIST_TEXT : GetActiveList().GetControlId();
+    if (m_bListMode && !Passes(CheckAnySetSelected(GetListSelCount(), nWhere), bSilent, ppFailed))
         return FALSE;
-    }
-    if (!CheckRange(!bSilent)) {
-        if (ppFailed != nullptr) *ppFailed = &m_txtFrom;
-        return FALSE;
-    }
-    return TRUE;
+    return Passes(FindRangeFault(), bSilent, ppFailed);
 }
 
 void CPairedDataTab::ReadControls() {
     CDataTabBase::ReadControls();
-    if (!m_bReady) return;
+    if (!IsReady()) return;
     m_pData->SetSelectedGroupCount(0,
                                    m_bDepList ? static_cast<std::uint32_t>(GetListSelCount()) : 1);
 }
@@ -331,88 +349,27 @@ int CPairedDataTab::GetListMode() {
 
 void CPairedDataTab::StoreListMode() {
     m_pData->SetDataSetSelectionMode(0, GetListMode());
-    if (m_bReady) m_pData->Notify(kNotifyDataSelectionChanged);
+    if (IsReady()) m_pData->Notify(kNotifyDataSelectionChanged);
 }
 
 // --- Events ----------------------------------------------------------------------------------
 
-void CPairedDataTab::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
-    CDataTabBase::Notify(pSender, nId, nCode, nData);
-    if (!m_bReady || m_bUpdating != 0) return;
-    if (m_bReadOnly) {
-        ShowLabels();
-        ShowAll();
-        GiveFocusAway();
-        return;
-    }
-    if (pSender == &m_cmbGroup && nCode == ADMN_COMBOSELCHANGE) {
-        ShowAll();
-    } else if (m_bListMode) {
-        OnListEvent(pSender, nCode);
-    } else {
-        OnAssignmentEvent(pSender, nCode);
-    }
-    OnRangeEvent(pSender, nCode);
+void CPairedDataTab::ChangeListSelection() {
+    StoreListMode();
+    AssignDependent();
+    WriteListSelection(GetListMode());
+    ShowLimits();
 }
 
-void CPairedDataTab::OnAssignmentEvent(ADM_Wnd* pSender, int nCode) {
-    if (pSender == &m_btnDependent && nCode == ADMN_CLICKED) {
-        AssignDependent();
-        ShowLimits();
-        m_pData->Notify(kNotifyDataSelectionChanged);
-        return;
-    }
-    for (int i = 0; i < kVariables; ++i) {
-        const auto n = static_cast<std::size_t>(i);
-        if (pSender == &m_abtnVariable[n] && nCode == ADMN_CLICKED) {
-            AssignVariable(i);
-            ShowLimits();
-            m_pData->Notify(kNotifyDataSelectionChanged);
-        } else if (pSender == &m_atxtConstant[n] && nCode == ADMN_TEXTCHANGE) {
-            OnVariableText(i);
-        }
-    }
+void CPairedDataTab::ChangeListText() {
+    m_pData->SetDataSetSelectionMode(0, GetListMode());
+    WriteListText(GetListMode());
+    ShowDependentName(GetActiveList().GetSelection());
+    ShowLimits();
+    m_pData->Notify(kNotifyDataSelectionChanged);
 }
 
-void CPairedDataTab::OnVariableText(int nVariable) {
-    const auto i = static_cast<std::uint32_t>(nVariable);
-    m_pData->SetConstant(i, m_atxtConstant[i].GetValue());
-}
-
-void CPairedDataTab::OnListEvent(ADM_Wnd* pSender, int nCode) {
-    CZxDlgSetListBox& list = GetActiveList();
-    const auto afterSelection = [this] {
-        StoreListMode();
-        const UpdateScope updating(m_bUpdating);
-        AssignDependent();
-        WriteListSelection(GetListMode());
-        ShowLimits();
-    };
-    if (pSender == &list && nCode == ADMN_LISTSELCHANGE) {
-        m_nActiveList = 0;
-        afterSelection();
-    } else if (nCode == ADMN_CLICKED &&
-               (pSender == &m_btnAll || pSender == &m_btnNone || pSender == &m_btnInvert)) {
-        if (pSender == &m_btnAll) list.SelectAll();
-        if (pSender == &m_btnNone) list.SelectNone();
-        if (pSender == &m_btnInvert) list.Invert();
-        afterSelection();
-    } else if (pSender == &m_radList && nCode == ADMN_CLICKED) {
-        EnableListMode();
-        StoreListMode();
-    } else if (pSender == &m_txtList && nCode == ADMN_TEXTCHANGE) {
-        m_pData->SetDataSetSelectionMode(0, GetListMode());
-        WriteListText(GetListMode());
-        {
-            const UpdateScope updating(m_bUpdating);
-            ShowDependentName(list.GetSelection());
-            ShowLimits();
-        }
-        m_pData->Notify(kNotifyDataSelectionChanged);
-    }
-}
-
-void CPairedDataTab::OnRowText() {
+void CPairedDataTab::ChangeRow() {
     if (!CheckRange(false)) return;
     // Both: the other field may have changed while the two were out of order.
     m_pData->SetFirstDataIndex(static_cast<std::uint32_t>(m_txtFrom.GetValue() - 1));
@@ -420,14 +377,9 @@ void CPairedDataTab::OnRowText() {
     m_pData->Notify(kNotifyDataSelectionChanged);
 }
 
-void CPairedDataTab::OnRangeEvent(ADM_Wnd* pSender, int nCode) {
-    if (nCode == ADMN_TEXTCHANGE && (pSender == &m_txtFrom || pSender == &m_txtTo)) {
-        OnRowText();
-    } else if (pSender == &m_chkAll && nCode == ADMN_CLICKED) {
-        m_pData->SetUseFullDataRange(m_chkAll.GetCheck() == BST_CHECKED);
-        EnableRange();
-        CorrectRange();
-        m_pData->Notify(kNotifyPairingChanged);
-        if (CheckRange(false)) m_pData->Notify(kNotifyDataSelectionChanged);
-    }
+void CPairedDataTab::ChangeRange() {
+    m_pData->SetUseFullDataRange(ReadValue(m_chkAll));
+    CorrectRange();
+    m_pData->Notify(kNotifyPairingChanged);
+    if (CheckRange(false)) m_pData->Notify(kNotifyDataSelectionChanged);
 }

@@ -19,13 +19,11 @@ class CPairedDataTab : public CDataTabBase {
     // bDepList: the dependent data are a list of columns.
     CPairedDataTab(CDataOptionsInterface* pData, UINT uTemplateId, bool bDepList, bool bReadOnly);
 
-    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
+    void UpdateControls() override;
     BOOL OnPageShow() override;
     void ReadControls() override;
     // In the list form a column must be selected; the rows must be in order.
     BOOL Validate(BOOL bSilent, ADM_Wnd** ppFailed) override;
-    void SetDisabled(bool bDisabled) override;
 
     // Assigns the current column to a variable, 0 to 5, and makes every other one a constant.
     // Nothing in the list form.
@@ -39,7 +37,10 @@ class CPairedDataTab : public CDataTabBase {
   private:
     static constexpr int kVariables = 6;
 
-    void ShowAll();
+    void ShowOptions() override;
+    void BindAssignment();
+    void BindList();
+    void BindRange();
     void ShowButtons();
     void ShowVariables();
     void CorrectAssignment();
@@ -48,21 +49,20 @@ class CPairedDataTab : public CDataTabBase {
     void AssignDependent();
     void ShowLimits();
     void CorrectRange();
-    void EnableRange();
-    void EnableListMode();
     void StoreListMode();
     std::uint32_t PointsForRange();
     bool HasSeveralVariables() const { return m_pData->GetConstantCount() > 1; }
     int CurrentColumn();
     int GetListMode();
-    void OnVariableText(int nVariable);
-    void OnRowText();
-    void OnAssignmentEvent(ADM_Wnd* pSender, int nCode);
-    void OnListEvent(ADM_Wnd* pSender, int nCode);
-    void OnRangeEvent(ADM_Wnd* pSender, int nCode);
+    CheckResult FindRangeFault();
+    void ChangeListSelection();
+    void ChangeListText();
+    void ChangeRow();
+    void ChangeRange();
 
     bool m_bListMode;
     bool m_bDepList;
+    int m_nAssigned = 0;  // the variable that has the column
 
     std::array<ADM_Button, kVariables> m_abtnVariable;
     std::array<ADM_StaticText, kVariables> m_albVariable;

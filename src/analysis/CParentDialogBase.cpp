@@ -1,10 +1,11 @@
 #include "analysis/CParentDialogBase.h"
 
-#include <charconv>
+#include <algorithm>
 
 #include "ZXADLG.h"
+#include "analysis/CUnitaryDataTab.h"
+#include "analysis/DataChecks.h"
 #include "analysis/DialogMessages.h"
-#include "framework/UpdateScope.h"
 #include "ids.h"
 #include "widgets/Framework.h"
 
@@ -12,12 +13,12 @@ CParentDialogBase::CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData,
                                      ZXADLG_CDlgDataSource* pSource,
                                      const ZXADLG_DlgParams* pParams, UINT uTemplateId,
                                      UINT uTabControlId)
-    : m_pDataRecord(pData),
+    : CEditPage(pParams->bReadOnly != 0),
+      m_pDataRecord(pData),
       m_pFlags(std::make_unique<ZXADLG_DataTabFlags>()),
       m_pSource(pSource),
       m_pParams(pParams),
-      m_bUseDataOptions(pParams->bUseDataOptions != 0),
-      m_bReadOnly(pParams->bReadOnly != 0) {
+      m_bUseDataOptions(pParams->bUseDataOptions != 0) {
     m_hInstance = GetFrameworkInstance();
     m_hParentWnd = hwndParent;
     SetTemplate(MAKEINTRESOURCEA(uTemplateId));
@@ -30,76 +31,110 @@ CParentDialogBase::~CParentDialogBase() {
     m_pFlags.reset();
 }
 
-BOOL CParentDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    const BOOL bResult = ADM_TabbedDialog::OnInitDialog(hWnd, hFocus, lParam);
-    if (m_bReadOnly) DressReadOnly(hWnd);
-    return bResult;
+// --- Building --------------------------------------------------------------------------------
+
+void CParentDialogBase::OfferData(const ZXADLG_DataTabFlags& flags) {
+    *m_pFlags = flags;
+    m_pDataOptions =
+        std::make_unique<CDataOptionsInterface>(m_pDataRecord, m_pSource, m_pFlags.get());
+    m_pDataOptions->SetDeferred(!HasLiveData());
 }
 
-BOOL CParentDialogBase::FinishInitialization(int nLastTab) {
+void CParentDialogBase::AddOptionsTab(std::unique_ptr<ADM_TabSubDialog> pTab) {
+    AddPage(pTab.get());
+    m_vOptionsTabs.push_back(std::move(pTab));
+}
+
+void CParentDialogBase::SetDataTab(std::unique_ptr<CDataTabBase> pTab) {
+    const bool bWasCurrent = m_pDataTab != nullptr && GetCurrentPage() == m_pDataTab.get();
+    if (m_pDataTab != nullptr) RemovePage(m_pDataTab.get());
+    m_pDataTab = std::move(pTab);
+    InsertPage(GetPageCount(), m_pDataTab.get());
+    if (bWasCurrent) BringUpPage(GetPageCount() - 1);
+}
+
+void CParentDialogBase::AddUnitaryDataTab() {
+    if (!m_bUseDataOptions) return;
+    SetDataTab(
+        std::make_unique<CUnitaryDataTab>(m_pDataOptions.get(), IDD_UNITARY_DATA, IsReadOnly()));
+}
+
+bool CParentDialogBase::SetUp() {
+    if (IsReadOnly()) DressReadOnly(m_hWnd);
+    if (m_bInitFailed) {
+        OnCancel();
+        return false;
+    }
     // A memory that points past the last tab is of a dialog with more tabs than this one.
-    if (nLastTab != 0 && !m_bReadOnly && nLastTab < GetPageCount()) SelectPage(nLastTab);
-    m_bReady = true;
-    return TRUE;
+    const int nLastTab = m_pnLastTab != nullptr ? *m_pnLastTab : 0;
+    if (nLastTab != 0 && !IsReadOnly() && nLastTab < GetPageCount()) SelectPage(nLastTab);
+    return true;
 }
 
-BOOL CParentDialogBase::FailInitialization() {
-    OnCancel();
-    return FALSE;
-}
-
-void CParentDialogBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
-    ADM_TabbedDialog::Notify(pSender, nId, nCode, nData);
-    if (!m_bReadOnly || m_bInDataCheck != 0 || m_hWnd == nullptr) return;
-    // Deliberately checked here and nowhere else: a dialog in edit mode never checks its data.
-    CheckData();
-    FocusCancel(m_hWnd);
-}
+// --- Ending ----------------------------------------------------------------------------------
 
 void CParentDialogBase::OnOK() {
-    if (!m_bReadOnly && m_pParams->bDeferredRun == 0 && !m_pDataOptions->UpdateDataInfo()) {
-        ShowErrorString(m_hWnd, IDS_NO_DATA_PROPERTIES);
+    if (!PassChecks()) return;
+    if (!IsReadOnly() && HasLiveData() && !m_pDataOptions->UpdateDataInfo()) {
+        ShowFinding(m_hWnd, {.nStringId = IDS_NO_DATA_PROPERTIES});
         return;
     }
-    if (ValidateAll()) EndDialogWith(ZXADLG_OK);
+    if (!ValidateAll()) return;
+    OnAccepted();
+    if (m_pnLastTab != nullptr && !IsReadOnly()) *m_pnLastTab = GetCurrentPageIndex();
+    EndDialogWith(ZXADLG_OK);
 }
 
 void CParentDialogBase::OnCancel() {
     if (m_bInitFailed) {
         m_bInitFailed = false;
-        const UpdateScope check(m_bInDataCheck);
-        ShowErrorString(m_hWnd, IDS_INIT_FAILED);
+        const UpdateScope updating(m_bUpdating);
+        ShowFinding(m_hWnd, {.nStringId = IDS_INIT_FAILED});
     }
     EndDialogWith(ZXADLG_CANCEL);
 }
 
-void CParentDialogBase::CheckData() {
-    // Once the user has been told, there is nothing to add until the dialog is closed.
-    if (m_bInitFailed) return;
-    const UpdateScope check(m_bInDataCheck);
-    const std::uint32_t uMinSets =
-        m_pSource->GetDataKind() == CDataOptionsInterface::kSheetData ? 2 : 1;
-    const std::uint32_t uGroups = m_pSource->GetGroupCount();
-    for (std::uint32_t uGroup = 0; uGroup < uGroups; ++uGroup) {
-        if (!CheckGroup(uGroup, uMinSets)) m_bInitFailed = true;
+bool CParentDialogBase::PassChecks() {
+    if (m_vChecks.empty()) return true;
+    ReadControls();
+    return std::all_of(m_vChecks.begin(), m_vChecks.end(), [this](const Check& check) {
+        TypedValues typed = TypedTexts(m_hWnd);
+        for (int i = 0; i < GetPageCount(); ++i) typed.merge(TypedTexts(GetPage(i)->GetHandle()));
+        const CheckResult result = check(typed);
+        return !result.has_value() || Answer(*result);
+    });
+}
+
+// Whether the next check is to run.
+bool CParentDialogBase::Answer(const Finding& finding) {
+    const int nPage =
+        finding.nPage == Finding::kCurrentPage ? GetCurrentPageIndex() : finding.nPage;
+    BringUpPage(nPage);
+    const UINT nButton = ShowFinding(m_hWnd, finding);
+    const Finding::Answer* pAnswer = finding.FindAnswer(nButton);
+    if (pAnswer != nullptr && pAnswer->step) pAnswer->step();
+    switch (pAnswer != nullptr ? pAnswer->eNext : Finding::Next::kStay) {
+        case Finding::Next::kGoOn:
+            return true;
+        case Finding::Next::kCancel:
+            EndDialogWith(ZXADLG_CANCEL);
+            return false;
+        default:
+            FocusControl(*GetPage(nPage), finding.nControl);
+            return false;
     }
 }
 
-bool CParentDialogBase::CheckGroup(std::uint32_t uGroup, std::uint32_t uMinSets) {
-    const std::uint32_t uSets = m_pSource->GetSetCount(uGroup);
-    for (std::uint32_t uSet = 0; uSet < uSets; ++uSet) {
-        const bool bEmpty = m_pSource->GetPointCount(uGroup, uSet, nullptr, 0) == 0;
-        const std::uint32_t uSetsNow = m_pSource->GetSetCount(uGroup);
-        if (bEmpty || uSetsNow == 0) {
-            ShowErrorString(m_hWnd, IDS_EMPTY_SETS);
-            return false;
-        }
-        if (uSetsNow < uMinSets) {
-            char szMin[12] = {};
-            std::to_chars(szMin, szMin + sizeof szMin - 1, uMinSets);
-            ShowErrorString(m_hWnd, IDS_TOO_FEW_SETS, szMin);
-            return false;
-        }
+// --- The data of a read-only dialog ----------------------------------------------------------
+
+void CParentDialogBase::Undo() {
+    // Deliberately checked here and nowhere else: a dialog in edit mode never checks its data.
+    CheckData();
+}
+
+void CParentDialogBase::CheckData() {
+    for (const Finding& finding : FindUnusableGroups(*m_pSource)) {
+        ShowFinding(m_hWnd, finding);
+        m_bInitFailed = true;
     }
-    return true;
 }

@@ -1,53 +1,93 @@
 // The base of the tabbed analysis dialogs: options tabs, a data tab, and the model of the data
 // selection.
 //
-// A subclass's constructor sets the flags, creates the data interface (m_pDataOptions), its options
-// interface, its options tab and, with bUseDataOptions, the data tab (m_pDataTab), and adds the
-// tabs in that order. Its initialisation calls the base, gives up with FailInitialization when the
-// mark of a failed set-up is raised, and ends with FinishInitialization.
+// A subclass's constructor creates the model (OfferData), its options interface and its options
+// tabs, and, with bUseDataOptions, the data tab; it adds them in that order, adds its checks, and
+// names the memory of its last tab. One whose set-up fails raises m_bInitFailed: the dialog then
+// says so and ends with 2.
 //
-// In read-only mode nothing can be changed: every event runs the check of the data and gives the
-// focus to the Cancel button, whose caption is then "Close". Record, source and parameters outlive
-// the dialog.
+// At OK the checks run first, in order; then the description of the data is rebuilt; then all pages
+// are validated; and only then anything is applied and the tab remembered. In read-only mode
+// nothing can be changed: every event runs the check of the data and gives the focus to the Cancel
+// button, whose caption is then "Close". Record, source and parameters outlive the dialog.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <vector>
 
+#include "analysis/CDataTabBase.h"
+#include "analysis/CEditPage.h"
+#include "analysis/COptionsTabBase.h"
 #include "contract/CDataOptionsInterface.h"
+#include "contract/Finding.h"
 #include "framework/ADM_TabbedDialog.h"
 #include "zxadlg/DlgParams.h"
 
-class CParentDialogBase : public ADM_TabbedDialog {
+class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
   public:
     CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
                       const ZXADLG_DlgParams* pParams, UINT uTemplateId, UINT uTabControlId);
     ~CParentDialogBase() override;
 
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
-    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
-    // Describes the data in the record, validates everything and ends with 1.
     void OnOK() override;
     void OnCancel() override;
 
   protected:
-    // For the end of a subclass's initialisation: nLastTab is the tab of its last OK.
-    BOOL FinishInitialization(int nLastTab);
-    // For its beginning: ends a dialog whose set-up failed. Answers false.
-    BOOL FailInitialization();
+    using Check = std::function<CheckResult(const TypedValues&)>;
+
+    // Creates the model of the data selection, which offers what the flags say.
+    void OfferData(const ZXADLG_DataTabFlags& flags);
+    // Adds a tab behind those that are there.
+    void AddOptionsTab(std::unique_ptr<ADM_TabSubDialog> pTab);
+    // Makes a tab the data tab, behind the options tabs. In an open dialog it takes the place of
+    // the one before.
+    void SetDataTab(std::unique_ptr<CDataTabBase> pTab);
+    // Adds a check that runs at OK behind those that are there, and at OK alone.
+    void AddCheck(Check check) { m_vChecks.push_back(std::move(check)); }
+    // Where the tab of the last successful OK is kept; it outlives the dialog.
+    void RememberTab(int* pnLastTab) { m_pnLastTab = pnLastTab; }
+
+    // The usual dialog: one options tab, and the data tab of one family of sets. Tab::Options is
+    // built with (record, source), and Tab with (options, parameters, model).
+    template <class Tab, class Record>
+    Tab* BuildTabs(Record* pOptions, const ZXADLG_DataTabFlags& flags, int* pnLastTab) {
+        OfferData(flags);
+        auto pInterface = std::make_unique<typename Tab::Options>(pOptions, m_pSource);
+        auto pTab = std::make_unique<Tab>(pInterface.get(), m_pParams, m_pDataOptions.get());
+        Tab* pResult = pTab.get();
+        m_pOptions = std::move(pInterface);
+        AddOptionsTab(std::move(pTab));
+        AddUnitaryDataTab();
+        RememberTab(pnLastTab);
+        return pResult;
+    }
+    void AddUnitaryDataTab();
+
+    bool SetUp() override;
+    // Checks the data.
+    void Undo() override;
+    // What the dialog writes when everything has passed, before it ends.
+    virtual void OnAccepted() {}
+    // Whether checks that need live data run.
+    bool HasLiveData() const { return m_pParams->bDeferredRun == 0; }
 
     std::unique_ptr<CDataOptionsInterface> m_pDataOptions;
-    std::unique_ptr<ADM_TabSubDialog> m_pDataTab;  // null when the dialog has none
+    std::unique_ptr<COptionsInterfaceBase> m_pOptions;
+    std::vector<std::unique_ptr<ADM_TabSubDialog>> m_vOptionsTabs;
+    std::unique_ptr<CDataTabBase> m_pDataTab;  // null when the dialog has none
     ZXADLG_DataOptions* m_pDataRecord;
     std::unique_ptr<ZXADLG_DataTabFlags> m_pFlags;
     ZXADLG_CDlgDataSource* m_pSource;
     const ZXADLG_DlgParams* m_pParams;
-    bool m_bReady = false;       // set at the end of the subclass's initialisation
     bool m_bInitFailed = false;  // the failed set-up mark
     bool m_bUseDataOptions;
-    bool m_bReadOnly;
-    BOOL m_bInDataCheck = 0;
 
   private:
+    bool PassChecks();
+    bool Answer(const Finding& finding);
     void CheckData();
-    bool CheckGroup(std::uint32_t uGroup, std::uint32_t uMinSets);
+
+    std::vector<Check> m_vChecks;
+    int* m_pnLastTab = nullptr;
 };

@@ -4,7 +4,7 @@
 
 #include "ZXADLG.h"
 #include "analysis/CaptionText.h"
-#include "analysis/DialogMessages.h"
+#include "analysis/DataChecks.h"
 #include "contract/NotificationCodes.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
@@ -41,26 +41,41 @@ CUnitaryDataTab::CUnitaryDataTab(CDataOptionsInterface* pData, UINT uTemplateId,
     : CDataTabBase(uTemplateId, pData, bReadOnly) {
     m_radSets.Setup(this, IDC_SETS_VISIBLE, IDC_SETS_LISTED, 5, kSetModes);
     m_radGroups.Setup(this, IDC_GROUPS_VISIBLE, IDC_GROUPS_ONE, 8, kGroupModes);
-    RegisterControl(IDC_REGION_LABEL, &m_lblRegion);
-    RegisterControl(IDC_REGION, &m_cmbRegion);
-    RegisterControl(IDC_FORCE_TO_ZERO, &m_chkForceToZero);
+    Label(IDC_REGION_LABEL, m_lblRegion);
+    Label(IDC_REGION, m_cmbRegion);
+    Label(IDC_FORCE_TO_ZERO, m_chkForceToZero);
+
+    OnEvent(m_lstSets, ADMN_LISTSELCHANGE, [this] { ChangeSelection(); });
+    OnEvent(m_lstSets2, ADMN_LISTSELCHANGE, [this] { ChangeSelection(); });
+    OnEvent(m_txtList, ADMN_TEXTCHANGE, [this] { WriteListText(GetSetMode()); });
+    BindTools([this] { ChangeSelection(); });
+    // Each selection has modes, a list and a group of its own.
+    OnEvent(m_radDataSet, ADMN_CLICKED, [this] {
+        ShowSelection(false);
+        WriteListSelection(GetSetMode());
+    });
+    OnEvent(m_radSets, ADMN_CLICKED, [this] {
+        ApplySetMode();
+        m_pData->Notify(kNotifyDataSelectionChanged);
+    });
+    OnEvent(m_radGroups, ADMN_CLICKED, [this] {
+        ApplyGroupMode();
+        ShowGroupSets();
+    });
+    OnEvent(m_cmbGroup, ADMN_COMBOSELCHANGE, [this] { ChangeGroupOfSets(); });
+    OnEvent(m_cmbRegion, ADMN_COMBOSELCHANGE, [this] { ChangeRegion(); });
+    OnEvent(m_chkForceToZero, ADMN_CLICKED,
+            [this] { m_pData->SetForceToZero(ReadValue(m_chkForceToZero)); });
 }
 
-BOOL CUnitaryDataTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    const BOOL bResult = CDataTabBase::OnInitDialog(hWnd, hFocus, lParam);
-    const UpdateScope updating(m_bUpdating);
-    m_chkForceToZero.Show(m_pData->AllowsForceToZero() ? SW_SHOW : SW_HIDE);
-    if (m_pData->GetFlags().bShowSetTools == 0) {
-        m_btnAll.Show(SW_HIDE);
-        m_btnNone.Show(SW_HIDE);
-        m_btnInvert.Show(SW_HIDE);
-    }
-    const bool bShowGroups = m_pData->GetFlags().bShowGroups != 0;
-    m_radGroups.Show(bShowGroups ? SW_SHOW : SW_HIDE);
-    if (!bShowGroups) CloseGroupGap();
-    ShowSelection(true);
-    m_bReady = true;
-    return bResult;
+bool CUnitaryDataTab::SetUp() {
+    CDataTabBase::SetUp();
+    const ZXADLG_DataTabFlags& flags = m_pData->GetFlags();
+    ShowControls({&m_chkForceToZero}, m_pData->AllowsForceToZero());
+    if (flags.bShowSetTools == 0) ShowControls({&m_btnAll, &m_btnNone, &m_btnInvert}, false);
+    ShowControls({&m_radGroups}, flags.bShowGroups != 0);
+    if (flags.bShowGroups == 0) CloseGroupGap();
+    return true;
 }
 
 // Without the group selector the region stands at the top of its column, where that would be.
@@ -89,6 +104,7 @@ int CUnitaryDataTab::GetSetMode() {
 
 void CUnitaryDataTab::ShowSelection(bool bFill) {
     const UpdateScope updating(m_bUpdating);
+    m_bFillRegions = false;
     m_cmbRegion.SetCurSel(m_nRegionPosition);
     int eSetMode = m_pData->GetDataSetSelectionMode(m_nActiveList);
     // Only a data file has hidden and active sets.
@@ -109,7 +125,6 @@ void CUnitaryDataTab::ShowSelection(bool bFill) {
     ShowCount();
     ShowSetCaptions();
     ShowGroupCaptions();
-    EnableRadios();
     if (bShowGroups) {
         m_radGroups.SetValue(eGroupMode);
         ApplyGroupMode();
@@ -183,29 +198,25 @@ BOOL CUnitaryDataTab::OnPageShow() {
     return bResult;
 }
 
-// --- Enabling --------------------------------------------------------------------------------
+// --- Rules -----------------------------------------------------------------------------------
 
-void CUnitaryDataTab::EnableByMode(int eMode) {
-    const bool bList = eMode == Model::kListedSets && !m_bDisabled;
-    m_txtList.Enable(eMode == Model::kTypedSets && !m_bDisabled);
-    GetActiveList().Enable(bList);
-    m_btnAll.Enable(bList);
-    m_btnNone.Enable(bList);
-    m_btnInvert.Enable(bList);
-}
-
-void CUnitaryDataTab::EnableRadios() {
-    const bool bFile = m_pData->IsFileData() && !m_bDisabled;
-    for (int i = 0; i < 3; ++i) m_radSets.EnableButton(i, bFile);
+void CUnitaryDataTab::UpdateControls() {
+    CDataTabBase::UpdateControls();
+    const int eMode = GetSetMode();
+    const bool bFile = m_pData->IsFileData();
     const bool bGroups = bFile && m_pData->GetFlags().bShowGroups != 0;
-    m_radGroups.EnableButton(-1, bGroups);
-}
-
-void CUnitaryDataTab::SetDisabled(bool bDisabled) {
-    CDataTabBase::SetDisabled(bDisabled);
-    if (bDisabled || m_hWnd == nullptr) return;
-    ShowLabels();
-    ShowSelection(false);
+    const bool bList = eMode == Model::kListedSets;
+    EnableControls({&m_txtList}, eMode == Model::kTypedSets);
+    EnableControls({&m_btnAll, &m_btnNone, &m_btnInvert}, bList);
+    // A list stays alive in read-only mode, to be scrolled.
+    GetActiveList().Enable((bList || IsReadOnly()) && !IsDisabled());
+    m_lblSets.Enable(GetActiveList().IsEnabled());
+    // Only a data file has hidden and active sets, and groups chosen by a rule; other data keep to
+    // the group of the combo box.
+    for (int i = 0; i < 3; ++i) EnableButton(m_radSets, i, bFile);
+    EnableButton(m_radGroups, -1, bGroups);
+    EnableControls({&m_lblGroup, &m_cmbGroup},
+                   !bFile || m_radGroups.GetValue() == Model::kOneGroup);
 }
 
 void CUnitaryDataTab::SelectByMode(int eMode) {
@@ -232,16 +243,14 @@ void CUnitaryDataTab::ApplySetMode() {
     const int eMode = GetSetMode();
     m_pData->SetDataSetSelectionMode(m_nActiveList, eMode);
     SelectByMode(eMode);
-    EnableByMode(eMode);
 }
 
 void CUnitaryDataTab::ApplyGroupMode() {
-    if (m_cmbGroup.GetCount() > 0 && m_bReady) m_pData->Notify(kNotifyDataSelectionChanged);
+    if (m_cmbGroup.GetCount() > 0 && IsReady()) m_pData->Notify(kNotifyDataSelectionChanged);
     const int eMode = m_radGroups.GetValue();
     // Only a data file has the group radios; other data keep to the group of the combo box.
     if (m_pData->IsFileData()) {
         const UpdateScope updating(m_bUpdating);
-        m_cmbGroup.Enable(eMode == Model::kOneGroup && !m_bDisabled);
         if (eMode == Model::kActiveGroup) {
             m_cmbGroup.SetCurSel(static_cast<int>(m_pData->GetDataSource()->GetActiveGroup()));
         } else if (eMode == Model::kOneGroup) {
@@ -271,69 +280,29 @@ void CUnitaryDataTab::ReadControls() {
 }
 
 BOOL CUnitaryDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
-    if (GetListSelCount() == 0) {
-        if (!bSilent) ShowErrorString(MessageOwner(), IDS_NO_DATA_SELECTED);
-        if (ppFailed != nullptr) *ppFailed = &GetActiveList();
-        return FALSE;
-    }
-    return CDataTabBase::Validate(bSilent, ppFailed);
+    const int nWhere =
+        GetSetMode() == Model::kTypedSets ? IDC_SET_LIST_TEXT : GetActiveList().GetControlId();
+    return Passes(CheckAnySetSelected(GetListSelCount(), nWhere), bSilent, ppFailed) &&
+           CDataTabBase::Validate(bSilent, ppFailed);
 }
 
 // --- Events ----------------------------------------------------------------------------------
 
-void CUnitaryDataTab::AfterTool() {
+void CUnitaryDataTab::ChangeSelection() {
     WriteListSelection(GetSetMode());
+}
+
+void CUnitaryDataTab::ChangeGroupOfSets() {
+    ApplyGroupMode();
+    ApplySetMode();
+    ShowCount();
+    m_pData->Notify(kNotifyDataSelectionChanged);
 }
 
 void CUnitaryDataTab::ChangeRegion() {
     TakeRegion();
     m_pData->Notify(kNotifyRegionChanged);
-    if (m_pData->GetFlags().bUseStoredInfo == 0) m_pData->UpdateDataInfo();
+    m_pData->UpdateDataInfo();
     m_pData->Notify(kNotifyRegionRecount);
     m_pData->Notify(kNotifyDataSelectionChanged);
-}
-
-void CUnitaryDataTab::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
-    CDataTabBase::Notify(pSender, nId, nCode, nData);
-    if (!m_bReady || m_bUpdating != 0) return;
-    if (m_bReadOnly) {
-        ShowLabels();
-        ShowSelection(false);
-        GiveFocusAway();
-        return;
-    }
-    if (nCode == ADMN_CLICKED) {
-        if (pSender == &m_radDataSet) {
-            // Each selection has modes, a list and a group of its own.
-            ShowSelection(false);
-            WriteListSelection(GetSetMode());
-        } else if (pSender == &m_radSets) {
-            ApplySetMode();
-            m_pData->Notify(kNotifyDataSelectionChanged);
-        } else if (pSender == &m_radGroups) {
-            ApplyGroupMode();
-            ShowGroupSets();
-        } else if (pSender == &m_chkForceToZero) {
-            m_pData->SetForceToZero(m_chkForceToZero.GetCheck() == BST_CHECKED);
-        } else if (pSender == &m_btnAll || pSender == &m_btnNone || pSender == &m_btnInvert) {
-            CZxDlgSetListBox& list = GetActiveList();
-            const int nTop = list.GetTopIndex();
-            if (pSender == &m_btnAll) list.SelectAll();
-            if (pSender == &m_btnNone) list.SelectNone();
-            if (pSender == &m_btnInvert) list.Invert();
-            list.SetTopIndex(nTop);
-            AfterTool();
-        }
-    } else if (nCode == ADMN_LISTSELCHANGE && pSender == &GetActiveList()) {
-        WriteListSelection(GetSetMode());
-    } else if (nCode == ADMN_COMBOSELCHANGE && pSender == &m_cmbRegion) {
-        ChangeRegion();
-    } else if (nCode == ADMN_COMBOSELCHANGE && pSender == &m_cmbGroup) {
-        ApplyGroupMode();
-        ApplySetMode();
-        ShowCount();
-        m_pData->Notify(kNotifyDataSelectionChanged);
-    } else if (nCode == ADMN_TEXTCHANGE && pSender == &m_txtList) {
-        WriteListText(GetSetMode());
-    }
 }

@@ -11,18 +11,18 @@ class CUnitaryDataTab : public CDataTabBase {
   public:
     CUnitaryDataTab(CDataOptionsInterface* pData, UINT uTemplateId, bool bReadOnly);
 
-    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
+    void UpdateControls() override;
     BOOL OnPageShow() override;
     void ReadControls() override;
     // At least one set must be selected.
     BOOL Validate(BOOL bSilent, ADM_Wnd** ppFailed) override;
-    void SetDisabled(bool bDisabled) override;
 
     // Shows the stored selection; the combo boxes are filled only with bFill.
     void ShowSelection(bool bFill);
 
   private:
+    bool SetUp() override;
+    void ShowOptions() override { ShowSelection(m_bFillRegions); }
     void CloseGroupGap();
     int GetSetMode();
     void ShowRegion(bool bFill);
@@ -32,16 +32,16 @@ class CUnitaryDataTab : public CDataTabBase {
     void ShowSetCaptions();
     void ShowGroupCaptions();
     void SelectByMode(int eMode);
-    void EnableByMode(int eMode);
-    void EnableRadios();
     void ApplySetMode();
     void ApplyGroupMode();
     void ChangeRegion();
-    void AfterTool();
+    void ChangeSelection();
+    void ChangeGroupOfSets();
 
     int m_eGroupMode = CDataOptionsInterface::kVisibleGroups;  // in force
     std::uint32_t m_uSpecifiedGroup = 0;
     int m_nRegionPosition = 0;
+    bool m_bFillRegions = true;  // until they have been shown once
 
     ADM_RadioButtons m_radSets;
     ADM_RadioButtons m_radGroups;

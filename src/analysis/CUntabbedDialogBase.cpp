@@ -1,82 +1,69 @@
 #include "analysis/CUntabbedDialogBase.h"
 
+#include <algorithm>
+
 #include "ZXADLG.h"
-#include "analysis/DialogMessages.h"
-#include "analysis/SelectionControls.h"
-#include "contract/CAnalysisOptionsInterfaceBase.h"
-#include "framework/UpdateScope.h"
 #include "ids.h"
 #include "widgets/Framework.h"
 
-// --- Controls --------------------------------------------------------------------------------
+// --- A page and a dialog in one --------------------------------------------------------------
+
+CSinglePage::CSinglePage(HWND hwndParent, UINT uTemplateId, bool bReadOnly) : CEditPage(bReadOnly) {
+    m_hInstance = GetFrameworkInstance();
+    m_hParentWnd = hwndParent;
+    SetTemplate(MAKEINTRESOURCEA(uTemplateId));
+}
+
+BOOL CSinglePage::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
+    const BOOL bResult = CEditPage::OnInitDialog(hWnd, hFocus, lParam);
+    if (IsReadOnly()) DressReadOnly(hWnd);
+    return bResult;
+}
+
+void CSinglePage::OnOK() {
+    const bool bPassed =
+        std::all_of(m_vChecks.begin(), m_vChecks.end(), [this](const Check& check) {
+            const CheckResult result = check(TypedTexts(m_hWnd));
+            return !result.has_value() || Answer(*result);
+        });
+    if (bPassed && PrepareOK()) CEditPage::OnOK();
+}
+
+bool CSinglePage::Answer(const Finding& finding) {
+    const UINT nButton = ShowFinding(m_hWnd, finding);
+    const Finding::Answer* pAnswer = finding.FindAnswer(nButton);
+    if (pAnswer != nullptr && pAnswer->step) pAnswer->step();
+    const Finding::Next eNext = pAnswer != nullptr ? pAnswer->eNext : Finding::Next::kStay;
+    if (eNext == Finding::Next::kCancel) EndDialogWith(IDCANCEL);
+    if (eNext == Finding::Next::kStay) FocusControl(*this, finding.nControl);
+    return eNext == Finding::Next::kGoOn;
+}
+
+// --- With the shared options and a model of the data -------------------------------------------
 
 CUntabbedDialogBase::CUntabbedDialogBase(HWND hwndParent, UINT uTemplateId,
                                          ZXADLG_CDlgDataSource* pSource,
                                          const ZXADLG_DlgParams* pParams, ZXADLG_DataOptions* pData)
-    : m_pSource(pSource),
+    : CSinglePage(hwndParent, uTemplateId, pParams->bReadOnly != 0),
+      m_pSource(pSource),
       m_pParams(pParams),
-      m_pDataRecord(pData),
-      m_bReadOnly(pParams->bReadOnly != 0) {
-    m_hInstance = GetFrameworkInstance();
-    m_hParentWnd = hwndParent;
-    SetTemplate(MAKEINTRESOURCEA(uTemplateId));
-    // The id between the two buttons belongs to another control.
-    constexpr int kDestinations[] = {IDC_DESTINATION_APPEND, IDC_DESTINATION_REPLACE};
-    RegisterControl(IDC_DESTINATION_GROUP, &m_grpDestination);
-    m_radDestination.SetupIds(this, 2, kDestinations, nullptr);
-    RegisterControl(IDC_DYNAMIC_LINK, &m_chkDynamicLink);
+      m_pDataRecord(pData) {
+    m_results.Register(this);
 }
 
-BOOL CUntabbedDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    const BOOL bResult = ADM_Dialog::OnInitDialog(hWnd, hFocus, lParam);
-    if (m_bReadOnly) DressReadOnly(hWnd);
-    ShowSharedOptions();
-    const int nDestination = m_pParams->bShowDestination != 0 ? SW_SHOW : SW_HIDE;
-    m_grpDestination.Show(nDestination);
-    m_radDestination.Show(nDestination);
-    m_chkDynamicLink.Show(m_pParams->bShowDynamicLink != 0 ? SW_SHOW : SW_HIDE);
-    return bResult;
+void CUntabbedDialogBase::SetOptionsInterface(CAnalysisOptionsInterfaceBase* pOptions) {
+    m_pOptions = pOptions;
+    BindResults(m_results, pOptions);
 }
 
-// --- Display ---------------------------------------------------------------------------------
-
-void CUntabbedDialogBase::ShowSharedOptions() {
-    if (m_pOptions == nullptr) return;
-    const UpdateScope updating(m_bUpdating);
-    SelectButton(m_radDestination, m_pOptions->GetDestinationOption());
-    m_chkDynamicLink.SetCheck(m_pOptions->GetDynamicLink() ? BST_CHECKED : BST_UNCHECKED);
+void CUntabbedDialogBase::UpdateControls() {
+    m_results.ShowWhere(*m_pParams);
 }
 
-// --- Events ----------------------------------------------------------------------------------
-
-void CUntabbedDialogBase::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
-    ADM_Dialog::Notify(pSender, nId, nCode, nData);
-    if (!m_bReady || m_bUpdating != 0) return;
-    if (m_bReadOnly) {
-        ShowSharedOptions();
-        FocusCancel(m_hWnd);
-        return;
-    }
-    if (m_pOptions == nullptr || nCode != ADMN_CLICKED) return;
-    if (pSender == &m_radDestination) {
-        m_pOptions->SetDestinationOption(m_radDestination.GetSelected());
-    } else if (pSender == &m_chkDynamicLink) {
-        m_pOptions->SetDynamicLink(m_chkDynamicLink.GetCheck() == BST_CHECKED);
-    }
-}
-
-void CUntabbedDialogBase::OnOK() {
-    if (!m_bReadOnly && m_pParams->bDeferredRun == 0 && m_pDataOptionsObject != nullptr &&
-        !m_pDataOptionsObject->UpdateDataInfo()) {
-        ShowErrorString(m_hWnd, IDS_NO_DATA_PROPERTIES);
-        return;
-    }
-    ReadControls();
-    ADM_Wnd* pFailed = nullptr;
-    if (!Validate(FALSE, &pFailed)) {
-        if (pFailed != nullptr) pFailed->SetFocus();
-        return;
-    }
-    if (IsModified()) OnApply();
-    EndDialogWith(ZXADLG_OK);
+bool CUntabbedDialogBase::PrepareOK() {
+    if (IsReadOnly() || m_pParams->bDeferredRun != 0 || m_pDataOptionsObject == nullptr)
+        return true;
+    if (m_pDataOptionsObject->UpdateDataInfo()) return true;
+    ShowFinding(m_hWnd, {.nStringId = IDS_NO_DATA_PROPERTIES});
+    return false;
 }

@@ -1,48 +1,63 @@
-// The base of the single-page analysis dialogs. A subclass creates its options interface, hands it
-// to SetOptionsInterface, may create a data interface (m_pDataOptionsObject), and sets m_bReady at
-// the end of its initialisation.
+// The bases of the single-page analysis dialogs.
 //
-// Record, source and parameters outlive the dialog. In read-only mode every event shows the record
-// again and gives the focus to the Cancel button, whose caption is then "Close".
+// CSinglePage is a page and a dialog in one. Its checks run at OK, in order, before anything else.
+// CUntabbedDialogBase adds the options that most analyses share, and the model of the data where
+// the dialog has one: it is rebuilt at OK, outside read-only and deferred mode. A subclass creates
+// its options interface in its constructor and hands it to SetOptionsInterface.
+//
+// Record, source and parameters outlive the dialog.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
+#include "analysis/CEditPage.h"
 #include "contract/CDataOptionsInterface.h"
-#include "framework/ADM_Button.h"
+#include "contract/Finding.h"
 #include "framework/ADM_Dialog.h"
-#include "framework/ADM_RadioButtons.h"
-#include "framework/ADM_Static.h"
 #include "zxadlg/DlgParams.h"
 
-class CAnalysisOptionsInterfaceBase;
+class CSinglePage : public CEditPage<ADM_Dialog> {
+  public:
+    CSinglePage(HWND hwndParent, UINT uTemplateId, bool bReadOnly);
 
-class CUntabbedDialogBase : public ADM_Dialog {
+    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
+    // Walks the checks, reads and validates, applies, and ends with 1.
+    void OnOK() override;
+
+  protected:
+    using Check = std::function<CheckResult(const TypedValues&)>;
+
+    void AddCheck(Check check) { m_vChecks.push_back(std::move(check)); }
+    // What has to be done between the checks and the validation. False keeps the dialog open.
+    virtual bool PrepareOK() { return true; }
+
+  private:
+    bool Answer(const Finding& finding);
+
+    std::vector<Check> m_vChecks;
+};
+
+class CUntabbedDialogBase : public CSinglePage {
   public:
     CUntabbedDialogBase(HWND hwndParent, UINT uTemplateId, ZXADLG_CDlgDataSource* pSource,
                         const ZXADLG_DlgParams* pParams, ZXADLG_DataOptions* pData);
 
-    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
-    // Describes the data in the record, reads and validates, applies, and ends with 1.
-    void OnOK() override;
+    void UpdateControls() override;
 
   protected:
-    // Not owned.
-    void SetOptionsInterface(CAnalysisOptionsInterfaceBase* pOptions) { m_pOptions = pOptions; }
-    void ShowSharedOptions();
+    // Not owned. Binds the shared options to it.
+    void SetOptionsInterface(CAnalysisOptionsInterfaceBase* pOptions);
+    bool PrepareOK() override;
 
     CAnalysisOptionsInterfaceBase* m_pOptions = nullptr;
     ZXADLG_CDlgDataSource* m_pSource;
     const ZXADLG_DlgParams* m_pParams;
     std::unique_ptr<CDataOptionsInterface> m_pDataOptionsObject;
     ZXADLG_DataOptions* m_pDataRecord;
-    BOOL m_bUpdating = 0;
-    bool m_bReadOnly;
-    bool m_bReady = false;
 
   private:
-    ADM_Static m_grpDestination;
-    ADM_RadioButtons m_radDestination;
-    ADM_Button m_chkDynamicLink;
+    ResultControls m_results;
 };

@@ -2,10 +2,11 @@
 
 #include "text/BoundedText.h"
 
-void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char* szArgument) {
+void FormatCaption(char* szBuffer, int nSize, const char* szTemplate,
+                   const std::vector<std::string>& vArguments) {
     BoundedWriter writer(szBuffer, nSize);
     if (szTemplate == nullptr) return;
-    bool bUsed = false;
+    std::size_t nUsed = 0;
     for (const char* p = szTemplate; *p != '\0'; ++p) {
         if (*p != '%') {
             writer.Put(*p);
@@ -15,11 +16,15 @@ void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char
         if (*p == '\0') return;
         if (*p == '%') {
             writer.Put('%');
-        } else if ((*p == 's' || *p == 'd') && !bUsed) {
-            bUsed = true;
-            if (szArgument != nullptr) writer.Put(szArgument);
+        } else if ((*p == 's' || *p == 'd') && nUsed < vArguments.size()) {
+            writer.Put(vArguments[nUsed++]);
         }
     }
+}
+
+void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char* szArgument) {
+    FormatCaption(szBuffer, nSize, szTemplate,
+                  std::vector<std::string>{szArgument != nullptr ? szArgument : ""});
 }
 
 void LowerNoun(char* szBuffer, int nSize, const char* szNoun) {

@@ -1,7 +1,9 @@
-// Captions and messages that hold one place for a text from outside, such as the host's noun.
+// Captions and messages that hold places for texts from outside, such as the host's noun.
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 #include "platform/platform.h"
 
@@ -9,6 +11,9 @@
 // "%%" gives "%", any other conversion nothing; the argument stands as it is, whatever it holds.
 // Null texts are empty.
 void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char* szArgument);
+// The same for several: each "%s" or "%d" takes the next argument, one too many nothing.
+void FormatCaption(char* szBuffer, int nSize, const char* szTemplate,
+                   const std::vector<std::string>& vArguments);
 
 template <std::size_t N>
 void FormatCaption(char (&szBuffer)[N], const char* szTemplate, const char* szArgument) {

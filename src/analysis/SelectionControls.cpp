@@ -1,12 +1,10 @@
 #include "analysis/SelectionControls.h"
 
-#include <charconv>
-#include <cstring>
-#include <iterator>
+#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "ZXADLG.h"
-#include "framework/ADM_RadioButtons.h"
 #include "ids.h"
 #include "text/BoundedText.h"
 #include "widgets/Framework.h"
@@ -34,10 +32,6 @@ class RedrawScope {
 
 }  // namespace
 
-void SelectButton(ADM_RadioButtons& radButtons, int nIndex) {
-    radButtons.SetSelected(nIndex >= 0 && nIndex < radButtons.GetCount() ? nIndex : 0);
-}
-
 // --- Groups ----------------------------------------------------------------------------------
 
 void CZxDlgGroupCombo::Fill(ZXADLG_CDlgDataSource* pSource, bool bAll) {
@@ -51,6 +45,15 @@ void CZxDlgGroupCombo::Fill(ZXADLG_CDlgDataSource* pSource, bool bAll) {
         if (bAll || pSource->IsGroupVisible(g)) AddString(szKept);
     }
     SetCurSel(0);
+}
+
+void CZxDlgGroupCombo::SelectGroup(std::uint32_t uGroup) {
+    const int nLast = GetCount() - 1;
+    SetCurSel(std::cmp_less(uGroup, nLast) ? static_cast<int>(uGroup) : nLast);
+}
+
+std::uint32_t CZxDlgGroupCombo::GetGroup() {
+    return static_cast<std::uint32_t>(std::max(GetCurSel(), 0));
 }
 
 void CZxDlgGroupListBox::Fill(ZXADLG_CDlgFileSource* pSource) {
@@ -189,6 +192,14 @@ void CZxDlgDataSetCombo::Fill(std::uint32_t uGroup, ZXADLG_CDlgDataSource* pSour
     SetCurSel(0);
 }
 
+void CZxDlgDataSetCombo::SelectSet(std::uint32_t uSet) {
+    SetCurSel(std::cmp_less(uSet, GetCount()) ? static_cast<int>(uSet) : 0);
+}
+
+std::uint32_t CZxDlgDataSetCombo::GetSet() {
+    return static_cast<std::uint32_t>(std::max(GetCurSel(), 0));
+}
+
 // --- Regions ---------------------------------------------------------------------------------
 
 void CZxDlgRegionCombo::Fill(ZXADLG_CDlgDataSource* pSource) {
@@ -241,16 +252,22 @@ void CZxDlgWaveformCombo::SelectByValue(std::uint32_t uNumber) {
 
 namespace {
 
-constexpr int kEpochCodes = 20;
-constexpr int kLevelCodes = 10;
 constexpr std::int32_t kFirstEpochRegion = 26;
 
-// Levels have the odd ids and durations the even ones.
-UINT EpochStringId(int nCode) {
-    return nCode < kLevelCodes
-               ? static_cast<UINT>(IDS_EPOCH_A_LEVEL + 2 * nCode)
-               : static_cast<UINT>(IDS_EPOCH_A_DURATION + 2 * (nCode - kLevelCodes));
-}
+// Levels have the odd string ids and durations the even ones.
+constexpr Choice<int> kEpochs[] = {
+    {0, IDS_EPOCH_A_LEVEL},          {1, IDS_EPOCH_A_LEVEL + 2},
+    {2, IDS_EPOCH_A_LEVEL + 4},      {3, IDS_EPOCH_A_LEVEL + 6},
+    {4, IDS_EPOCH_A_LEVEL + 8},      {5, IDS_EPOCH_A_LEVEL + 10},
+    {6, IDS_EPOCH_A_LEVEL + 12},     {7, IDS_EPOCH_A_LEVEL + 14},
+    {8, IDS_EPOCH_A_LEVEL + 16},     {9, IDS_EPOCH_A_LEVEL + 18},
+    {10, IDS_EPOCH_A_DURATION},      {11, IDS_EPOCH_A_DURATION + 2},
+    {12, IDS_EPOCH_A_DURATION + 4},  {13, IDS_EPOCH_A_DURATION + 6},
+    {14, IDS_EPOCH_A_DURATION + 8},  {15, IDS_EPOCH_A_DURATION + 10},
+    {16, IDS_EPOCH_A_DURATION + 12}, {17, IDS_EPOCH_A_DURATION + 14},
+    {18, IDS_EPOCH_A_DURATION + 16}, {19, IDS_EPOCH_A_DURATION + 18},
+};
+constexpr Choice<int> kUserList = {CZxDlgFixedEpochCombo::kUserListCode, IDS_USER_LIST};
 
 bool HasRegion(ZXADLG_CDlgDataSource* pSource, std::int32_t nRegionId) {
     const std::uint32_t uRegions = pSource->GetRegionCount();
@@ -263,55 +280,21 @@ bool HasRegion(ZXADLG_CDlgDataSource* pSource, std::int32_t nRegionId) {
 }  // namespace
 
 void CZxDlgFixedEpochCombo::Fill(ZXADLG_CDlgDataSource* pSource) {
-    ResetContent();
-    for (int nCode = 0; nCode < kEpochCodes; ++nCode) {
-        if (!HasRegion(pSource, nCode + kFirstEpochRegion)) continue;
-        SetItemData(AddResourceString(GetFrameworkInstance(), EpochStringId(nCode)), nCode);
+    Clear();
+    for (const Choice<int>& epoch : kEpochs) {
+        if (HasRegion(pSource, epoch.value + kFirstEpochRegion)) AppendOne(epoch);
     }
-    if (pSource->HasUserList()) {
-        SetItemData(AddResourceString(GetFrameworkInstance(), IDS_USER_LIST), kUserListCode);
-    }
+    if (pSource->HasUserList()) AppendOne(kUserList);
     SetCurSel(0);
-}
-
-int CZxDlgFixedEpochCombo::GetCode() {
-    const int nItem = GetCurSel();
-    return nItem >= 0 && nItem < GetCount() ? static_cast<int>(GetItemData(nItem)) : 0;
-}
-
-void CZxDlgFixedEpochCombo::SelectByCode(int nCode) {
-    SetCurSel(0);
-    const int nCount = GetCount();
-    for (int i = 0; i < nCount && i <= kUserListCode; ++i) {
-        if (GetItemData(i) == nCode) SetCurSel(i);
-    }
 }
 
 // --- Conversion factors ----------------------------------------------------------------------
 
-namespace {
-
-constexpr double kFactors[] = {0.000001, 0.001, 1.0, 1000.0, 1000000.0};
-
-}  // namespace
-
 void CZxDlgConversionFactorCombo::Fill() {
-    ResetContent();
-    for (std::size_t i = 0; i < std::size(kFactors); ++i) {
-        AddResourceString(GetFrameworkInstance(),
-                          static_cast<UINT>(IDS_CONVERSION_FACTOR_FIRST + i));
-    }
-    SetCurSel(0);
-}
-
-double CZxDlgConversionFactorCombo::GetFactor() {
-    const int nItem = GetCurSel();
-    return nItem >= 0 && nItem < static_cast<int>(std::size(kFactors)) ? kFactors[nItem] : 1.0;
-}
-
-void CZxDlgConversionFactorCombo::SetFactor(double dFactor) {
-    SetCurSel(0);
-    for (std::size_t i = 0; i < std::size(kFactors); ++i) {
-        if (kFactors[i] == dFactor) SetCurSel(static_cast<int>(i));
-    }
+    static constexpr Choice<double> kFactors[] = {
+        {0.000001, IDS_CONVERSION_FACTOR_FIRST},      {0.001, IDS_CONVERSION_FACTOR_FIRST + 1},
+        {1.0, IDS_CONVERSION_FACTOR_FIRST + 2},       {1000.0, IDS_CONVERSION_FACTOR_FIRST + 3},
+        {1000000.0, IDS_CONVERSION_FACTOR_FIRST + 4},
+    };
+    CZxDlgChoiceCombo::Fill(kFactors);
 }

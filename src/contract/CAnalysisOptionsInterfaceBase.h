@@ -1,5 +1,5 @@
 // What the option interfaces of most analyses share: the common block of the record, and the data
-// source. Each analysis derives its own interface with a get and a set per field.
+// source.
 #pragma once
 
 #include "contract/COptionsInterfaceBase.h"
@@ -26,4 +26,29 @@ class CAnalysisOptionsInterfaceBase : public COptionsInterfaceBase {
   private:
     ZXADLG_AnalysisCommon* m_pCommon;
     ZXADLG_CDlgDataSource* m_pSource;
+};
+
+// The interface of one analysis: a get and a set of every field of its record, by the field.
+//
+//     options.Set(&ZXADLG_NormalizeOptions::eBaselineRegion, 3);
+//
+// An analysis whose fields need more than that derives its own class.
+template <class Record>
+class CRecordOptionsInterface : public CAnalysisOptionsInterfaceBase {
+  public:
+    CRecordOptionsInterface(Record* pRecord, ZXADLG_CDlgDataSource* pSource)
+        : CAnalysisOptionsInterfaceBase(&pRecord->common, pSource), m_pRecord(pRecord) {}
+
+    Record* GetRecord() const { return m_pRecord; }
+    template <class Value>
+    Value Get(Value Record::*pField) const {
+        return m_pRecord->*pField;
+    }
+    template <class Value>
+    void Set(Value Record::*pField, Value value) {
+        m_pRecord->*pField = value;
+    }
+
+  private:
+    Record* m_pRecord;
 };

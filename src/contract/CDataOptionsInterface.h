@@ -129,8 +129,11 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     // 1-based; 0 means none. Data files only.
     std::uint32_t GetActiveSetForGroup() const;
 
-    // Rebuilds the data-information block and tells the observers. Answers true.
+    // Rebuilds the data-information block and tells the observers; with stored information, or in
+    // deferred mode, the block stays the host's. Answers true.
     bool UpdateDataInfo();
+    // Settings for an analysis that runs later: the block describes the data of an earlier run.
+    void SetDeferred(bool bDeferred) { m_bDeferred = bDeferred; }
 
   private:
     void EndLists();
@@ -163,4 +166,5 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     std::array<Name, kMaxConstants> m_aszConstantNames = {};
     Name m_szDependentName = {};
     bool m_bUseDepVarList = false;
+    bool m_bDeferred = false;
 };

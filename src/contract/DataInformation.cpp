@@ -22,7 +22,7 @@ constexpr std::int32_t kLastNumberedRegion = 25;
 }  // namespace
 
 bool CDataOptionsInterface::UpdateDataInfo() {
-    if (m_pFlags->bUseStoredInfo != 0) return true;
+    if (m_pFlags->bUseStoredInfo != 0 || m_bDeferred) return true;
     std::memset(static_cast<void*>(m_pRecord), 0, kBlockSize);
 
     m_pRecord->uActiveGroup = m_pSource->GetActiveGroup();

@@ -275,12 +275,15 @@ void ADM_Dialog::RequestUpdate() {
     m_bUpdatePending = FALSE;
 }
 
+void ADM_Dialog::RunUpdate() {
+    if (m_bInUpdate) return;
+    const UpdateScope scope(m_bInUpdate);
+    UpdateControls();
+}
+
 void ADM_Dialog::OnUpdateMessage() {
     if (m_bInUpdate) return;
-    {
-        UpdateScope scope(m_bInUpdate);
-        UpdateControls();
-    }
+    RunUpdate();
     m_bUpdatePending = TRUE;
 }
 

@@ -113,6 +113,8 @@ class ADM_Dialog : public ADM_Wnd {
 
     // Asks for one UpdateControls, after the current events.
     void RequestUpdate();
+    // Runs UpdateControls at once, unless it is running.
+    void RunUpdate();
     // Enables or disables the parent and those above it. Disabling stops at the first one that is
     // disabled already, and enabling stops there again.
     void EnableOwnerChain(BOOL bEnable);

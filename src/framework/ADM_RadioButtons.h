@@ -43,6 +43,8 @@ class ADM_RadioButtons : public ADM_Wnd {
     void SetSelected(int nIndex);
     int GetSelected();
 
+    // Whether the buttons stand for values of their own.
+    bool HasValues() const { return !m_anValues.empty(); }
     // Selects the button that stands for nValue; returns 0 when none does.
     BOOL SetValue(int nValue);
     // The value of the selected button; 0 for a button with no value.

@@ -63,6 +63,8 @@ BOOL ADM_TabSubDialog::OnPageShow() {
     Show(SW_SHOW);
     Enable(TRUE);
     SetFocus();
+    // What the rules of the page depend on may have changed on another one.
+    RequestUpdate();
     return 1;
 }
 

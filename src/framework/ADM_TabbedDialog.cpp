@@ -139,8 +139,13 @@ void ADM_TabbedDialog::MakeCurrent(int nIndex) {
     m_nCurrentPage = nIndex;
 }
 
-// Shows a page whatever the current one says: its values failed.
+// Shows a page whatever the current one says: its values failed. A page that is shown already stays
+// as the user left it.
 void ADM_TabbedDialog::BringUpPage(int nIndex) {
+    if (GetPage(nIndex) == m_pCurrentPage) {
+        m_tabControl.SetCurSel(nIndex);
+        return;
+    }
     HideCurrentPage();
     m_tabControl.SetCurSel(nIndex);
     MakeCurrent(nIndex);
@@ -229,7 +234,7 @@ void ADM_TabbedDialog::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
 }
 
 void ADM_TabbedDialog::UpdateControls() {
-    if (m_pCurrentPage != nullptr) m_pCurrentPage->UpdateControls();
+    if (m_pCurrentPage != nullptr) m_pCurrentPage->RunUpdate();
 }
 
 void ADM_TabbedDialog::OnHelpButton() {

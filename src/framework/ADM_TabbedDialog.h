@@ -54,6 +54,11 @@ class ADM_TabbedDialog : public ADM_Dialog {
     ADM_TabControl& GetTabControl() { return m_tabControl; }
 
   protected:
+    // Shows a page whatever the current one says.
+    void BringUpPage(int nIndex);
+    // The same, with the focus on a control of it if not null. Answers 0.
+    BOOL FailOnPage(int nIndex, ADM_Wnd* pFailed);
+
     ADM_TabControl m_tabControl;
     int m_nTabControlId = kNoTabControl;
     std::vector<ADM_TabSubDialog*> m_vPages;  // in the order of the tabs
@@ -69,6 +74,4 @@ class ADM_TabbedDialog : public ADM_Dialog {
     void RefreshTabs();
     void HideCurrentPage();
     void MakeCurrent(int nIndex);
-    void BringUpPage(int nIndex);
-    BOOL FailOnPage(int nIndex, ADM_Wnd* pFailed);
 };

@@ -12,15 +12,15 @@
 template <class Self, class Base>
 class GaugeText : public Base {
   public:
-    // The field is enabled when its gauge has steps to go.
+    // The field is enabled when its gauge has steps to go, unless the dialog greyed it.
     void OnAttach() override {
         Base::OnAttach();
-        Enable(self().HasGaugeStep());
+        EnableBoth(m_bAllowed && self().HasGaugeStep());
     }
 
     void Enable(BOOL bEnable) override {
-        Base::Enable(bEnable);
-        if (m_pGauge != nullptr) m_pGauge->Enable(bEnable);
+        m_bAllowed = bEnable;
+        EnableBoth(bEnable);
     }
 
     void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override {
@@ -62,6 +62,13 @@ class GaugeText : public Base {
     BOOL m_bFromGauge = 0;
 
   private:
+    void EnableBoth(BOOL bEnable) {
+        Base::Enable(bEnable);
+        if (m_pGauge != nullptr) m_pGauge->Enable(bEnable);
+    }
+
+    BOOL m_bAllowed = 1;  // what the dialog's rules say
+
     Self& self() { return static_cast<Self&>(*this); }
 
     void FollowGauge(ADM_Wnd* pSender, int nCode, int nData) {

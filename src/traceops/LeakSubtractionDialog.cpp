@@ -1,48 +1,47 @@
 #include "traceops/LeakSubtractionDialog.h"
 
+#include "framework/ADM_DoubleText.h"
 #include "ids.h"
 
-// --- Options tab: controls -------------------------------------------------------------------
+namespace {
 
-CLeakSubtractionOptionsTab::CLeakSubtractionOptionsTab(CLeakSubtractOptionsInterface* pOptions,
-                                                       const ZXADLG_DlgParams* pParams,
-                                                       CDataOptionsInterface* pData)
-    : COptionsTabBase(pOptions, pParams, IDD_LEAK_SUBTRACTION_OPTIONS, IDS_TAB_OPTIONS),
-      m_pLeak(pOptions),
-      m_pData(pData) {
-    RegisterControl(IDC_WAVEFORM, &m_cmbWaveform);
-    RegisterControl(IDC_CONVERSION_FACTOR, &m_cmbFactor);
-    RegisterControl(IDC_PASSIVE_RESISTANCE, &m_txtResistance);
+using Record = ZXADLG_LeakSubtractionOptions;
 
-    On(&m_cmbWaveform, ADMN_COMBOSELCHANGE,
-       [this] { m_pLeak->SetWaveformIndex(m_cmbWaveform.GetWaveform()); });
-    On(&m_cmbFactor, ADMN_COMBOSELCHANGE,
-       [this] { m_pLeak->SetConversionFactor(m_cmbFactor.GetFactor()); });
-    On(&m_txtResistance, ADMN_TEXTCHANGE,
-       [this] { m_pLeak->SetPassiveResistance(m_txtResistance.GetValue()); });
-}
+class CLeakSubtractionOptionsTab : public COptionsTab<Record> {
+  public:
+    CLeakSubtractionOptionsTab(Options* pOptions, const ZXADLG_DlgParams* pParams,
+                               CDataOptionsInterface* pData)
+        : COptionsTab(pOptions, pParams, pData, IDD_LEAK_SUBTRACTION_OPTIONS) {
+        Bind(IDC_WAVEFORM, m_cmbWaveform, &Record::uWaveformIndex);
+        // Required: the factor goes through single precision, so that 0.001 comes back as another
+        // number, which is none of the offered factors.
+        Bind(
+            IDC_CONVERSION_FACTOR, m_cmbFactor, [this] { return m_pRecord->dConversionFactor; },
+            [this](double d) { m_pRecord->dConversionFactor = static_cast<float>(d); });
+        Bind(IDC_PASSIVE_RESISTANCE, m_txtResistance, &Record::dPassiveResistance);
+    }
 
-BOOL CLeakSubtractionOptionsTab::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    COptionsTabBase::OnInitDialog(hWnd, hFocus, lParam);
-    m_cmbFactor.Fill();
-    m_cmbWaveform.Fill(m_pData->GetDataSource());
-    return FinishInitialization();
-}
+  private:
+    bool SetUp() override {
+        m_cmbFactor.Fill();
+        m_cmbWaveform.Fill(Source());
+        return true;
+    }
 
-// --- Options tab: display --------------------------------------------------------------------
+    CZxDlgWaveformCombo m_cmbWaveform;
+    CZxDlgConversionFactorCombo m_cmbFactor;
+    ADM_DoubleText m_txtResistance;
+};
 
-void CLeakSubtractionOptionsTab::ShowOptions() {
-    m_txtResistance.SetValue(m_pLeak->GetPassiveResistance());
-    m_cmbFactor.SetFactor(m_pLeak->GetConversionFactor());
-    m_cmbWaveform.SelectByValue(m_pLeak->GetWaveformIndex());
-}
-
-// --- Dialog ----------------------------------------------------------------------------------
+}  // namespace
 
 CLeakSubtractionDialog::CLeakSubtractionDialog(HWND hwndParent,
                                                ZXADLG_LeakSubtractionOptions* pOptions,
                                                ZXADLG_DataOptions* pData,
                                                ZXADLG_CDlgDataSource* pSource,
                                                const ZXADLG_DlgParams* pParams)
-    : COptionsDialog(hwndParent, pOptions, pData, pSource, pParams, IDD_LEAK_SUBTRACTION,
-                     {.bShowGroups = pParams->bShowGroupSelector}) {}
+    : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_LEAK_SUBTRACTION, IDC_TABS) {
+    static int s_nLastTab = 0;
+    BuildTabs<CLeakSubtractionOptionsTab>(pOptions, {.bShowGroups = pParams->bShowGroupSelector},
+                                          &s_nLastTab);
+}

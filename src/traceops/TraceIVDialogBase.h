@@ -4,39 +4,34 @@
 #pragma once
 
 #include "analysis/CUntabbedDialogBase.h"
-#include "analysis/EditEvents.h"
-#include "analysis/SelectionControls.h"
 
-class CTraceIVDialogBase : public CUntabbedDialogBase {
+template <class Record>
+class CTraceIVDialogBase : public CRecordPage<Record, CUntabbedDialogBase> {
   public:
-    CTraceIVDialogBase(HWND hwndParent, UINT uTemplateId, ZXADLG_DataOptions* pData,
-                       ZXADLG_CDlgDataSource* pSource, const ZXADLG_DlgParams* pParams);
-
-    void Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) override;
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
+    CTraceIVDialogBase(HWND hwndParent, UINT uTemplateId, Record* pOptions,
+                       ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
+                       const ZXADLG_DlgParams* pParams)
+        : CRecordPage<Record, CUntabbedDialogBase>(pOptions, hwndParent, uTemplateId, pSource,
+                                                   pParams, pData),
+          m_options(pOptions, pSource) {
+        this->SetOptionsInterface(&m_options);
+    }
 
   protected:
-    // Shows the record in the dialog's own controls.
-    virtual void ShowOptions() = 0;
-
-    // Selects the group of an index, or the last one for an index beyond them; returns what is
-    // selected.
-    static std::uint32_t SelectGroup(CZxDlgGroupCombo& cmbGroup, std::uint32_t uGroup);
-    static std::uint32_t SelectedGroup(CZxDlgGroupCombo& cmbGroup);
-    // Binds a check box to a setter of the options.
-    template <class Setter>
-    void OnCheck(ADM_Button& chk, Setter set) {
-        m_events.On(&chk, ADMN_CLICKED, [&chk, set] { set(chk.GetCheck() == BST_CHECKED); });
+    // The plots choose groups, sets and regions by controls of their own.
+    void OfferData(std::uint8_t bUseStoredInfo) {
+        m_flags = {.bAllowRegion = 0,
+                   .bShowGroups = 0,
+                   .bShowSetTools = 0,
+                   .bUseStoredInfo = bUseStoredInfo};
+        this->m_pDataOptionsObject =
+            std::make_unique<CDataOptionsInterface>(this->m_pDataRecord, this->m_pSource, &m_flags);
+        this->m_pDataOptionsObject->SetDeferred(this->m_pParams->bDeferredRun != 0);
     }
 
     ZXADLG_DataTabFlags m_flags;
-    EditEvents m_events;
-
-    CZxDlgWaveformCombo m_cmbXWaveform;
-    CZxDlgWaveformCombo m_cmbYWaveform;
-    CZxDlgGroupCombo m_cmbXGroup;
-    CZxDlgGroupCombo m_cmbYGroup;
-    ADM_Button m_chkXInvert;
-    ADM_Button m_chkYInvert;
-    ADM_Button m_chkWriteRegionInfo;
+    CRecordOptionsInterface<Record> m_options;
+    CZxDlgWaveformCombo m_cmbXWaveform, m_cmbYWaveform;
+    CZxDlgGroupCombo m_cmbXGroup, m_cmbYGroup;
+    ADM_Button m_chkXInvert, m_chkYInvert;
 };

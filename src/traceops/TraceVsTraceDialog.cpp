@@ -12,63 +12,52 @@ constexpr int kFromGroup = 1;
 
 }  // namespace
 
-// --- Controls --------------------------------------------------------------------------------
-
-CTraceVsTraceDialog::CTraceVsTraceDialog(HWND hwndParent, ZXADLG_TraceVsTraceOptions* pOptions,
+CTraceVsTraceDialog::CTraceVsTraceDialog(HWND hwndParent, Record* pOptions,
                                          ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
                                          const ZXADLG_DlgParams* pParams)
-    : CTraceIVDialogBase(hwndParent, IDD_TRACE_VS_TRACE, pData, pSource, pParams),
-      m_pRecord(pOptions) {
-    m_radXSource.Setup(this, IDC_TVT_X_FROM_WAVEFORM, IDC_TVT_X_FROM_GROUP);
-    m_radYSource.Setup(this, IDC_TVT_Y_FROM_WAVEFORM, IDC_TVT_Y_FROM_GROUP);
-    RegisterControl(IDC_TVT_X_SET_LABEL, &m_lblXSet);
-    RegisterControl(IDC_TVT_Y_SET_LABEL, &m_lblYSet);
-    RegisterControl(IDC_TVT_X_SET, &m_cmbXSet);
-    RegisterControl(IDC_TVT_Y_SET, &m_cmbYSet);
-    RegisterControl(IDC_REGION, &m_cmbRegion);
-    BindEvents();
+    : CTraceIVDialogBase(hwndParent, IDD_TRACE_VS_TRACE, pOptions, pData, pSource, pParams) {
+    BindSource(m_x, {IDC_TVT_X_FROM_WAVEFORM, IDC_TVT_X_FROM_GROUP});
+    Bind(IDC_AXES_X_WAVEFORM, m_cmbXWaveform, &Record::uXWaveformIndex);
+    Bind(IDC_AXES_X_GROUP, m_cmbXGroup, &Record::uXDataGroupIndex).Corrects().Then([this] {
+        ShowSets(m_x);
+    });
+    Label(IDC_TVT_X_SET_LABEL, m_lblXSet);
+    Bind(IDC_TVT_X_SET, m_cmbXSet, &Record::uXDataSetIndex);
+    Bind(IDC_AXES_X_INVERT, m_chkXInvert, &Record::bInvertX);
+    BindSource(m_y, {IDC_TVT_Y_FROM_WAVEFORM, IDC_TVT_Y_FROM_GROUP});
+    Bind(IDC_AXES_Y_WAVEFORM, m_cmbYWaveform, &Record::uYWaveformIndex);
+    Bind(IDC_AXES_Y_GROUP, m_cmbYGroup, &Record::uYDataGroupIndex).Corrects().Then([this] {
+        ShowSets(m_y);
+    });
+    Label(IDC_TVT_Y_SET_LABEL, m_lblYSet);
+    Bind(IDC_TVT_Y_SET, m_cmbYSet, &Record::uYDataSetIndex);
+    Bind(IDC_AXES_Y_INVERT, m_chkYInvert, &Record::bInvertY);
+    Bind(IDC_REGION, m_cmbRegion, &Record::eValueRegion).Corrects();
 }
 
-CTraceVsTraceDialog::AxisControls CTraceVsTraceDialog::XControls() {
-    return {CTraceVsTraceOptionsInterface::kX,
-            m_radXSource,
-            m_cmbXWaveform,
-            m_cmbXGroup,
-            m_cmbXSet,
-            m_chkXInvert};
+void CTraceVsTraceDialog::BindSource(const Axis& axis, std::initializer_list<int> ids) {
+    axis.radSource.SetupIds(this, static_cast<int>(ids.size()), ids.begin(), nullptr);
+    // Without a waveform the group is shown, and the record keeps what it says.
+    BindTo(
+        axis.radSource,
+        [this, &axis] { return HasWaveform() ? m_pRecord->*axis.pSourceField : kFromGroup; },
+        [this, &axis](int eSource) { m_pRecord->*axis.pSourceField = eSource; });
 }
 
-CTraceVsTraceDialog::AxisControls CTraceVsTraceDialog::YControls() {
-    return {CTraceVsTraceOptionsInterface::kY,
-            m_radYSource,
-            m_cmbYWaveform,
-            m_cmbYGroup,
-            m_cmbYSet,
-            m_chkYInvert};
-}
-
-BOOL CTraceVsTraceDialog::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    m_pDataOptionsObject =
-        std::make_unique<CDataOptionsInterface>(m_pDataRecord, m_pSource, &m_flags);
-    m_pTraces = std::make_unique<CTraceVsTraceOptionsInterface>(m_pRecord, m_pSource);
-    SetOptionsInterface(m_pTraces.get());
-    const BOOL bResult = CTraceIVDialogBase::OnInitDialog(hWnd, hFocus, lParam);
-    FillAxis(XControls());
-    FillAxis(YControls());
+bool CTraceVsTraceDialog::SetUp() {
+    OfferData(0);
+    for (const Axis* pAxis : {&m_x, &m_y}) {
+        pAxis->cmbWaveform.Fill(m_pSource);
+        pAxis->cmbGroup.Fill(m_pSource, true);
+    }
     m_cmbRegion.Fill(m_pSource);
     ShowLabels();
-    m_events.Show();
-    m_bReady = true;
-    m_events.SetReady();
-    return bResult;
+    return true;
 }
 
-void CTraceVsTraceDialog::FillAxis(const AxisControls& controls) {
-    controls.cmbWaveform.Fill(m_pSource);
-    controls.cmbGroup.Fill(m_pSource, true);
+bool CTraceVsTraceDialog::HasWaveform() const {
+    return m_pSource->GetEpochCount() != 0;
 }
-
-// --- Display ---------------------------------------------------------------------------------
 
 void CTraceVsTraceDialog::ShowLabels() {
     const char* szGroup = m_pSource->GetGroupLabel();
@@ -85,70 +74,25 @@ void CTraceVsTraceDialog::ShowLabels() {
 }
 
 void CTraceVsTraceDialog::ShowOptions() {
-    m_bHasWaveform = m_pSource->GetEpochCount() != 0;
-    ShowAxis(XControls());
-    ShowAxis(YControls());
-    m_cmbRegion.SelectById(m_pTraces->GetRegion());
-    m_pTraces->SetRegion(m_cmbRegion.GetRegionId());
-    m_chkWriteRegionInfo.SetCheck(m_pTraces->GetWriteRegionInfo() ? BST_CHECKED : BST_UNCHECKED);
+    ShowSets(m_x);
+    ShowSets(m_y);
 }
 
-void CTraceVsTraceDialog::ShowAxis(const AxisControls& controls) {
-    // Without a waveform the group is shown, and the record keeps what it says.
-    const bool bGroup = !m_bHasWaveform || m_pTraces->GetSource(controls.axis) == kFromGroup;
-    controls.radSource.SetSelected(bGroup ? kFromGroup : kFromWaveform);
-    controls.radSource.EnableButton(kFromWaveform, m_bHasWaveform);
-    controls.cmbWaveform.SelectByValue(m_pTraces->GetWaveform(controls.axis));
-    m_pTraces->SetGroup(controls.axis,
-                        SelectGroup(controls.cmbGroup, m_pTraces->GetGroup(controls.axis)));
-    ShowSets(controls);
-    controls.chkInvert.SetCheck(m_pTraces->GetInvert(controls.axis) ? BST_CHECKED : BST_UNCHECKED);
-    EnableAxis(controls);
+void CTraceVsTraceDialog::ShowSets(const Axis& axis) {
+    axis.cmbSet.Fill(m_pRecord->*axis.pGroupField, m_pSource);
+    axis.cmbSet.SelectSet(m_pRecord->*axis.pSetField);
+    m_pRecord->*axis.pSetField = axis.cmbSet.GetSet();
 }
 
-void CTraceVsTraceDialog::ShowSets(const AxisControls& controls) {
-    const std::uint32_t uGroup = m_pTraces->GetGroup(controls.axis);
-    controls.cmbSet.Fill(uGroup, m_pSource);
-    const int nCount = controls.cmbSet.GetCount();
-    const std::uint32_t uSet = m_pTraces->GetSet(controls.axis);
-    const bool bInside = nCount > 0 && uSet < static_cast<std::uint32_t>(nCount);
-    controls.cmbSet.SetSelection(bInside ? static_cast<int>(uSet) : 0);
-    if (!bInside) m_pTraces->SetSet(controls.axis, 0);
+void CTraceVsTraceDialog::UpdateControls() {
+    CTraceIVDialogBase::UpdateControls();
+    EnableAxis(m_x);
+    EnableAxis(m_y);
 }
 
-// --- Enabling --------------------------------------------------------------------------------
-
-void CTraceVsTraceDialog::EnableAxis(const AxisControls& controls) {
-    const int nSource = controls.radSource.GetSelected();
-    controls.cmbWaveform.Enable(nSource == kFromWaveform && m_bHasWaveform);
-    controls.cmbGroup.Enable(nSource == kFromGroup);
-}
-
-// --- Events ----------------------------------------------------------------------------------
-
-void CTraceVsTraceDialog::BindEvents() {
-    BindAxis(XControls());
-    BindAxis(YControls());
-    m_events.On(&m_cmbRegion, ADMN_COMBOSELCHANGE,
-                [this] { m_pTraces->SetRegion(m_cmbRegion.GetRegionId()); });
-}
-
-void CTraceVsTraceDialog::BindAxis(const AxisControls& controls) {
-    m_events.On(&controls.radSource, ADMN_CLICKED, [this, controls] {
-        m_pTraces->SetSource(controls.axis, controls.radSource.GetSelected());
-        EnableAxis(controls);
-    });
-    m_events.On(&controls.cmbWaveform, ADMN_COMBOSELCHANGE, [this, controls] {
-        m_pTraces->SetWaveform(controls.axis, controls.cmbWaveform.GetWaveform());
-    });
-    m_events.On(&controls.cmbGroup, ADMN_COMBOSELCHANGE, [this, controls] {
-        m_pTraces->SetGroup(controls.axis, SelectedGroup(controls.cmbGroup));
-        ShowSets(controls);
-    });
-    m_events.On(&controls.cmbSet, ADMN_COMBOSELCHANGE, [this, controls] {
-        const int nSet = controls.cmbSet.GetCurSel();
-        if (nSet >= 0) m_pTraces->SetSet(controls.axis, static_cast<std::uint32_t>(nSet));
-    });
-    OnCheck(controls.chkInvert,
-            [this, axis = controls.axis](bool b) { m_pTraces->SetInvert(axis, b); });
+void CTraceVsTraceDialog::EnableAxis(const Axis& axis) {
+    const int nSource = axis.radSource.GetSelected();
+    EnableButton(axis.radSource, kFromWaveform, HasWaveform());
+    EnableControls({&axis.cmbWaveform}, nSource == kFromWaveform && HasWaveform());
+    EnableControls({&axis.cmbGroup}, nSource == kFromGroup);
 }

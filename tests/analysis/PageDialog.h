@@ -32,46 +32,32 @@ class NotificationLog : public ADM_Wnd {
 class PageOptionsTab : public COptionsTabBase {
   public:
     using COptionsTabBase::COptionsTabBase;
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override {
-        const BOOL bResult = COptionsTabBase::OnInitDialog(hWnd, hFocus, lParam);
-        m_bReady = true;
-        return bResult;
-    }
-    void Disable(bool bDisabled) {
-        SetDisabled(bDisabled);
-        ApplyVisibility();
-    }
 };
 
 class PageDialog : public CParentDialogBase {
   public:
-    using MakeDataTab = std::function<std::unique_ptr<ADM_TabSubDialog>(CDataOptionsInterface*)>;
+    using MakeDataTab = std::function<std::unique_ptr<CDataTabBase>(CDataOptionsInterface*)>;
 
     PageDialog(ZXADLG_DataOptions* pData, ZXADLG_AnalysisCommon* pCommon,
                ZXADLG_CDlgDataSource* pSource, const ZXADLG_DlgParams* pParams,
                const ZXADLG_DataTabFlags& flags, ADM_Wnd* pObserver, const MakeDataTab& make)
         : CParentDialogBase(nullptr, pData, pSource, pParams, IDD_NORMALIZE, IDC_TABS) {
-        *m_pFlags = flags;
-        m_pDataOptions = std::make_unique<CDataOptionsInterface>(pData, pSource, m_pFlags.get());
+        OfferData(flags);
         m_pDataOptions->AddObserver(pObserver);
         options = std::make_unique<CAnalysisOptionsInterfaceBase>(pCommon, pSource);
-        optionsTab = std::make_unique<PageOptionsTab>(options.get(), pParams, IDD_NORMALIZE_OPTIONS,
-                                                      IDS_TAB_OPTIONS);
-        m_pDataTab = make(m_pDataOptions.get());
-        if (dataFirst) AddPage(m_pDataTab.get());
-        AddPage(optionsTab.get());
-        if (!dataFirst && m_pDataTab != nullptr) AddPage(m_pDataTab.get());
+        auto pTab = std::make_unique<PageOptionsTab>(options.get(), pParams, IDD_NORMALIZE_OPTIONS,
+                                                     IDS_TAB_OPTIONS);
+        optionsTab = pTab.get();
+        auto pDataTab = make(m_pDataOptions.get());
+        if (dataFirst) SetDataTab(std::move(pDataTab));
+        AddOptionsTab(std::move(pTab));
+        if (!dataFirst && pDataTab != nullptr) SetDataTab(std::move(pDataTab));
+        RememberTab(&lastTab);
     }
 
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override {
-        CParentDialogBase::OnInitDialog(hWnd, hFocus, lParam);
-        if (failSetup) m_bInitFailed = true;
-        if (m_bInitFailed) return FailInitialization();
-        return FinishInitialization(lastTab);
-    }
-    void OnOK() override {
-        lastTab = GetCurrentPageIndex();
-        CParentDialogBase::OnOK();
+    bool SetUp() override {
+        m_bInitFailed = failSetup;
+        return CParentDialogBase::SetUp();
     }
     CDataOptionsInterface& Model() { return *m_pDataOptions; }
     ADM_TabSubDialog* DataTab() { return m_pDataTab.get(); }
@@ -81,7 +67,7 @@ class PageDialog : public CParentDialogBase {
     static inline bool dataFirst = true;
 
     std::unique_ptr<CAnalysisOptionsInterfaceBase> options;
-    std::unique_ptr<PageOptionsTab> optionsTab;
+    PageOptionsTab* optionsTab = nullptr;
 };
 
 // Everything that a dialog needs, with sensible values.

@@ -237,13 +237,13 @@ TEST_F(TabbedBase, OptionsPageShowsWhatTheParametersOffer) {
 
 TEST_F(TabbedBase, DisabledOptionsPageGreysTheSharedOptions) {
     DialogScript script;
-    script.Do([this] { current->optionsTab->Disable(true); })
+    script.Do([this] { current->optionsTab->SetDisabled(true); })
         .ExpectEnabled(IDC_DESTINATION_GROUP, false)
         .ExpectEnabled(IDC_DESTINATION_APPEND, false)
         .ExpectEnabled(IDC_DESTINATION_REPLACE, false)
         .ExpectEnabled(IDC_DYNAMIC_LINK, false)
         .ExpectEnabled(IDC_WRITE_REGION_INFO, false)
-        .Do([this] { current->optionsTab->Disable(false); })
+        .Do([this] { current->optionsTab->SetDisabled(false); })
         .ExpectEnabled(IDC_DESTINATION_REPLACE, true)
         .ExpectEnabled(IDC_WRITE_REGION_INFO, true)
         .Click(IDCANCEL);
@@ -280,11 +280,6 @@ class SinglePage : public CUntabbedDialogBase {
         if (bHasData)
             m_pDataOptionsObject =
                 std::make_unique<CDataOptionsInterface>(pData, pSource, &m_flags);
-    }
-    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override {
-        const BOOL bResult = CUntabbedDialogBase::OnInitDialog(hWnd, hFocus, lParam);
-        m_bReady = true;
-        return bResult;
     }
     BOOL Validate(BOOL, ADM_Wnd** ppFailed) override {
         if (accepts) return TRUE;

@@ -1,0 +1,20 @@
+// The checks of the data and of their selection that all dialogs share. No window: each answers a
+// finding or none.
+#pragma once
+
+#include <vector>
+
+#include "contract/Finding.h"
+
+class ZXADLG_CDlgDataSource;
+
+// One finding for each group that cannot be analysed: a set without points, or fewer sets than the
+// kind of data needs.
+std::vector<Finding> FindUnusableGroups(ZXADLG_CDlgDataSource& source);
+
+// At least one set must be selected; nListControl is where the user selects.
+CheckResult CheckAnySetSelected(int nSelected, int nListControl);
+
+// The first row must lie before the last, and neither be 0; nFirstControl is the field of the
+// first.
+CheckResult CheckRowOrder(int nFirst, int nLast, int nFirstControl);

@@ -1,0 +1,54 @@
+// What a check of the values found: the message, where the user is to be pointed, and what each
+// answer leads to.
+//
+// A check is a plain function over the values as typed, the record and the model of the data. It
+// knows no window and changes nothing, so that it can be run and tested without a dialog; the
+// dialog that walks its checks at OK brings the page up, shows the message and gives the focus.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+
+struct Finding {
+    // What an answer leads to.
+    enum class Next {
+        kStay,   // the dialog stays open, with the focus where the finding points
+        kGoOn,   // the next check runs
+        kCancel  // the dialog ends as by Cancel
+    };
+    struct Answer {
+        UINT nButton;  // IDOK, IDYES ...
+        Next eNext = Next::kStay;
+        std::function<void()> step = {};  // what the answer does before
+    };
+
+    // One of the two: a string of the library, or a text that has no id.
+    UINT nStringId = 0;
+    const char* szText = nullptr;
+    // They stand for the "%s" and "%d" of the text, in order.
+    std::vector<std::string> vArguments = {};
+    UINT uFlags = MB_ICONHAND;  // icon and buttons, as for a message box
+    int nPage = kCurrentPage;   // counted from 0
+    int nControl = 0;           // the id of the control that is to have the focus; 0: none
+    // Every button that is not named here stays.
+    std::vector<Answer> vAnswers = {};
+
+    static constexpr int kCurrentPage = -1;
+
+    const Answer* FindAnswer(UINT nButton) const {
+        for (const Answer& answer : vAnswers) {
+            if (answer.nButton == nButton) return &answer;
+        }
+        return nullptr;
+    }
+};
+
+using CheckResult = std::optional<Finding>;
+
+// The texts of a dialog's fields as they stand on the screen, by control id.
+using TypedValues = std::map<int, std::string>;
