@@ -1,6 +1,7 @@
 #include "analysis/CParentDialogBase.h"
 
 #include <algorithm>
+#include <map>
 
 #include "ZXADLG.h"
 #include "analysis/CUnitaryDataTab.h"
@@ -18,7 +19,8 @@ CParentDialogBase::CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData,
       m_pFlags(std::make_unique<ZXADLG_DataTabFlags>()),
       m_pSource(pSource),
       m_pParams(pParams),
-      m_bUseDataOptions(pParams->bUseDataOptions != 0) {
+      m_bUseDataOptions(pParams->bUseDataOptions != 0),
+      m_nLastTab(LastTab(uTemplateId)) {
     m_hInstance = GetFrameworkInstance();
     m_hParentWnd = hwndParent;
     SetTemplate(MAKEINTRESOURCEA(uTemplateId));
@@ -29,6 +31,24 @@ CParentDialogBase::~CParentDialogBase() {
     m_pDataTab.reset();
     m_pDataOptions.reset();
     m_pFlags.reset();
+}
+
+namespace {
+
+// By the template of the dialog. An entry keeps its place for an open dialog's reference.
+std::map<UINT, int>& LastTabs() {
+    static std::map<UINT, int> s_lastTabs;
+    return s_lastTabs;
+}
+
+}  // namespace
+
+int& CParentDialogBase::LastTab(UINT uTemplateId) {
+    return LastTabs()[uTemplateId];
+}
+
+void CParentDialogBase::ForgetTabs() {
+    for (auto& [uTemplateId, nTab] : LastTabs()) nTab = 0;
 }
 
 // --- Building --------------------------------------------------------------------------------
@@ -66,8 +86,7 @@ bool CParentDialogBase::SetUp() {
         return false;
     }
     // A memory that points past the last tab is of a dialog with more tabs than this one.
-    const int nLastTab = m_pnLastTab != nullptr ? *m_pnLastTab : 0;
-    if (nLastTab != 0 && !IsReadOnly() && nLastTab < GetPageCount()) SelectPage(nLastTab);
+    if (m_nLastTab != 0 && !IsReadOnly() && m_nLastTab < GetPageCount()) SelectPage(m_nLastTab);
     return true;
 }
 
@@ -81,7 +100,7 @@ void CParentDialogBase::OnOK() {
     }
     if (!ValidateAll()) return;
     OnAccepted();
-    if (m_pnLastTab != nullptr && !IsReadOnly()) *m_pnLastTab = GetCurrentPageIndex();
+    if (!IsReadOnly()) m_nLastTab = GetCurrentPageIndex();
     EndDialogWith(ZXADLG_OK);
 }
 

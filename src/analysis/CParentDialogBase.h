@@ -2,8 +2,8 @@
 // selection.
 //
 // A subclass's constructor creates the model (OfferData), its options interface and its options
-// tabs, and, with bUseDataOptions, the data tab; it adds them in that order, adds its checks, and
-// names the memory of its last tab. One whose set-up fails raises m_bInitFailed: the dialog then
+// tabs, and, with bUseDataOptions, the data tab; it adds them in that order, and adds its
+// checks. One whose set-up fails raises m_bInitFailed: the dialog then
 // says so and ends with 2.
 //
 // At OK the checks run first, in order; then the description of the data is rebuilt; then all pages
@@ -33,6 +33,12 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
     void OnOK() override;
     void OnCancel() override;
 
+    // The tab of the last successful OK of the dialogs of this template; 0 before. Lives as long as
+    // the process.
+    static int& LastTab(UINT uTemplateId);
+    // Forgets them all, as a new process has.
+    static void ForgetTabs();
+
   protected:
     using Check = std::function<CheckResult(const TypedValues&)>;
 
@@ -45,13 +51,11 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
     void SetDataTab(std::unique_ptr<CDataTabBase> pTab);
     // Adds a check that runs at OK behind those that are there, and at OK alone.
     void AddCheck(Check check) { m_vChecks.push_back(std::move(check)); }
-    // Where the tab of the last successful OK is kept; it outlives the dialog.
-    void RememberTab(int* pnLastTab) { m_pnLastTab = pnLastTab; }
 
     // The usual dialog: one options tab, and the data tab of one family of sets. Tab::Options is
     // built with (record, source), and Tab with (options, parameters, model).
     template <class Tab, class Record>
-    Tab* BuildTabs(Record* pOptions, const ZXADLG_DataTabFlags& flags, int* pnLastTab) {
+    Tab* BuildTabs(Record* pOptions, const ZXADLG_DataTabFlags& flags) {
         OfferData(flags);
         auto pInterface = std::make_unique<typename Tab::Options>(pOptions, m_pSource);
         auto pTab = std::make_unique<Tab>(pInterface.get(), m_pParams, m_pDataOptions.get());
@@ -59,7 +63,6 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
         m_pOptions = std::move(pInterface);
         AddOptionsTab(std::move(pTab));
         AddUnitaryDataTab();
-        RememberTab(pnLastTab);
         return pResult;
     }
     void AddUnitaryDataTab();
@@ -89,5 +92,5 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
     void CheckData();
 
     std::vector<Check> m_vChecks;
-    int* m_pnLastTab = nullptr;
+    int& m_nLastTab;
 };

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <span>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "framework/ADM_ComboBox.h"
@@ -42,8 +43,9 @@ class CZxDlgChoiceCombo : public ADM_ComboBox {
     }
     Value GetValue() {
         const int nItem = GetCurSel();
-        return nItem >= 0 && nItem < GetCount() ? m_vValues[static_cast<std::size_t>(nItem)]
-                                                : m_none;
+        return nItem >= 0 && std::cmp_less(nItem, m_vValues.size())
+                   ? m_vValues[static_cast<std::size_t>(nItem)]
+                   : m_none;
     }
     // The last entry of exactly this value; entry 0 when there is none.
     void SelectValue(Value value) {

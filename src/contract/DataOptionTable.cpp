@@ -1,7 +1,5 @@
 // The keys of the data record, the same in the section of every analysis.
 
-#include <cstddef>
-
 #include "contract/OptionPersistence.h"
 #include "contract/OptionTables.h"
 
@@ -11,39 +9,72 @@ using enum OptionType;
 using Record = ZXADLG_DataOptions;
 
 constexpr OptionKey kDataKeys[] = {
-    Text("szUnitarySelectionList1", offsetof(Record, szUnitarySelectionList1), 1000),
-    Text("szUnitarySelectionList2", offsetof(Record, szUnitarySelectionList2), 1000),
-    Dependent(Text("szDepVarSelectionList", offsetof(Record, szDepVarSelectionList), 1000)),
-    Single("eDataGroup1SelectionMode", kInt32, offsetof(Record, eDataGroup1SelectionMode)),
-    Single("eDataGroup2SelectionMode", kInt32, offsetof(Record, eDataGroup2SelectionMode)),
-    Single("eDataSet1SelectionMode", kInt32, offsetof(Record, eDataSet1SelectionMode)),
-    Single("eDataSet2SelectionMode", kInt32, offsetof(Record, eDataSet2SelectionMode)),
-    Single("eAnalysisRegion", kInt32, offsetof(Record, eAnalysisRegion)),
-    Single("uGroup1Index", kUInt32, offsetof(Record, uGroup1Index)),
-    Single("uGroup2Index", kUInt32, offsetof(Record, uGroup2Index)),
-    Single("uPairedGroupIndex", kUInt32, offsetof(Record, uPairedGroupIndex)),
-    Dependent(Single("uIndepVarDataSetIndex", kUInt32, offsetof(Record, uIndepVarDataSetIndex))),
-    Dependent(Single("uDepVarDataSetIndex", kUInt32, offsetof(Record, uDepVarDataSetIndex))),
-    Single("uFirstDataIndex", kUInt32, offsetof(Record, uFirstDataIndex)),
-    Single("uLastDataIndex", kUInt32, offsetof(Record, uLastDataIndex)),
-    Single("uExtrapolationCursor", kUInt32, offsetof(Record, uExtrapolationCursor)),
-    Single("uSelectedDataSet", kUInt32, offsetof(Record, uSelectedDataSet)),
-    Single("bUseFullDataRange", kBool8, offsetof(Record, bUseFullDataRange)),
-    Single("bExtrapolate", kBool8, offsetof(Record, bExtrapolate)),
-    Single("bForceExcludedRegionToZero", kBool8, offsetof(Record, bForceExcludedRegionToZero)),
+    KEY(szUnitarySelectionList1),
+    KEY(szUnitarySelectionList2),
+    Dependent(KEY(szDepVarSelectionList)),
+    KEY(eDataGroup1SelectionMode),
+    KEY(eDataGroup2SelectionMode),
+    KEY(eDataSet1SelectionMode),
+    KEY(eDataSet2SelectionMode),
+    KEY(eAnalysisRegion),
+    KEY(uGroup1Index),
+    KEY(uGroup2Index),
+    KEY(uPairedGroupIndex),
+    Dependent(KEY(uIndepVarDataSetIndex)),
+    Dependent(KEY(uDepVarDataSetIndex)),
+    KEY(uFirstDataIndex),
+    KEY(uLastDataIndex),
+    KEY(uExtrapolationCursor),
+    KEY(uSelectedDataSet),
+    KEY(bUseFullDataRange),
+    KEY(bExtrapolate),
+    KEY(bForceExcludedRegionToZero),
 };
 
 constexpr OptionKey kDataIsConstantKeys[] = {
-    Repeated("IsConstant%d", kBool8, offsetof(Record, abIsConstant), 1),
+    KEY_OF_ELEMENTS("IsConstant%d", abIsConstant),
 };
 
 constexpr OptionKey kDataConstantKeys[] = {
-    Repeated("Constant%d", kDouble, offsetof(Record, adConstants), 8),
+    KEY_OF_ELEMENTS("Constant%d", adConstants),
+};
+
+// What the library writes for the host, and the store does not keep.
+constexpr OptionKey kInformationKeys[] = {
+    NotKept(KEY(eDataKind)),       NotKept(KEY(uVisibleGroups)),     NotKept(KEY(uVisibleSets)),
+    NotKept(KEY(uGroupCount)),     NotKept(KEY(uSetCount)),          NotKept(KEY(bSegmented)),
+    NotKept(KEY(uRegionCount)),    NotKept(KEY(dSamplingFrequency)), NotKept(KEY(dMinValue)),
+    NotKept(KEY(dMaxValue)),       NotKept(KEY(bHasUserList)),       NotKept(KEY(uBlobSize)),
+    NotKept(BYTES(aBlob)),         NotKept(KEY(uActiveGroup)),       NotKept(KEY(uEpochCount)),
+    NotKept(KEY(szVisibleGroups)), NotKept(KEY(szVisibleSets)),      NotKept(KEY(bPaired)),
+};
+constexpr OptionKey kGroupKeys[] = {
+    NotKept(KEY_OF_EACH(nullptr, aGroups, szName)),
+    NotKept(KEY_OF_EACH(nullptr, aGroups, uCode)),
+    NotKept(KEY_OF_ELEMENTS(nullptr, aActiveSets)),
+};
+constexpr OptionKey kRegionPointKeys[] = {
+    NotKept(KEY_OF_EACH(nullptr, aRegionPoints, uFirstPoint)),
+    NotKept(KEY_OF_EACH(nullptr, aRegionPoints, uLastPoint)),
+};
+constexpr OptionKey kEpochKeys[] = {
+    NotKept(KEY_OF_EACH(nullptr, aEpochs, uNumber)),
+    NotKept(KEY_OF_EACH(nullptr, aEpochs, szName)),
+};
+constexpr OptionKey kRegionKeys[] = {
+    NotKept(KEY_OF_EACH(nullptr, aRegions, nRegionId)),
+    NotKept(KEY_OF_EACH(nullptr, aRegions, uFirstPoint)),
+    NotKept(KEY_OF_EACH(nullptr, aRegions, uLastPoint)),
+    NotKept(KEY_OF_EACH(nullptr, aRegions, uGroup)),
+    NotKept(KEY_OF_EACH(nullptr, aRegions, uSet)),
+    NotKept(KEY_OF_EACH(nullptr, aRegions, dStart)),
+    NotKept(KEY_OF_EACH(nullptr, aRegions, dEnd)),
 };
 
 constexpr OptionBlock kDataBlocks[] = {
-    {kDataKeys}, {kDataIsConstantKeys, 6}, {kDataConstantKeys, 6}};
+    {kInformationKeys}, {kGroupKeys, 16}, {kRegionPointKeys, 25},   {kEpochKeys, 2},
+    {kRegionKeys, 50},  {kDataKeys},      {kDataIsConstantKeys, 6}, {kDataConstantKeys, 6}};
 
 }  // namespace
 
-const OptionSection kDataSection = {nullptr, kDataBlocks};
+const OptionSection kDataSection = {nullptr, "ZXADLG_DataOptions", kDataBlocks};

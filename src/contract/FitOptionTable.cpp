@@ -1,80 +1,79 @@
 // The keys of curve fitting.
 
-#include <cstddef>
-
 #include "contract/OptionPersistence.h"
 #include "contract/OptionTables.h"
 
 namespace {
 
 using enum OptionType;
+using Record = FitOptions;
 
 constexpr OptionKey kCurveFitFirstKeys[] = {
-    Single("eFunctionType", kInt32, offsetof(FitOptions, eFunctionType)),
-    Single("eSearchMethod", kInt32, offsetof(FitOptions, eSearchMethod)),
-    Single("eWeightingType", kInt32, offsetof(FitOptions, eWeightingType)),
-    Single("eMinimMethod", kInt32, offsetof(FitOptions, eMinimMethod)),
-    Single("eFunctionGroupID", kInt32, offsetof(FitOptions, eFunctionGroupID)),
-    Single("nNumCustomParams", kInt32, offsetof(FitOptions, nNumCustomParams)),
-    Single("eDestinationOption", kInt32, offsetof(FitOptions, common.eDestinationOption)),
-    Single("dGoldmanTemperature", kDouble, offsetof(FitOptions, dGoldmanTemperature)),
-    Single("dNernstTemperature", kDouble, offsetof(FitOptions, dNernstTemperature)),
-    Single("dZDBoltzmanTemperature", kDouble, offsetof(FitOptions, dZDBoltzmanTemperature)),
-    Single("dUserLMPrecision", kDouble, offsetof(FitOptions, dUserLMPrecision)),
-    Single("dUserVMPrecision", kDouble, offsetof(FitOptions, dUserVMPrecision)),
-    Single("dUserFractError", kDouble, offsetof(FitOptions, dUserFractError)),
-    Single("dTolerance", kDouble, offsetof(FitOptions, dTolerance)),
-    Single("dSubstZeroLinearFactor", kDouble, offsetof(FitOptions, dSubstZeroLinearFactor)),
-    Single("dLeftExtrapolationValue", kDouble, offsetof(FitOptions, dLeftExtrapolationValue)),
-    Single("dRightExtrapolationValue", kDouble, offsetof(FitOptions, dRightExtrapolationValue)),
+    KEY(eFunctionType),
+    KEY(eSearchMethod),
+    KEY(eWeightingType),
+    KEY(eMinimMethod),
+    KEY(eFunctionGroupID),
+    KEY(nNumCustomParams),
+    KEY(common.eDestinationOption),
+    KEY(dGoldmanTemperature),
+    KEY(dNernstTemperature),
+    KEY(dZDBoltzmanTemperature),
+    KEY(dUserLMPrecision),
+    KEY(dUserVMPrecision),
+    KEY(dUserFractError),
+    KEY(dTolerance),
+    KEY(dSubstZeroLinearFactor),
+    KEY(dLeftExtrapolationValue),
+    KEY(dRightExtrapolationValue),
 };
 
 constexpr OptionKey kCurveFitParameterKeys[] = {
-    Repeated("Parameter%d", kDouble, offsetof(FitOptions, dParameters), 8),
+    KEY_OF_ELEMENTS("Parameter%d", dParameters),
 };
 
 constexpr OptionKey kCurveFitSecondKeys[] = {
-    Single("bDoZeroShift", kBool32, offsetof(FitOptions, bDoZeroShift)),
-    Single("bAutoZeroShift", kBool32, offsetof(FitOptions, bAutoZeroShift)),
-    Single("bFreeAndRefit", kBool32, offsetof(FitOptions, bFreeAndRefit)),
-    Single("bAutoAdjustOnFailure", kBool32, offsetof(FitOptions, bAutoAdjustOnFailure)),
-    Single("bUseVMPrecisionDefault", kBool32, offsetof(FitOptions, bUseVMPrecisionDefault)),
-    Single("bUseLMPrecisionDefault", kBool32, offsetof(FitOptions, bUseLMPrecisionDefault)),
-    Single("bUseFractErrDefault", kBool32, offsetof(FitOptions, bUseFractErrDefault)),
-    Single("bForcePropsPositive", kBool32, offsetof(FitOptions, bForcePropsPositive)),
-    Single("bForceTausPositive", kBool32, offsetof(FitOptions, bForceTausPositive)),
-    Single("bForceAutoSeed", kBool32, offsetof(FitOptions, bForceAutoSeed)),
-    Single("bAutoDefaultOptions", kBool32, offsetof(FitOptions, bAutoDefaultOptions)),
-    Single("bCompareModels", kBool32, offsetof(FitOptions, bCompareModels)),
-    Single("bAutoCompare", kBool32, offsetof(FitOptions, bAutoCompare)),
-    Single("bUseChebyFilter", kBool32, offsetof(FitOptions, bUseChebyFilter)),
-    Single("bWriteFittedData", kBool8, offsetof(FitOptions, bWriteFittedData)),
-    Single("bWriteStatistics", kBool8, offsetof(FitOptions, bWriteStatistics)),
-    Single("bExtrapolateLeft", kBool8, offsetof(FitOptions, bExtrapolateLeft)),
-    Single("bExtrapolateRight", kBool8, offsetof(FitOptions, bExtrapolateRight)),
-    Single("bVerboseOutput", kBool8, offsetof(FitOptions, common.bWriteRegionInfo)),
-    Single("uStartCompare", kUInt32, offsetof(FitOptions, uStartCompare)),
-    Single("uEndCompare", kUInt32, offsetof(FitOptions, uEndCompare)),
-    Single("uMaxIterations", kUInt32, offsetof(FitOptions, uMaxIterations)),
-    Single("uFitOrder", kUInt32, offsetof(FitOptions, uFitOrder)),
-    Single("uCurTimePowerA", kUInt32, offsetof(FitOptions, uCurTimePowerA)),
-    Single("uCurTimePowerB", kUInt32, offsetof(FitOptions, uCurTimePowerB)),
-    Single("uExpPower", kUInt32, offsetof(FitOptions, uExpPower)),
-    Single("uDlgFitOrder", kUInt32, offsetof(FitOptions, uDlgFitOrder)),
-    Single("uPolynomTerm", kUInt32, offsetof(FitOptions, uPolynomTerm)),
+    KEY(bDoZeroShift),
+    KEY(bAutoZeroShift),
+    KEY(bFreeAndRefit),
+    KEY(bAutoAdjustOnFailure),
+    KEY(bUseVMPrecisionDefault),
+    KEY(bUseLMPrecisionDefault),
+    KEY(bUseFractErrDefault),
+    KEY(bForcePropsPositive),
+    KEY(bForceTausPositive),
+    KEY(bForceAutoSeed),
+    KEY(bAutoDefaultOptions),
+    KEY(bCompareModels),
+    KEY(bAutoCompare),
+    KEY(bUseChebyFilter),
+    KEY(bWriteFittedData),
+    KEY(bWriteStatistics),
+    KEY(bExtrapolateLeft),
+    KEY(bExtrapolateRight),
+    KEY_NAMED("bVerboseOutput", common.bWriteRegionInfo),
+    KEY(uStartCompare),
+    KEY(uEndCompare),
+    KEY(uMaxIterations),
+    KEY(uFitOrder),
+    KEY(uCurTimePowerA),
+    KEY(uCurTimePowerB),
+    KEY(uExpPower),
+    KEY(uDlgFitOrder),
+    KEY(uPolynomTerm),
 };
 
 constexpr OptionKey kCurveFitConstraintKeys[] = {
-    Repeated("Constraint%d", kUInt32, offsetof(FitOptions, uConstraints), 4),
-    Repeated("DlgConstraint%d", kUInt32, offsetof(FitOptions, uDlgConstraints), 4),
+    KEY_OF_ELEMENTS("Constraint%d", uConstraints),
+    KEY_OF_ELEMENTS("DlgConstraint%d", uDlgConstraints),
 };
 
 constexpr OptionKey kCurveFitEquationKeys[] = {
-    Text("szEquation", offsetof(FitOptions, szEquation), 256),
+    KEY(szEquation),
 };
 
 constexpr OptionKey kCurveFitCustomKeys[] = {
-    RepeatedText("CustomEquation%d", offsetof(FitOptions, szCustomEquations), 256, 256),
+    KEY_OF_ELEMENTS("CustomEquation%d", szCustomEquations),
 };
 
 constexpr OptionBlock kCurveFitBlocks[] = {
@@ -84,4 +83,4 @@ constexpr OptionBlock kCurveFitBlocks[] = {
 
 }  // namespace
 
-const OptionSection kCurveFitSection = {"CurveFitSection", kCurveFitBlocks};
+const OptionSection kCurveFitSection = {"CurveFitSection", "FitOptions", kCurveFitBlocks};

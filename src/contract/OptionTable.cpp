@@ -15,12 +15,13 @@ const char* KeyName(const char* szKey, std::uint32_t uIndex, std::uint32_t uInne
     return std::strchr(szKey, '%') == nullptr ? szKey : FormatOptionKey(szKey, uIndex, uInner);
 }
 
-// Calls visit(key, field offset) for every key of the section, in order.
+// Calls visit(row, key, field offset) for every key that is kept, in order.
 template <class Visit>
 void Walk(const OptionSection& section, Visit visit) {
     for (const OptionBlock& block : section.blocks) {
         for (std::uint32_t i = 0; i < block.uRepeat; ++i) {
             for (const OptionKey& key : block.keys) {
+                if (key.eUse == OptionUse::kNotKept) continue;
                 const std::uint32_t uInner = key.uInner == 0 ? 1 : key.uInner;
                 for (std::uint32_t j = 0; j < uInner; ++j) {
                     visit(key, KeyName(key.szKey, i, j),
@@ -93,6 +94,8 @@ void LoadKey(const char* szProfile, const char* szSection, const char* szKey, co
             }
             return;
         }
+        case OptionType::kBytes:
+            return;
     }
 }
 
@@ -128,6 +131,8 @@ void SaveKey(const char* szProfile, const char* szSection, const char* szKey, co
             WriteString(szSection, szKey, szText, szProfile);
             return;
         }
+        case OptionType::kBytes:
+            return;
     }
 }
 

@@ -1,8 +1,7 @@
 // The sections whose keys stand in one record, in the order in which they are read and written.
+// Behind them stand the fields that the store does not keep.
 
 #include "contract/OptionTables.h"
-
-#include <cstddef>
 
 #include "contract/OptionPersistence.h"
 
@@ -10,202 +9,255 @@ namespace {
 
 using enum OptionType;
 
-constexpr OptionKey kPowerSpectrumKeys[] = {
-    Single("eWindowType", kInt32, offsetof(ZXADLG_SignalProcessingOptions, eWindowType)),
-    Single("eDestinationOption", kInt32,
-           offsetof(ZXADLG_SignalProcessingOptions, common.eDestinationOption)),
-    Single("dPoissonAlpha", kDouble, offsetof(ZXADLG_SignalProcessingOptions, dPoissonAlpha)),
-    Single("dKaiserAlpha", kDouble, offsetof(ZXADLG_SignalProcessingOptions, dKaiserAlpha)),
-    Single("bDoOverlap", kBool32, offsetof(ZXADLG_SignalProcessingOptions, bDoOverlap)),
-    Single("bAverageSegments", kBool32, offsetof(ZXADLG_SignalProcessingOptions, bAverageSegments)),
-    Single("bAverageTraces", kBool32, offsetof(ZXADLG_SignalProcessingOptions, bAverageTraces)),
-    Single("bDialogAverageTraces", kBool32,
-           offsetof(ZXADLG_SignalProcessingOptions, bDialogAverageTraces)),
-    Single("bUseMaxSegment", kBool32, offsetof(ZXADLG_SignalProcessingOptions, bUseMaxSegment)),
-    Single("uTransformLength", kUInt32, offsetof(ZXADLG_SignalProcessingOptions, uTransformLength)),
-    Single("uNumBinsToExclude", kUInt32,
-           offsetof(ZXADLG_SignalProcessingOptions, uNumBinsToExclude)),
+namespace power_spectrum {
+using Record = ZXADLG_SignalProcessingOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eWindowType),
+    KEY(common.eDestinationOption),
+    KEY(dPoissonAlpha),
+    KEY(dKaiserAlpha),
+    KEY(bDoOverlap),
+    KEY(bAverageSegments),
+    KEY(bAverageTraces),
+    KEY(bDialogAverageTraces),
+    KEY(bUseMaxSegment),
+    KEY(uTransformLength),
+    KEY(uNumBinsToExclude),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kPowerSpectrumBlocks[] = {{kPowerSpectrumKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace power_spectrum
 
-constexpr OptionKey kHistogramKeys[] = {
-    Single("eHistoType", kInt32, offsetof(ZXADLG_HistogramOptions, eHistoType)),
-    Single("nBinsPerDecade", kInt32, offsetof(ZXADLG_HistogramOptions, nBinsPerDecade)),
-    Single("nNumBins", kInt32, offsetof(ZXADLG_HistogramOptions, nNumBins)),
-    Single("eDestinationOption", kInt32,
-           offsetof(ZXADLG_HistogramOptions, common.eDestinationOption)),
-    Single("fBinWidth", kFloat, offsetof(ZXADLG_HistogramOptions, fBinWidth)),
-    Single("fMinDataValue", kFloat, offsetof(ZXADLG_HistogramOptions, fMinDataValue)),
-    Single("fMaxDataValue", kFloat, offsetof(ZXADLG_HistogramOptions, fMaxDataValue)),
-    Single("bBinAllData", kBool8, offsetof(ZXADLG_HistogramOptions, bBinAllData)),
-    Single("bCombineData", kBool8, offsetof(ZXADLG_HistogramOptions, bCombineData)),
-    Single("bNormalize", kBool8, offsetof(ZXADLG_HistogramOptions, bNormalize)),
-    Single("bVerboseOutput", kBool8, offsetof(ZXADLG_HistogramOptions, common.bWriteRegionInfo)),
+namespace histogram {
+using Record = ZXADLG_HistogramOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eHistoType),
+    KEY(nBinsPerDecade),
+    KEY(nNumBins),
+    KEY(common.eDestinationOption),
+    KEY(fBinWidth),
+    KEY(fMinDataValue),
+    KEY(fMaxDataValue),
+    KEY(bBinAllData),
+    KEY(bCombineData),
+    KEY(bNormalize),
+    KEY_NAMED("bVerboseOutput", common.bWriteRegionInfo),
+    NotKept(KEY(common.bDynamicLink)),
 };
-constexpr OptionBlock kHistogramBlocks[] = {{kHistogramKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace histogram
 
-constexpr OptionKey kCorrelationKeys[] = {
-    Single("eType", kInt32, offsetof(ZXADLG_CorrelationOptions, eType)),
-    Single("eDestinationOption", kInt32,
-           offsetof(ZXADLG_CorrelationOptions, common.eDestinationOption)),
-    Single("dSamplingFrequency", kDouble, offsetof(ZXADLG_CorrelationOptions, dSamplingFrequency)),
-    Single("uNumberOfLags", kUInt32, offsetof(ZXADLG_CorrelationOptions, uNumberOfLags)),
+namespace correlation {
+using Record = ZXADLG_CorrelationOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eType),         KEY(common.eDestinationOption),    KEY(dSamplingFrequency),
+    KEY(uNumberOfLags), NotKept(KEY(common.bDynamicLink)), NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kCorrelationBlocks[] = {{kCorrelationKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace correlation
 
-constexpr OptionKey kResistanceKeys[] = {
-    Single("eDestinationOption", kInt32,
-           offsetof(ZXADLG_ResistanceOptions, common.eDestinationOption)),
-    Single("dConversionFactor", kDouble, offsetof(ZXADLG_ResistanceOptions, dConversionFactor)),
-    Single("uExperimentType", kUInt32, offsetof(ZXADLG_ResistanceOptions, uExperimentType)),
-    Single("uWaveformIndex", kUInt32, offsetof(ZXADLG_ResistanceOptions, uWaveformIndex)),
+namespace resistance {
+using Record = ZXADLG_ResistanceOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(common.eDestinationOption),
+    KEY(dConversionFactor),
+    KEY(uExperimentType),
+    KEY(uWaveformIndex),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kResistanceBlocks[] = {{kResistanceKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace resistance
 
-constexpr OptionKey kNormalizeKeys[] = {
-    Single("bUseAllPoints", kBool8, offsetof(ZXADLG_NormalizeOptions, bUseAllPoints)),
-    Single("eBaselineRegion", kUInt32, offsetof(ZXADLG_NormalizeOptions, eBaselineRegion)),
-    Single("ePeakRegion", kUInt32, offsetof(ZXADLG_NormalizeOptions, ePeakRegion)),
+namespace normalize {
+using Record = ZXADLG_NormalizeOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(bUseAllPoints),
+    KEY(eBaselineRegion),
+    KEY(ePeakRegion),
+    NotKept(KEY(common.eDestinationOption)),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kNormalizeBlocks[] = {{kNormalizeKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace normalize
 
-constexpr OptionKey kConvertSampleRateKeys[] = {
-    Single("eRateConversionType", kInt32,
-           offsetof(ZXADLG_ModifySampleRateOptions, eRateConversionType)),
-    Single("eReductionMethod", kInt32, offsetof(ZXADLG_ModifySampleRateOptions, eReductionMethod)),
-    Single("eInterpolationMethod", kInt32,
-           offsetof(ZXADLG_ModifySampleRateOptions, eInterpolationMethod)),
-    Single("nReduceFactor", kInt32, offsetof(ZXADLG_ModifySampleRateOptions, nReduceFactor)),
-    Single("nInterpolFactor", kInt32, offsetof(ZXADLG_ModifySampleRateOptions, nInterpolFactor)),
+namespace convert_sample_rate {
+using Record = ZXADLG_ModifySampleRateOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eRateConversionType),
+    KEY(eReductionMethod),
+    KEY(eInterpolationMethod),
+    KEY(nReduceFactor),
+    KEY(nInterpolFactor),
+    NotKept(KEY(common.eDestinationOption)),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kConvertSampleRateBlocks[] = {{kConvertSampleRateKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace convert_sample_rate
 
-constexpr OptionKey kLeakSubtractionKeys[] = {
-    Single("dConversionFactor", kDouble,
-           offsetof(ZXADLG_LeakSubtractionOptions, dConversionFactor)),
-    Single("dPassiveResistance", kDouble,
-           offsetof(ZXADLG_LeakSubtractionOptions, dPassiveResistance)),
-    Single("uWaveformIndex", kUInt32, offsetof(ZXADLG_LeakSubtractionOptions, uWaveformIndex)),
+namespace leak_subtraction {
+using Record = ZXADLG_LeakSubtractionOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(dConversionFactor),
+    KEY(dPassiveResistance),
+    KEY(uWaveformIndex),
+    NotKept(KEY(common.eDestinationOption)),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kLeakSubtractionBlocks[] = {{kLeakSubtractionKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace leak_subtraction
 
-constexpr OptionKey kForceValuesKeys[] = {
-    Single("eForceValuesMode", kInt32, offsetof(ZXADLG_ForceValuesOptions, eForceValuesMode)),
-    Single("eRegionToForce", kInt32, offsetof(ZXADLG_ForceValuesOptions, eRegionToForce)),
-    Single("dFixedValue", kDouble, offsetof(ZXADLG_ForceValuesOptions, dFixedValue)),
+namespace force_values {
+using Record = ZXADLG_ForceValuesOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eForceValuesMode),
+    KEY(eRegionToForce),
+    KEY(dFixedValue),
+    NotKept(KEY(common.eDestinationOption)),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kForceValuesBlocks[] = {{kForceValuesKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace force_values
 
-constexpr OptionKey kTimeShiftKeys[] = {
-    Single("eAlignmentMode", kInt32, offsetof(ZXADLG_TimeShiftOptions, eAlignmentMode)),
-    Single("eDirection", kInt32, offsetof(ZXADLG_TimeShiftOptions, eDirection)),
-    Single("eValueMode", kInt32, offsetof(ZXADLG_TimeShiftOptions, eValueMode)),
-    Single("eAdjustMode", kInt32, offsetof(ZXADLG_TimeShiftOptions, eAdjustMode)),
-    Single("ePeakPolarity", kInt32, offsetof(ZXADLG_TimeShiftOptions, ePeakPolarity)),
-    Single("eValueRegion", kInt32, offsetof(ZXADLG_TimeShiftOptions, eValueRegion)),
-    Single("eSearchRegion", kInt32, offsetof(ZXADLG_TimeShiftOptions, eSearchRegion)),
-    Single("uDataGroupIndex", kUInt32, offsetof(ZXADLG_TimeShiftOptions, uDataGroupIndex)),
-    Single("dShiftValue", kDouble, offsetof(ZXADLG_TimeShiftOptions, dShiftValue)),
+namespace time_shift {
+using Record = ZXADLG_TimeShiftOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eAlignmentMode),
+    KEY(eDirection),
+    KEY(eValueMode),
+    KEY(eAdjustMode),
+    KEY(ePeakPolarity),
+    KEY(eValueRegion),
+    KEY(eSearchRegion),
+    KEY(uDataGroupIndex),
+    KEY(dShiftValue),
+    NotKept(KEY(common.eDestinationOption)),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kTimeShiftBlocks[] = {{kTimeShiftKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace time_shift
 
-constexpr OptionKey kCurrentVoltageKeys[] = {
-    Single("ePeakRegion", kInt32, offsetof(ZXADLG_CurrentVoltageOptions, ePeakRegion)),
-    Single("ePeakPolarity", kInt32, offsetof(ZXADLG_CurrentVoltageOptions, ePeakPolarity)),
-    Single("eVoltageSource", kInt32, offsetof(ZXADLG_CurrentVoltageOptions, eVoltageSource)),
-    Single("eCurrentSource", kInt32, offsetof(ZXADLG_CurrentVoltageOptions, eCurrentSource)),
-    Single("eFixedEpoch", kInt32, offsetof(ZXADLG_CurrentVoltageOptions, eFixedEpoch)),
-    Single("eSetSelectionMode", kInt32, offsetof(ZXADLG_CurrentVoltageOptions, eSetSelectionMode)),
-    Single("eDestinationOption", kInt32,
-           offsetof(ZXADLG_CurrentVoltageOptions, common.eDestinationOption)),
-    Single("uWaveformIndex", kUInt32, offsetof(ZXADLG_CurrentVoltageOptions, uWaveformIndex)),
-    Single("uXDataGroupIndex", kUInt32, offsetof(ZXADLG_CurrentVoltageOptions, uXDataGroupIndex)),
-    Single("uYDataGroupIndex", kUInt32, offsetof(ZXADLG_CurrentVoltageOptions, uYDataGroupIndex)),
-    Single("uSmoothingPoints", kUInt32, offsetof(ZXADLG_CurrentVoltageOptions, uSmoothingPoints)),
-    Single("bInvertX", kBool8, offsetof(ZXADLG_CurrentVoltageOptions, bInvertX)),
-    Single("bInvertY", kBool8, offsetof(ZXADLG_CurrentVoltageOptions, bInvertY)),
-    Single("bDoFilter", kBool8, offsetof(ZXADLG_CurrentVoltageOptions, bDoFilter)),
-    Single("bGraphDynamicLink", kBool8,
-           offsetof(ZXADLG_CurrentVoltageOptions, common.bDynamicLink)),
-    Single("bVerboseOutput", kBool8,
-           offsetof(ZXADLG_CurrentVoltageOptions, common.bWriteRegionInfo)),
+namespace current_voltage {
+using Record = ZXADLG_CurrentVoltageOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(ePeakRegion),
+    KEY(ePeakPolarity),
+    KEY(eVoltageSource),
+    KEY(eCurrentSource),
+    KEY(eFixedEpoch),
+    KEY(eSetSelectionMode),
+    KEY(common.eDestinationOption),
+    KEY(uWaveformIndex),
+    KEY(uXDataGroupIndex),
+    KEY(uYDataGroupIndex),
+    KEY(uSmoothingPoints),
+    KEY(bInvertX),
+    KEY(bInvertY),
+    KEY(bDoFilter),
+    KEY_NAMED("bGraphDynamicLink", common.bDynamicLink),
+    KEY_NAMED("bVerboseOutput", common.bWriteRegionInfo),
 };
-constexpr OptionBlock kCurrentVoltageBlocks[] = {{kCurrentVoltageKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace current_voltage
 
-constexpr OptionKey kTraceVsTraceKeys[] = {
-    Single("eXSource", kInt32, offsetof(ZXADLG_TraceVsTraceOptions, eXSource)),
-    Single("eYSource", kInt32, offsetof(ZXADLG_TraceVsTraceOptions, eYSource)),
-    Single("eDestinationOption", kInt32,
-           offsetof(ZXADLG_TraceVsTraceOptions, common.eDestinationOption)),
-    Single("eValueRegion", kInt32, offsetof(ZXADLG_TraceVsTraceOptions, eValueRegion)),
-    Single("uXDataSetIndex", kUInt32, offsetof(ZXADLG_TraceVsTraceOptions, uXDataSetIndex)),
-    Single("uYDataSetIndex", kUInt32, offsetof(ZXADLG_TraceVsTraceOptions, uYDataSetIndex)),
-    Single("uXWaveformIndex", kUInt32, offsetof(ZXADLG_TraceVsTraceOptions, uXWaveformIndex)),
-    Single("uYWaveformIndex", kUInt32, offsetof(ZXADLG_TraceVsTraceOptions, uYWaveformIndex)),
-    Single("uXDataGroupIndex", kUInt32, offsetof(ZXADLG_TraceVsTraceOptions, uXDataGroupIndex)),
-    Single("uYDataGroupIndex", kUInt32, offsetof(ZXADLG_TraceVsTraceOptions, uYDataGroupIndex)),
-    Single("bInvertX", kBool8, offsetof(ZXADLG_TraceVsTraceOptions, bInvertX)),
-    Single("bInvertY", kBool8, offsetof(ZXADLG_TraceVsTraceOptions, bInvertY)),
-    Single("bGraphDynamicLink", kBool8, offsetof(ZXADLG_TraceVsTraceOptions, common.bDynamicLink)),
-    Single("bVerboseOutput", kBool8, offsetof(ZXADLG_TraceVsTraceOptions, common.bWriteRegionInfo)),
+namespace trace_vs_trace {
+using Record = ZXADLG_TraceVsTraceOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eXSource),
+    KEY(eYSource),
+    KEY(common.eDestinationOption),
+    KEY(eValueRegion),
+    KEY(uXDataSetIndex),
+    KEY(uYDataSetIndex),
+    KEY(uXWaveformIndex),
+    KEY(uYWaveformIndex),
+    KEY(uXDataGroupIndex),
+    KEY(uYDataGroupIndex),
+    KEY(bInvertX),
+    KEY(bInvertY),
+    KEY_NAMED("bGraphDynamicLink", common.bDynamicLink),
+    KEY_NAMED("bVerboseOutput", common.bWriteRegionInfo),
 };
-constexpr OptionBlock kTraceVsTraceBlocks[] = {{kTraceVsTraceKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace trace_vs_trace
 
-constexpr OptionKey kAdjustBaselineKeys[] = {
-    Single("eAdjustMode", kInt32, offsetof(ZXADLG_AdjustBaselineOptions, eAdjustMode)),
-    Single("eValueRegion", kInt32, offsetof(ZXADLG_AdjustBaselineOptions, eValueRegion)),
-    Single("dFixedValue", kDouble, offsetof(ZXADLG_AdjustBaselineOptions, dFixedValue)),
+namespace trace_arithmetic {
+using Record = ZXADLG_ArithmeticOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(uFirstDataIndex),
+    KEY(uLastDataIndex),
+    KEY(uGroup1Index),
+    KEY(eDataSet1SelectionMode),
+    KEY(eDataGroup1SelectionMode),
+    KEY(eAnalysisRegion),
+    KEY(bUseFullDataRange),
+    KEY(bForceExcludedRegionToZero),
+    KEY(szExpression),
+    KEY(szSelectionList),
+    NotKept(KEY(common.eDestinationOption)),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kAdjustBaselineBlocks[] = {{kAdjustBaselineKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace trace_arithmetic
 
-constexpr OptionKey kTraceArithmeticKeys[] = {
-    Single("uFirstDataIndex", kUInt32, offsetof(ZXADLG_ArithmeticOptions, uFirstDataIndex)),
-    Single("uLastDataIndex", kUInt32, offsetof(ZXADLG_ArithmeticOptions, uLastDataIndex)),
-    Single("uGroup1Index", kUInt32, offsetof(ZXADLG_ArithmeticOptions, uGroup1Index)),
-    Single("eDataSet1SelectionMode", kInt32,
-           offsetof(ZXADLG_ArithmeticOptions, eDataSet1SelectionMode)),
-    Single("eDataGroup1SelectionMode", kInt32,
-           offsetof(ZXADLG_ArithmeticOptions, eDataGroup1SelectionMode)),
-    Single("eAnalysisRegion", kInt32, offsetof(ZXADLG_ArithmeticOptions, eAnalysisRegion)),
-    Single("bUseFullDataRange", kBool8, offsetof(ZXADLG_ArithmeticOptions, bUseFullDataRange)),
-    Single("bForceExcludedRegionToZero", kBool8,
-           offsetof(ZXADLG_ArithmeticOptions, bForceExcludedRegionToZero)),
-    Text("szExpression", offsetof(ZXADLG_ArithmeticOptions, szExpression), 255),
-    Text("szSelectionList", offsetof(ZXADLG_ArithmeticOptions, szSelectionList), 1000),
+namespace adjust_baseline {
+using Record = ZXADLG_AdjustBaselineOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(eAdjustMode),
+    KEY(eValueRegion),
+    KEY(dFixedValue),
+    NotKept(KEY(common.eDestinationOption)),
+    NotKept(KEY(common.bDynamicLink)),
+    NotKept(KEY(common.bWriteRegionInfo)),
 };
-constexpr OptionBlock kTraceArithmeticBlocks[] = {{kTraceArithmeticKeys}};
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+}  // namespace adjust_baseline
 
-constexpr OptionKey kSubtractControlKeys[] = {
-    Single("dMultiplier", kDouble, offsetof(ZXADLG_SubtractControlOptions, dMultiplier)),
-    Text("szSubtractFileName", offsetof(ZXADLG_SubtractControlOptions, szSubtractFileName), 512),
-    Single("bUseMultiplier", kBool8, offsetof(ZXADLG_SubtractControlOptions, bUseMultiplier)),
-    Single("bUseFirstTraceOnly", kBool8,
-           offsetof(ZXADLG_SubtractControlOptions, bUseFirstTraceOnly)),
-    Single("bUseLastFile", kBool8, offsetof(ZXADLG_SubtractControlOptions, bUseLastFile)),
-    Single("nFileID", kInt32, offsetof(ZXADLG_SubtractControlOptions, nFileID)),
-    Single("nNumGroups", kInt32, offsetof(ZXADLG_SubtractControlOptions, nNumGroups)),
+namespace subtract_control {
+using Record = ZXADLG_SubtractControlOptions;
+constexpr OptionKey kKeys[] = {
+    KEY(dMultiplier),        KEY(szSubtractFileName), KEY(bUseMultiplier),
+    KEY(bUseFirstTraceOnly), KEY(bUseLastFile),       KEY(nFileID),
+    KEY(nNumGroups),
 };
-
-constexpr OptionKey kSubtractControlEntryKeys[] = {
-    Repeated("ListEntry%d", kInt32, offsetof(ZXADLG_SubtractControlOptions, anListEntry), 4),
-};
-constexpr OptionBlock kSubtractControlBlocks[] = {{kSubtractControlKeys},
-                                                  {kSubtractControlEntryKeys, 16}};
+constexpr OptionKey kEntryKeys[] = {KEY_OF_ELEMENTS("ListEntry%d", anListEntry)};
+constexpr OptionBlock kBlocks[] = {{kKeys}, {kEntryKeys, 16}};
+}  // namespace subtract_control
 
 }  // namespace
 
-const OptionSection kPowerSpectrumSection = {"PowerSpectrumSection", kPowerSpectrumBlocks};
-const OptionSection kHistogramSection = {"HistogramSection", kHistogramBlocks};
-const OptionSection kCorrelationSection = {"CorrelationSection", kCorrelationBlocks};
-const OptionSection kResistanceSection = {"ResistanceSection", kResistanceBlocks};
-const OptionSection kNormalizeSection = {"NormalizeSection", kNormalizeBlocks};
-const OptionSection kConvertSampleRateSection = {"ConvertSampleRateSection",
-                                                 kConvertSampleRateBlocks};
-const OptionSection kLeakSubtractionSection = {"LeakSubtractionSection", kLeakSubtractionBlocks};
-const OptionSection kForceValuesSection = {"ForceValuesSection", kForceValuesBlocks};
-const OptionSection kTimeShiftSection = {"TimeShiftSection", kTimeShiftBlocks};
-const OptionSection kCurrentVoltageSection = {"CurrentVoltageSection", kCurrentVoltageBlocks};
-const OptionSection kTraceVsTraceSection = {"TraceVsTraceSection", kTraceVsTraceBlocks};
-const OptionSection kTraceArithmeticSection = {"TraceArithmetic", kTraceArithmeticBlocks};
-const OptionSection kAdjustBaselineSection = {"AdjustBaseline", kAdjustBaselineBlocks};
-const OptionSection kSubtractControlSection = {"SubtractControl", kSubtractControlBlocks};
+const OptionSection kPowerSpectrumSection = {
+    "PowerSpectrumSection", "ZXADLG_SignalProcessingOptions", power_spectrum::kBlocks};
+const OptionSection kHistogramSection = {"HistogramSection", "ZXADLG_HistogramOptions",
+                                         histogram::kBlocks};
+const OptionSection kCorrelationSection = {"CorrelationSection", "ZXADLG_CorrelationOptions",
+                                           correlation::kBlocks};
+const OptionSection kResistanceSection = {"ResistanceSection", "ZXADLG_ResistanceOptions",
+                                          resistance::kBlocks};
+const OptionSection kNormalizeSection = {"NormalizeSection", "ZXADLG_NormalizeOptions",
+                                         normalize::kBlocks};
+const OptionSection kConvertSampleRateSection = {
+    "ConvertSampleRateSection", "ZXADLG_ModifySampleRateOptions", convert_sample_rate::kBlocks};
+const OptionSection kLeakSubtractionSection = {
+    "LeakSubtractionSection", "ZXADLG_LeakSubtractionOptions", leak_subtraction::kBlocks};
+const OptionSection kForceValuesSection = {"ForceValuesSection", "ZXADLG_ForceValuesOptions",
+                                           force_values::kBlocks};
+const OptionSection kTimeShiftSection = {"TimeShiftSection", "ZXADLG_TimeShiftOptions",
+                                         time_shift::kBlocks};
+const OptionSection kCurrentVoltageSection = {
+    "CurrentVoltageSection", "ZXADLG_CurrentVoltageOptions", current_voltage::kBlocks};
+const OptionSection kTraceVsTraceSection = {"TraceVsTraceSection", "ZXADLG_TraceVsTraceOptions",
+                                            trace_vs_trace::kBlocks};
+const OptionSection kTraceArithmeticSection = {"TraceArithmetic", "ZXADLG_ArithmeticOptions",
+                                               trace_arithmetic::kBlocks};
+const OptionSection kAdjustBaselineSection = {"AdjustBaseline", "ZXADLG_AdjustBaselineOptions",
+                                              adjust_baseline::kBlocks};
+const OptionSection kSubtractControlSection = {"SubtractControl", "ZXADLG_SubtractControlOptions",
+                                               subtract_control::kBlocks};

@@ -1,7 +1,13 @@
 // The keys of every section of the store, one table per section.
+//
+// From a table come the load, the save and the list of a record's fields.
 #pragma once
 
+#include <span>
+#include <string_view>
+
 #include "contract/OptionTable.h"
+#include "zxadlg/fields.h"
 
 extern const OptionSection kCurveFitSection;
 extern const OptionSection kLowpassFilterSection;
@@ -25,3 +31,7 @@ extern const OptionSection kSubtractControlSection;
 extern const OptionSection kMeasurementsSection;
 // The data record; the section's name is that of the analysis.
 extern const OptionSection kDataSection;
+
+// The fields of a record by the name of its type, in the order of the record; none for a name that
+// is none.
+std::span<const ZXADLG_FieldInfo> RecordFields(std::string_view sRecord);

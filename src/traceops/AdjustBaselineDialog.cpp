@@ -67,8 +67,7 @@ CAdjustBaselineDialog::CAdjustBaselineDialog(HWND hwndParent,
                                              ZXADLG_CDlgDataSource* pSource,
                                              const ZXADLG_DlgParams* pParams)
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_ADJUST_BASELINE, IDC_TABS) {
-    static int s_nLastTab = 0;
     // The region is chosen on the options tab, so that the data tab offers none.
     BuildTabs<CAdjustBaselineOptionsTab>(
-        pOptions, {.bAllowRegion = 0, .bShowGroups = pParams->bShowGroupSelector}, &s_nLastTab);
+        pOptions, {.bAllowRegion = 0, .bShowGroups = pParams->bShowGroupSelector});
 }

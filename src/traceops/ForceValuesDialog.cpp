@@ -54,10 +54,8 @@ CForceValuesDialog::CForceValuesDialog(HWND hwndParent, ZXADLG_ForceValuesOption
                                        ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
                                        const ZXADLG_DlgParams* pParams)
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_FORCE_VALUES, IDC_TABS) {
-    static int s_nLastTab = 0;
     // The region is chosen on the options tab, so that the data tab offers none.
     BuildTabs<CForceValuesOptionsTab>(
         pOptions,
-        {.bAllowForceToZero = 1, .bAllowRegion = 0, .bShowGroups = pParams->bShowGroupSelector},
-        &s_nLastTab);
+        {.bAllowForceToZero = 1, .bAllowRegion = 0, .bShowGroups = pParams->bShowGroupSelector});
 }

@@ -41,7 +41,5 @@ CLeakSubtractionDialog::CLeakSubtractionDialog(HWND hwndParent,
                                                ZXADLG_CDlgDataSource* pSource,
                                                const ZXADLG_DlgParams* pParams)
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_LEAK_SUBTRACTION, IDC_TABS) {
-    static int s_nLastTab = 0;
-    BuildTabs<CLeakSubtractionOptionsTab>(pOptions, {.bShowGroups = pParams->bShowGroupSelector},
-                                          &s_nLastTab);
+    BuildTabs<CLeakSubtractionOptionsTab>(pOptions, {.bShowGroups = pParams->bShowGroupSelector});
 }

@@ -56,8 +56,7 @@ CNormalizeDialog::CNormalizeDialog(HWND hwndParent, ZXADLG_NormalizeOptions* pOp
                                    ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
                                    const ZXADLG_DlgParams* pParams)
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_NORMALIZE, IDC_TABS) {
-    static int s_nLastTab = 0;
     // The regions are chosen on the options tab, so that the data tab offers none.
     BuildTabs<CNormalizeOptionsTab>(
-        pOptions, {.bAllowRegion = 0, .bShowGroups = pParams->bShowGroupSelector}, &s_nLastTab);
+        pOptions, {.bAllowRegion = 0, .bShowGroups = pParams->bShowGroupSelector});
 }

@@ -46,7 +46,5 @@ CResistanceDialog::CResistanceDialog(HWND hwndParent, ZXADLG_ResistanceOptions* 
                                      ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
                                      const ZXADLG_DlgParams* pParams)
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_RESISTANCE, IDC_TABS) {
-    static int s_nLastTab = 0;
-    BuildTabs<CResistanceOptionsTab>(pOptions, {.bShowGroups = pParams->bShowGroupSelector},
-                                     &s_nLastTab);
+    BuildTabs<CResistanceOptionsTab>(pOptions, {.bShowGroups = pParams->bShowGroupSelector});
 }

@@ -73,8 +73,7 @@ CTimeShiftDialog::CTimeShiftDialog(HWND hwndParent, ZXADLG_TimeShiftOptions* pOp
                                    ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
                                    const ZXADLG_DlgParams* pParams)
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_TIME_SHIFT, IDC_TABS) {
-    static int s_nLastTab = 0;
     // Required: this dialog alone offers neither groups nor tools, whatever the parameters say.
-    BuildTabs<CTimeShiftOptionsTab>(
-        pOptions, {.bAllowRegion = 0, .bShowGroups = 0, .bShowSetTools = 0}, &s_nLastTab);
+    BuildTabs<CTimeShiftOptionsTab>(pOptions,
+                                    {.bAllowRegion = 0, .bShowGroups = 0, .bShowSetTools = 0});
 }

@@ -52,7 +52,6 @@ class PageDialog : public CParentDialogBase {
         if (dataFirst) SetDataTab(std::move(pDataTab));
         AddOptionsTab(std::move(pTab));
         if (!dataFirst && pDataTab != nullptr) SetDataTab(std::move(pDataTab));
-        RememberTab(&lastTab);
     }
 
     bool SetUp() override {
@@ -62,7 +61,7 @@ class PageDialog : public CParentDialogBase {
     CDataOptionsInterface& Model() { return *m_pDataOptions; }
     ADM_TabSubDialog* DataTab() { return m_pDataTab.get(); }
 
-    static inline int lastTab = 0;
+    static inline int& lastTab = CParentDialogBase::LastTab(IDD_NORMALIZE);
     static inline bool failSetup = false;
     static inline bool dataFirst = true;
 

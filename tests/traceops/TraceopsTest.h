@@ -10,6 +10,7 @@
 #include <string>
 
 #include "ZXADLG.h"
+#include "analysis/CParentDialogBase.h"
 #include "fixtures/DialogScript.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/TestDataSource.h"
@@ -52,6 +53,8 @@ template <class Record>
 class TraceDialog : public testing::Test {
   protected:
     explicit TraceDialog(ShowFunction<Record> function) : show(function) {
+        // As in a process that has opened nothing yet.
+        CParentDialogBase::ForgetTabs();
         std::memset(&options, 0, sizeof options);
         std::memset(&data, 0, sizeof data);
         data.eDataSet1SelectionMode = 1;

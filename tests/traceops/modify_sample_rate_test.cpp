@@ -98,8 +98,8 @@ TEST_F(ModifySampleRate, FactorsOutsideTheirRangesAreRefusedAtOk) {
     script.Type(IDC_RATE_REDUCE_FACTOR, "1001")
         .Click(IDOK)
         .Answer(101,
-                "Validation Error\r\n\r\nValue must fall within the range 2 to 1000.  Press OK to "
-                "edit the value.")
+                "Validation Error\r\n\r\nValue in field 'Reduction factor' must fall within the range "
+                "of 2 to 1000.")
         .ExpectFocus(IDC_RATE_REDUCE_FACTOR)
         .Type(IDC_RATE_REDUCE_FACTOR, "1000")
         .Click(IDOK);
@@ -128,6 +128,7 @@ TEST_F(ModifySampleRate, ReadOnlyUndoesEveryEdit) {
     script.ExpectTitle("Data Reduction/Interpolation (read only)")
         .ExpectVisible(IDOK, false)
         .ExpectText(IDCANCEL, "Close")
+        .Ungrey(IDC_RATE_INTERPOLATION)
         .Click(IDC_RATE_INTERPOLATION)
         .ExpectChecked(IDC_RATE_REDUCTION, BST_CHECKED)
         .ExpectFocus(IDCANCEL)
