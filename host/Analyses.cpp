@@ -1,7 +1,5 @@
 #include "Analyses.h"
 
-#include "OptionFields.h"
-
 namespace zxhost {
 namespace {
 
@@ -43,11 +41,8 @@ std::int32_t WithFiles(const DialogCall& call) {
                  call.params);
 }
 
-#define ZX_ROW(name, title, record, form, show)                                           \
-    {                                                                                     \
-        name, title, #record, sizeof(record), OptionFields<record>(), &kDefaults<record>, \
-            &form<record, &show>                                                          \
-    }
+#define ZX_ROW(name, title, record, form, show) \
+    { name, title, #record, sizeof(record), &kDefaults<record>, &form<record, &show> }
 
 const Analysis kRows[] = {
     ZX_ROW("normalize", "Normalize", ZXADLG_NormalizeOptions, Usual, ZXADLG_ShowNormalizeDialog),

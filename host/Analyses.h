@@ -1,6 +1,6 @@
 // The analyses that the library offers: what the host needs to open each of their dialogs.
 //
-// A new dialog is one row here and the table of its option record's fields in OptionFields.
+// A new dialog is one row here.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,6 @@
 #include <span>
 #include <string>
 
-#include "RecordFields.h"
 #include "ZXADLG.h"
 
 namespace zxhost {
@@ -24,11 +23,10 @@ struct DialogCall {
 };
 
 struct Analysis {
-    const char* name;    // on the command line
-    const char* title;   // for people
-    const char* record;  // type of its option record
-    std::size_t size;    // of the record, at most kMaxOptionSize
-    std::span<const Field> fields;
+    const char* name;      // on the command line
+    const char* title;     // for people
+    const char* record;    // type of its option record
+    std::size_t size;      // of the record, at most kMaxOptionSize
     const void* defaults;  // a record as a first run shows it
     std::int32_t (*show)(const DialogCall& call);
 };

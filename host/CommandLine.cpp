@@ -72,11 +72,10 @@ void List(std::ostream& out) {
         out << "  " << param.name << "=" << int(usual.*param.byte) << "  " << param.meaning << "\n";
 }
 
-void PrintChanges(std::ostream& out, const char* record, std::span<const Field> fields,
-                  const void* before, const void* after) {
+void PrintChanges(std::ostream& out, const char* record, const void* before, const void* after) {
     out << "changed in " << record << ":\n";
     bool any = false;
-    for (const FieldValue& value : CompareRecords(fields, before, after)) {
+    for (const FieldValue& value : CompareRecords(record, before, after)) {
         if (!value.changed) continue;
         any = true;
         out << "  " << value.name << ": " << value.before << " -> " << value.after << "\n";
@@ -154,9 +153,8 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
 
 void PrintOutcome(const Outcome& outcome, std::ostream& out) {
     out << "result: " << outcome.result << " (" << DescribeResult(outcome.result) << ")\n";
-    PrintChanges(out, outcome.analysis.record, outcome.analysis.fields, outcome.recordBefore,
-                 outcome.record);
-    PrintChanges(out, "ZXADLG_DataOptions", kDataFields, &outcome.dataBefore, &outcome.data);
+    PrintChanges(out, outcome.analysis.record, outcome.recordBefore, outcome.record);
+    PrintChanges(out, "ZXADLG_DataOptions", &outcome.dataBefore, &outcome.data);
     PrintStore(out, outcome.store);
     out.flush();
 }

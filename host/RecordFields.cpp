@@ -7,80 +7,6 @@
 namespace zxhost {
 namespace {
 
-using enum FieldType;
-using Data = ZXADLG_DataOptions;
-
-#define ZX_FIELD(record, field, type) \
-    { #field, type, offsetof(record, field) }
-#define ZX_TEXT(record, field) \
-    { #field, kText, offsetof(record, field), sizeof record::field }
-#define ZX_MEMBER(array, element, member, type)                                                  \
-    {                                                                                            \
-#array, type, offsetof(Data, array) + offsetof(element, member), sizeof element::member, \
-            sizeof Data::array / sizeof(element), sizeof(element), "." #member                   \
-    }
-
-constexpr Field kDataRows[] = {
-    ZX_FIELD(Data, eDataKind, kU32),
-    ZX_MEMBER(aGroups, ZXADLG_GroupEntry, szName, kText),
-    ZX_MEMBER(aGroups, ZXADLG_GroupEntry, uCode, kU32),
-    ZX_FIELD(Data, uVisibleGroups, kU32),
-    ZX_FIELD(Data, uVisibleSets, kU32),
-    ZX_FIELD(Data, uGroupCount, kU32),
-    ZX_FIELD(Data, uSetCount, kU32),
-    ZX_FIELD(Data, bSegmented, kU32),
-    ZX_FIELD(Data, uRegionCount, kU32),
-    ZX_FIELD(Data, dSamplingFrequency, kDouble),
-    ZX_FIELD(Data, dMinValue, kDouble),
-    ZX_FIELD(Data, dMaxValue, kDouble),
-    ZX_FIELD(Data, bHasUserList, kU8),
-    ZX_FIELD(Data, uBlobSize, kU32),
-    {"aBlob", kBytes, offsetof(Data, aBlob), sizeof Data::aBlob},
-    ZX_MEMBER(aRegionPoints, ZXADLG_PointSpan, uFirstPoint, kU32),
-    ZX_MEMBER(aRegionPoints, ZXADLG_PointSpan, uLastPoint, kU32),
-    ZX_FIELD(Data, uActiveGroup, kU32),
-    {"aActiveSets", kU32, offsetof(Data, aActiveSets), 0, 16, 4},
-    ZX_FIELD(Data, uEpochCount, kU32),
-    ZX_MEMBER(aEpochs, ZXADLG_EpochEntry, uNumber, kU32),
-    ZX_MEMBER(aEpochs, ZXADLG_EpochEntry, szName, kText),
-    ZX_TEXT(Data, szVisibleGroups),
-    ZX_TEXT(Data, szVisibleSets),
-    ZX_MEMBER(aRegions, ZXADLG_RegionEntry, nRegionId, kI32),
-    ZX_MEMBER(aRegions, ZXADLG_RegionEntry, uFirstPoint, kU32),
-    ZX_MEMBER(aRegions, ZXADLG_RegionEntry, uLastPoint, kU32),
-    ZX_MEMBER(aRegions, ZXADLG_RegionEntry, uGroup, kU32),
-    ZX_MEMBER(aRegions, ZXADLG_RegionEntry, uSet, kU32),
-    ZX_MEMBER(aRegions, ZXADLG_RegionEntry, dStart, kDouble),
-    ZX_MEMBER(aRegions, ZXADLG_RegionEntry, dEnd, kDouble),
-    ZX_FIELD(Data, bPaired, kU8),
-    ZX_FIELD(Data, eDataGroup1SelectionMode, kI32),
-    ZX_FIELD(Data, eDataSet1SelectionMode, kI32),
-    ZX_TEXT(Data, szUnitarySelectionList1),
-    ZX_FIELD(Data, uGroup1Index, kU32),
-    ZX_FIELD(Data, eDataGroup2SelectionMode, kI32),
-    ZX_FIELD(Data, eDataSet2SelectionMode, kI32),
-    ZX_TEXT(Data, szUnitarySelectionList2),
-    ZX_FIELD(Data, uGroup2Index, kU32),
-    ZX_FIELD(Data, uPairedGroupIndex, kU32),
-    ZX_FIELD(Data, bExtrapolate, kU8),
-    ZX_FIELD(Data, bForceExcludedRegionToZero, kU8),
-    ZX_FIELD(Data, uExtrapolationCursor, kU32),
-    ZX_FIELD(Data, eAnalysisRegion, kI32),
-    ZX_FIELD(Data, uSelectedDataSet, kU32),
-    ZX_FIELD(Data, uFirstDataIndex, kU32),
-    ZX_FIELD(Data, uLastDataIndex, kU32),
-    {"adConstants", kDouble, offsetof(Data, adConstants), 0, 6, 8},
-    {"abIsConstant", kU8, offsetof(Data, abIsConstant), 0, 6, 1},
-    ZX_FIELD(Data, bUseFullDataRange, kU8),
-    ZX_FIELD(Data, uIndepVarDataSetIndex, kU32),
-    ZX_FIELD(Data, uDepVarDataSetIndex, kU32),
-    ZX_TEXT(Data, szDepVarSelectionList),
-};
-
-#undef ZX_FIELD
-#undef ZX_TEXT
-#undef ZX_MEMBER
-
 #define ZX_PARAM(name, meaning) \
     { #name, &ZXADLG_DlgParams::name, meaning }
 
@@ -117,7 +43,8 @@ T Load(const char* at) {
     return value;
 }
 
-std::string FormatDouble(double value) {
+template <class T>
+std::string FormatNumber(T value) {
     char text[40];
     const auto result = std::to_chars(text, text + sizeof text, value);
     return std::string(text, result.ptr);
@@ -136,46 +63,59 @@ std::string FormatBytes(const char* at, std::size_t size) {
     return used == size ? text : text + "00...";
 }
 
-}  // namespace
-
-const std::span<const Field> kDataFields = kDataRows;
-const std::span<const ParamName> kParamNames = kParamRows;
-
-std::string FormatField(const Field& field, std::size_t index, const void* record) {
-    const char* at = static_cast<const char*>(record) + field.offset + index * field.stride;
+std::string FormatField(const ZXADLG_FieldInfo& field, const char* at) {
     switch (field.type) {
-        case kU8:
+        case ZXADLG_FIELD_BOOL8:
             return std::to_string(Load<std::uint8_t>(at));
-        case kU32:
+        case ZXADLG_FIELD_BOOL32:
+        case ZXADLG_FIELD_U32:
             return std::to_string(Load<std::uint32_t>(at));
-        case kI32:
+        case ZXADLG_FIELD_I32:
             return std::to_string(Load<std::int32_t>(at));
-        case kDouble:
-            return FormatDouble(Load<double>(at));
-        case kText: {
+        case ZXADLG_FIELD_FLOAT:
+            return FormatNumber(Load<float>(at));
+        case ZXADLG_FIELD_DOUBLE:
+            return FormatNumber(Load<double>(at));
+        case ZXADLG_FIELD_TEXT: {
             const void* end = std::memchr(at, 0, field.size);
             const std::size_t length =
                 end ? static_cast<std::size_t>(static_cast<const char*>(end) - at) : field.size;
             return "\"" + std::string(at, length) + "\"";
         }
-        case kBytes:
+        default:
             return FormatBytes(at, field.size);
     }
-    return "";
 }
 
-std::vector<FieldValue> CompareRecords(std::span<const Field> fields, const void* before,
-                                       const void* after) {
+// "aRegions[3].dStart": an element of an array by its place.
+std::string FieldName(const ZXADLG_FieldInfo& field, std::uint32_t i, std::uint32_t j) {
+    std::string name = field.name;
+    if (field.count > 1) name += "[" + std::to_string(i) + "]";
+    if (field.member != nullptr) name += std::string(".") + field.member;
+    if (field.innerCount > 1) name += "[" + std::to_string(j) + "]";
+    return name;
+}
+
+}  // namespace
+
+const std::span<const ParamName> kParamNames = kParamRows;
+
+std::vector<FieldValue> CompareRecords(const char* type, const void* before, const void* after) {
+    const ZXADLG_FieldInfo* fields = nullptr;
+    const std::uint32_t count = ZXADLG_GetRecordFields(type, &fields);
     std::vector<FieldValue> values;
-    for (const Field& field : fields) {
-        for (std::size_t i = 0; i < field.count; ++i) {
-            FieldValue value;
-            value.name = field.name;
-            if (field.count > 1) value.name += "[" + std::to_string(i) + "]" + field.member;
-            value.before = FormatField(field, i, before);
-            value.after = FormatField(field, i, after);
-            value.changed = value.before != value.after;
-            values.push_back(std::move(value));
+    for (std::uint32_t f = 0; f < count; ++f) {
+        const ZXADLG_FieldInfo& field = fields[f];
+        for (std::uint32_t i = 0; i < field.count; ++i) {
+            for (std::uint32_t j = 0; j < field.innerCount; ++j) {
+                const std::size_t place = field.offset + i * field.stride + j * field.size;
+                FieldValue value;
+                value.name = FieldName(field, i, j);
+                value.before = FormatField(field, static_cast<const char*>(before) + place);
+                value.after = FormatField(field, static_cast<const char*>(after) + place);
+                value.changed = value.before != value.after;
+                values.push_back(std::move(value));
+            }
         }
     }
     return values;

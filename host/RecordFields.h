@@ -1,5 +1,5 @@
-// Fields of records that cross the boundary, by name, for showing and comparing them; those of the
-// data record, and the bytes of the parameter record.
+// Fields of records that cross the boundary, by name, for showing and comparing them, as the
+// library lists them; and the bytes of the parameter record.
 #pragma once
 
 #include <cstddef>
@@ -12,19 +12,6 @@
 
 namespace zxhost {
 
-enum class FieldType { kU8, kU32, kI32, kDouble, kText, kBytes };
-
-// One field, or an array of it: `count` times, `stride` bytes apart, each shown as "name[i]member".
-struct Field {
-    const char* name;
-    FieldType type;
-    std::size_t offset;
-    std::size_t size = 0;  // of a text or of bytes
-    std::size_t count = 1;
-    std::size_t stride = 0;
-    const char* member = "";
-};
-
 struct FieldValue {
     std::string name;
     std::string before;
@@ -32,14 +19,9 @@ struct FieldValue {
     bool changed = false;
 };
 
-extern const std::span<const Field> kDataFields;
-
-// Numbers with the fewest digits that give them back, texts in quotes, bytes in hexadecimal.
-std::string FormatField(const Field& field, std::size_t index, const void* record);
-
-// Every field of two records of one kind.
-std::vector<FieldValue> CompareRecords(std::span<const Field> fields, const void* before,
-                                       const void* after);
+// Every field of two records of a type, by the name of the type. Numbers are told with the fewest
+// digits that give them back, texts in quotes, bytes in hexadecimal.
+std::vector<FieldValue> CompareRecords(const char* type, const void* before, const void* after);
 
 // The bytes of the parameter record by their names.
 struct ParamName {

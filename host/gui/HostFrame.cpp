@@ -399,8 +399,9 @@ class Frame {
         HostDataSource source(&recording_, store_.ProfileName());
         const std::int32_t result =
             analysis.show({hwnd_, options.data(), &data, &source, &files_, &params_});
-        fields_ = CompareRecords(analysis.fields, optionsBefore.data(), options.data());
-        const std::vector<FieldValue> more = CompareRecords(kDataFields, &dataBefore, &data);
+        fields_ = CompareRecords(analysis.record, optionsBefore.data(), options.data());
+        const std::vector<FieldValue> more =
+            CompareRecords("ZXADLG_DataOptions", &dataBefore, &data);
         fields_.insert(fields_.end(), more.begin(), more.end());
         const auto changed = std::count_if(fields_.begin(), fields_.end(),
                                            [](const FieldValue& value) { return value.changed; });

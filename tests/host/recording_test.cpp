@@ -156,7 +156,7 @@ TEST(RecordFields, NamesEveryByteOfTheSelectionAndTellsWhatChanged) {
     after.aRegions[49].nRegionId = -1;
     std::string changed;
     for (const zxhost::FieldValue& value :
-         zxhost::CompareRecords(zxhost::kDataFields, &before, &after)) {
+         zxhost::CompareRecords("ZXADLG_DataOptions", &before, &after)) {
         if (value.changed) changed += value.name + " " + value.before + " " + value.after + "\n";
     }
     EXPECT_EQ(changed,
