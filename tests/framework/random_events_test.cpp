@@ -6,7 +6,7 @@
 
 #include "fixtures/HardLimit.h"
 #include "fixtures/LeakCheck.h"
-#include "fixtures/RandomUser.h"
+#include "framework/RandomUser.h"
 #include "fixtures/TestWindows.h"
 #include "framework/ADM_TabbedDialog.h"
 #include "framework/MessageFilter.h"

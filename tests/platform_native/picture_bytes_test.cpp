@@ -4,8 +4,8 @@
 #include <cstring>
 #include <vector>
 
-#include "platform/headless/device_bitmap.h"
-#include "platform/headless/enhanced_metafile.h"
+#include "platform/headless/drawing/device_bitmap.h"
+#include "platform/headless/drawing/enhanced_metafile.h"
 #include "platform/platform.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include "ZXADLG.h"
 #include "fixtures/HardLimit.h"
 #include "fixtures/LeakCheck.h"
-#include "fixtures/RandomUser.h"
+#include "framework/RandomUser.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/TestDataSource.h"
 #include "fixtures/TestWindows.h"

@@ -1,0 +1,16 @@
+// Between code page 1252, in which all texts of the headless system are, and the 16-bit characters
+// of resources. A character that the page lacks becomes a question mark.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "zxadlg/headless/types.h"
+
+namespace headless {
+
+char ToAnsi(char32_t character);
+WORD FromAnsi(char character);
+std::string ToAnsi(std::u16string_view text);
+
+}  // namespace headless

@@ -1,0 +1,51 @@
+// The small calls: threads, processes, errors.
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+#include "zxadlg/headless/functions.h"
+
+namespace {
+
+thread_local DWORD lastError = 0;
+
+}  // namespace
+
+DWORD GetLastError() {
+    return lastError;
+}
+
+void SetLastError(DWORD error) {
+    lastError = error;
+}
+
+DWORD GetCurrentThreadId() {
+    static thread_local const auto id = static_cast<DWORD>(syscall(SYS_gettid));
+    return id;
+}
+
+DWORD GetCurrentProcessId() {
+    return static_cast<DWORD>(getpid());
+}
+
+HANDLE GetCurrentProcess() {
+    return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1));
+}
+
+void OutputDebugStringA(LPCSTR text) {
+    if (text != nullptr) std::fputs(text, stderr);
+}
+
+BOOL IsDebuggerPresent() {
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line)) {
+        if (line.rfind("TracerPid:", 0) == 0)
+            return std::strtol(line.c_str() + 10, nullptr, 10) != 0;
+    }
+    return FALSE;
+}
