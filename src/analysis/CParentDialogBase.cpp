@@ -6,7 +6,7 @@
 #include "analysis/DialogMessages.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 CParentDialogBase::CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData,
                                      ZXADLG_CDlgDataSource* pSource,

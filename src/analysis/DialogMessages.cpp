@@ -1,8 +1,8 @@
 #include "analysis/DialogMessages.h"
 
-#include "analysis/CaptionText.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "text/CaptionText.h"
+#include "widgets/FrameworkSetup.h"
 #include "widgets/MessageDialog.h"
 
 void ShowErrorString(HWND hOwner, UINT nStringId, const char* szArgument) {

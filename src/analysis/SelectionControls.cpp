@@ -9,7 +9,7 @@
 #include "framework/ADM_RadioButtons.h"
 #include "ids.h"
 #include "text/BoundedText.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

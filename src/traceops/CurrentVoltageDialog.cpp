@@ -1,9 +1,9 @@
 #include "traceops/CurrentVoltageDialog.h"
 
 #include "ZXADLG.h"
-#include "analysis/CaptionText.h"
 #include "analysis/SelectionControls.h"
 #include "ids.h"
+#include "text/CaptionText.h"
 
 namespace {
 

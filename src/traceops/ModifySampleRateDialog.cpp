@@ -5,7 +5,7 @@
 #include "ZXADLG.h"
 #include "analysis/SelectionControls.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 #include <iterator>
 

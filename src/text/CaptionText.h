@@ -3,8 +3,6 @@
 
 #include <cstddef>
 
-#include "platform/platform.h"
-
 // Writes szTemplate with the first "%s" or "%d" replaced by szArgument, cut at the buffer's end.
 // "%%" gives "%", any other conversion nothing; the argument stands as it is, whatever it holds.
 // Null texts are empty.

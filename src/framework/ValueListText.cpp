@@ -1,23 +1,23 @@
-#include "framework/ListText.h"
+#include "framework/ValueListText.h"
 
 #include "framework/ADM_ListText.h"
 #include "framework/ValidationMessages.h"
 #include "framework/ValueList.h"
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::OnAttach() {
+void ValueListText<Base, ListFields>::OnAttach() {
     Base::OnAttach();
     EnableByList();
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::Enable(BOOL bEnable) {
+void ValueListText<Base, ListFields>::Enable(BOOL bEnable) {
     Base::Enable(bEnable);
     if (m_pGauge != nullptr) m_pGauge->Enable(bEnable);
 }
 
 template <class Base, class ListFields>
-BOOL ListText<Base, ListFields>::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
+BOOL ValueListText<Base, ListFields>::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
     if (!Base::Validate(bSilent, ppFailed)) return 0;
     if (!m_bStrict || IndexOf() != -1) return 1;
     if (!bSilent) {
@@ -31,7 +31,7 @@ BOOL ListText<Base, ListFields>::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::SetValue(Value value) {
+void ValueListText<Base, ListFields>::SetValue(Value value) {
     Base::SetValue(value);
     if (m_uListCount == 0 || m_pGauge == nullptr) return;
     const int nIndex = IndexOf();
@@ -40,7 +40,7 @@ void ListText<Base, ListFields>::SetValue(Value value) {
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::SetGauge(ADM_GaugeControl* pGauge) {
+void ValueListText<Base, ListFields>::SetGauge(ADM_GaugeControl* pGauge) {
     m_pGauge = pGauge;
     if (pGauge == nullptr) return;
     pGauge->SetNotifyTarget(this);
@@ -51,7 +51,7 @@ void ListText<Base, ListFields>::SetGauge(ADM_GaugeControl* pGauge) {
 }
 
 template <class Base, class ListFields>
-BOOL ListText<Base, ListFields>::SetValueList(std::uint32_t uCount, const Value* pValues) {
+BOOL ValueListText<Base, ListFields>::SetValueList(std::uint32_t uCount, const Value* pValues) {
     m_uListCount = CopyValueList(this->*ListFields::pList, pValues, uCount);
     if (m_uListCount != uCount) return 0;
     EnableByList();
@@ -66,12 +66,12 @@ BOOL ListText<Base, ListFields>::SetValueList(std::uint32_t uCount, const Value*
 }
 
 template <class Base, class ListFields>
-int ListText<Base, ListFields>::IndexOf() {
+int ValueListText<Base, ListFields>::IndexOf() {
     return FindInList(List(), m_uListCount, this->HeldValue());
 }
 
 template <class Base, class ListFields>
-int ListText<Base, ListFields>::FloorIndex() {
+int ValueListText<Base, ListFields>::FloorIndex() {
     if (m_uListCount == 0) return 0;
     const Value value = this->HeldValue();
     for (int i = 1; i <= LastIndex(); ++i) {
@@ -81,7 +81,7 @@ int ListText<Base, ListFields>::FloorIndex() {
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::StepListUp() {
+void ValueListText<Base, ListFields>::StepListUp() {
     if (m_uListCount == 0) return;
     this->ReadControl();
     const int nIndex = IndexOf();
@@ -96,7 +96,7 @@ void ListText<Base, ListFields>::StepListUp() {
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::StepListDown() {
+void ValueListText<Base, ListFields>::StepListDown() {
     if (m_uListCount == 0) return;
     this->ReadControl();
     const int nIndex = IndexOf();
@@ -111,7 +111,7 @@ void ListText<Base, ListFields>::StepListDown() {
 
 // A value beyond either end goes to that end, in whichever direction it is stepped.
 template <class Base, class ListFields>
-bool ListText<Base, ListFields>::StepFromOutside() {
+bool ValueListText<Base, ListFields>::StepFromOutside() {
     const Value value = this->HeldValue();
     if (value >= List()[LastIndex()]) {
         SetValueWithBeep(List()[LastIndex()]);
@@ -125,19 +125,19 @@ bool ListText<Base, ListFields>::StepFromOutside() {
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::SetValueWithBeep(Value value) {
+void ValueListText<Base, ListFields>::SetValueWithBeep(Value value) {
     SetValue(value);
     ::MessageBeep(0);
 }
 
 // To the receivers of this field alone, so that a value set by the program takes no focus.
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::TellPosition() {
+void ValueListText<Base, ListFields>::TellPosition() {
     ADM_Wnd::Notify(m_pGauge, m_pGauge->GetControlId(), ADMN_GAUGEPOSITION, 0);
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
+void ValueListText<Base, ListFields>::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData) {
     const bool bFromGauge = m_pGauge != nullptr && pSender == m_pGauge;
     const bool bMoved = bFromGauge && (nCode == ADMN_GAUGEPOSITION ||
                                        (nCode >= ADMN_GAUGELINEUP && nCode <= ADMN_GAUGEPAGEDOWN));
@@ -152,7 +152,7 @@ void ListText<Base, ListFields>::Notify(ADM_Wnd* pSender, int nId, int nCode, in
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::FollowGauge(int nCode, int nData) {
+void ValueListText<Base, ListFields>::FollowGauge(int nCode, int nData) {
     switch (nCode) {
         case ADMN_GAUGELINEUP:
         case ADMN_GAUGEPAGEUP:
@@ -171,7 +171,7 @@ void ListText<Base, ListFields>::FollowGauge(int nCode, int nData) {
 }
 
 template <class Base, class ListFields>
-void ListText<Base, ListFields>::FollowKeys(int nCode) {
+void ValueListText<Base, ListFields>::FollowKeys(int nCode) {
     switch (nCode) {
         case ADMN_KEYUP:
         case ADMN_SHIFTKEYUP:
@@ -192,6 +192,6 @@ void ListText<Base, ListFields>::FollowKeys(int nCode) {
     if (this->HasFocus()) this->SelectContents();
 }
 
-template class ListText<ADM_IntegerText, IntegerListFields>;
-template class ListText<ADM_FloatText, FloatListFields>;
-template class ListText<ADM_DoubleText, DoubleListFields>;
+template class ValueListText<ADM_IntegerText, IntegerListFields>;
+template class ValueListText<ADM_FloatText, FloatListFields>;
+template class ValueListText<ADM_DoubleText, DoubleListFields>;

@@ -1,25 +1,19 @@
-#include "analysis/CaptionText.h"
+#include "text/CaptionText.h"
 
 #include "text/BoundedText.h"
+#include "text/TextTemplate.h"
 
 void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char* szArgument) {
     BoundedWriter writer(szBuffer, nSize);
     if (szTemplate == nullptr) return;
     bool bUsed = false;
-    for (const char* p = szTemplate; *p != '\0'; ++p) {
-        if (*p != '%') {
-            writer.Put(*p);
-            continue;
-        }
-        ++p;
-        if (*p == '\0') return;
-        if (*p == '%') {
-            writer.Put('%');
-        } else if ((*p == 's' || *p == 'd') && !bUsed) {
+    ExpandTemplate(
+        szTemplate, TemplatePlaces::kConversions, [&](char ch) { writer.Put(ch); },
+        [&](char chLetter) {
+            if ((chLetter != 's' && chLetter != 'd') || bUsed) return;
             bUsed = true;
             if (szArgument != nullptr) writer.Put(szArgument);
-        }
-    }
+        });
 }
 
 void LowerNoun(char* szBuffer, int nSize, const char* szNoun) {

@@ -27,7 +27,7 @@ struct DoubleListFields {
 };
 
 template <class Base, class ListFields>
-class ListText : public Base, protected ListFields {
+class ValueListText : public Base, protected ListFields {
   public:
     using Value = typename Base::Value;
 
