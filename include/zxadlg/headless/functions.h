@@ -11,8 +11,6 @@ ATOM RegisterClassA(const WNDCLASSA* wc);
 BOOL UnregisterClassA(LPCSTR className, HINSTANCE instance);
 BOOL GetClassInfoA(HINSTANCE instance, LPCSTR className, WNDCLASSA* wc);
 int GetClassNameA(HWND hwnd, LPSTR buffer, int size);
-ULONG_PTR GetClassLongPtrA(HWND hwnd, int index);
-ULONG_PTR SetClassLongPtrA(HWND hwnd, int index, LONG_PTR value);
 
 // --- Windows ---------------------------------------------------------------------------------
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y,
@@ -24,13 +22,10 @@ BOOL DestroyWindow(HWND hwnd);
 BOOL IsWindow(HWND hwnd);
 BOOL IsChild(HWND parent, HWND hwnd);
 BOOL IsIconic(HWND hwnd);
-BOOL IsZoomed(HWND hwnd);
 BOOL IsWindowVisible(HWND hwnd);
-BOOL IsWindowUnicode(HWND hwnd);
 BOOL IsWindowEnabled(HWND hwnd);
 BOOL EnableWindow(HWND hwnd, BOOL enable);
 BOOL ShowWindow(HWND hwnd, int command);
-BOOL ShowOwnedPopups(HWND hwnd, BOOL show);
 BOOL MoveWindow(HWND hwnd, int x, int y, int width, int height, BOOL repaint);
 BOOL SetWindowPos(HWND hwnd, HWND insertAfter, int x, int y, int cx, int cy, UINT flags);
 BOOL BringWindowToTop(HWND hwnd);
@@ -54,7 +49,6 @@ HWND GetLastActivePopup(HWND hwnd);
 HWND GetDesktopWindow();
 HWND FindWindowA(LPCSTR className, LPCSTR windowName);
 HWND FindWindowExA(HWND parent, HWND childAfter, LPCSTR className, LPCSTR windowName);
-HWND WindowFromPoint(POINT point);
 HWND ChildWindowFromPoint(HWND parent, POINT point);
 BOOL EnumChildWindows(HWND parent, WNDENUMPROC proc, LPARAM param);
 BOOL EnumThreadWindows(DWORD thread, WNDENUMPROC proc, LPARAM param);
@@ -67,7 +61,6 @@ LONG_PTR SetWindowLongPtrA(HWND hwnd, int index, LONG_PTR value);
 HANDLE GetPropA(HWND hwnd, LPCSTR name);
 BOOL SetPropA(HWND hwnd, LPCSTR name, HANDLE value);
 HANDLE RemovePropA(HWND hwnd, LPCSTR name);
-int EnumPropsA(HWND hwnd, PROPENUMPROCA proc);
 LRESULT CallWindowProcA(WNDPROC proc, HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT DefWindowProcA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -91,14 +84,12 @@ HCURSOR SetCursor(HCURSOR cursor);
 HCURSOR GetCursor();
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name);
 HICON LoadIconA(HINSTANCE instance, LPCSTR name);
-BOOL DestroyIcon(HICON icon);
 BOOL TrackMouseEvent(TRACKMOUSEEVENT* event);
 BOOL _TrackMouseEvent(TRACKMOUSEEVENT* event);
 UINT GetDoubleClickTime();
 UINT SendInput(UINT count, INPUT* inputs, int size);
 SHORT VkKeyScanA(CHAR character);
 UINT MapVirtualKeyA(UINT code, UINT type);
-UINT GetCaretBlinkTime();
 BOOL MessageBeep(UINT type);
 
 // --- Messages, timers and hooks --------------------------------------------------------------
@@ -113,8 +104,6 @@ DWORD MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL all, DW
                                 DWORD mask);
 BOOL TranslateMessage(const MSG* msg);
 LRESULT DispatchMessageA(const MSG* msg);
-DWORD GetMessageTime();
-DWORD GetMessagePos();
 BOOL InSendMessage();
 UINT RegisterWindowMessageA(LPCSTR name);
 UINT_PTR SetTimer(HWND hwnd, UINT_PTR id, UINT elapse, TIMERPROC proc);
@@ -202,7 +191,6 @@ BOOL SetViewportExtEx(HDC dc, int x, int y, SIZE* old);
 BOOL SetWindowOrgEx(HDC dc, int x, int y, POINT* old);
 BOOL SetViewportOrgEx(HDC dc, int x, int y, POINT* old);
 BOOL GetWindowExtEx(HDC dc, SIZE* size);
-BOOL GetViewportExtEx(HDC dc, SIZE* size);
 int GetDeviceCaps(HDC dc, int index);
 BOOL GetTextMetricsA(HDC dc, TEXTMETRICA* metrics);
 BOOL GetTextExtentPoint32A(HDC dc, LPCSTR text, int length, SIZE* size);
@@ -240,7 +228,6 @@ BOOL DeleteEnhMetaFile(HENHMETAFILE metafile);
 // --- Rectangles ------------------------------------------------------------------------------
 BOOL SetRect(RECT* rect, int left, int top, int right, int bottom);
 BOOL SetRectEmpty(RECT* rect);
-BOOL CopyRect(RECT* to, const RECT* from);
 BOOL InflateRect(RECT* rect, int dx, int dy);
 BOOL OffsetRect(RECT* rect, int dx, int dy);
 BOOL IntersectRect(RECT* result, const RECT* a, const RECT* b);
@@ -262,8 +249,6 @@ HANDLE GetCurrentProcess();
 DWORD GetLastError();
 void SetLastError(DWORD error);
 int MulDiv(int number, int numerator, int denominator);
-void OutputDebugStringA(LPCSTR text);
-BOOL IsDebuggerPresent();
 
 // --- Clipboard -------------------------------------------------------------------------------
 BOOL OpenClipboard(HWND owner);
@@ -303,7 +288,6 @@ HRESULT CloseThemeData(HTHEME theme);
 HRESULT DrawThemeBackground(HTHEME theme, HDC dc, int part, int state, const RECT* rect,
                             const RECT* clip);
 HRESULT DrawThemeParentBackground(HWND hwnd, HDC dc, const RECT* rect);
-BOOL IsThemeBackgroundPartiallyTransparent(HTHEME theme, int part, int state);
 HRESULT EnableThemeDialogTexture(HWND hwnd, DWORD flags);
 BOOL IsThemeDialogTextureEnabled(HWND hwnd);
 HRESULT SetWindowTheme(HWND hwnd, LPCWSTR appName, LPCWSTR idList);

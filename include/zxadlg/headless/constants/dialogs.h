@@ -20,7 +20,6 @@ inline constexpr int DS_CENTER = 0x800;
 inline constexpr int DS_CENTERMOUSE = 0x1000;
 inline constexpr int DS_CONTEXTHELP = 0x2000;
 inline constexpr int DS_SHELLFONT = 0x48;
-#define WC_DIALOG MAKEINTATOM(0x8002)
 
 // Places in the extra bytes of a dialog; they depend on the size of a result.
 inline constexpr int DWLP_MSGRESULT = 0;
@@ -40,16 +39,11 @@ inline constexpr int MB_ICONEXCLAMATION = 0x30;
 inline constexpr int MB_ICONASTERISK = 0x40;
 inline constexpr int MB_ICONERROR = 0x10;
 inline constexpr int MB_ICONWARNING = 0x30;
-inline constexpr int MB_ICONINFORMATION = 0x40;
-inline constexpr int MB_ICONSTOP = 0x10;
 inline constexpr int MB_ICONMASK = 0xF0;
 inline constexpr int MB_TYPEMASK = 0xF;
-inline constexpr int MB_DEFBUTTON1 = 0x0;
 inline constexpr int MB_DEFBUTTON2 = 0x100;
 inline constexpr int MB_DEFBUTTON3 = 0x200;
-inline constexpr int MB_DEFBUTTON4 = 0x300;
 inline constexpr int MB_DEFMASK = 0xF00;
-inline constexpr int MB_APPLMODAL = 0x0;
 inline constexpr int MB_SYSTEMMODAL = 0x1000;
 inline constexpr int MB_TASKMODAL = 0x2000;
 inline constexpr int MB_HELP = 0x4000;
@@ -62,12 +56,9 @@ inline constexpr int IDRETRY = 4;
 inline constexpr int IDIGNORE = 5;
 inline constexpr int IDYES = 6;
 inline constexpr int IDNO = 7;
-inline constexpr int IDCLOSE = 8;
 inline constexpr int IDHELP = 9;
 inline constexpr int IDTRYAGAIN = 10;
 inline constexpr int IDCONTINUE = 11;
-inline constexpr int MB_CANCELTRYCONTINUE = 0x6;
-inline constexpr int MB_USERICON = 0x80;
 inline constexpr int MB_NOFOCUS = 0x8000;
 inline constexpr int MB_DEFAULT_DESKTOP_ONLY = 0x20000;
 inline constexpr int MB_RIGHT = 0x80000;

@@ -25,8 +25,6 @@ inline constexpr int WS_TABSTOP = 0x10000;
 inline constexpr int WS_MINIMIZEBOX = 0x20000;
 inline constexpr int WS_MAXIMIZEBOX = 0x10000;
 inline constexpr int WS_OVERLAPPEDWINDOW = 0xCF0000;
-inline constexpr DWORD WS_POPUPWINDOW = 0x80880000;
-inline constexpr int WS_CHILDWINDOW = 0x40000000;
 inline constexpr int WS_EX_DLGMODALFRAME = 0x1;
 inline constexpr int WS_EX_NOPARENTNOTIFY = 0x4;
 inline constexpr int WS_EX_TOPMOST = 0x8;
@@ -53,30 +51,15 @@ inline constexpr int CS_NOCLOSE = 0x200;
 inline constexpr int CS_SAVEBITS = 0x800;
 inline constexpr int CS_GLOBALCLASS = 0x4000;
 
-// Window and class longs, positions, show states, relations, redrawing.
-inline constexpr int GWL_WNDPROC = -4;
-inline constexpr int GWL_HINSTANCE = -6;
-inline constexpr int GWL_HWNDPARENT = -8;
+// Window longs, positions, show states, relations, redrawing.
 inline constexpr int GWL_STYLE = -16;
 inline constexpr int GWL_EXSTYLE = -20;
-inline constexpr int GWL_USERDATA = -21;
 inline constexpr int GWL_ID = -12;
 inline constexpr int GWLP_WNDPROC = -4;
 inline constexpr int GWLP_HINSTANCE = -6;
 inline constexpr int GWLP_HWNDPARENT = -8;
 inline constexpr int GWLP_USERDATA = -21;
 inline constexpr int GWLP_ID = -12;
-inline constexpr int GCL_STYLE = -26;
-inline constexpr int GCL_CBWNDEXTRA = -18;
-inline constexpr int GCL_CBCLSEXTRA = -20;
-inline constexpr int GCLP_HBRBACKGROUND = -10;
-inline constexpr int GCLP_HCURSOR = -12;
-inline constexpr int GCLP_HMODULE = -16;
-inline constexpr int GCLP_WNDPROC = -24;
-inline constexpr int GCLP_HICON = -14;
-inline constexpr int GCLP_HICONSM = -34;
-inline constexpr int GCLP_MENUNAME = -8;
-inline constexpr int GCW_ATOM = -32;
 inline constexpr int CW_USEDEFAULT = -2147483648;
 inline constexpr int SWP_NOSIZE = 0x1;
 inline constexpr int SWP_NOMOVE = 0x2;
@@ -89,14 +72,10 @@ inline constexpr int SWP_HIDEWINDOW = 0x80;
 inline constexpr int SWP_NOCOPYBITS = 0x100;
 inline constexpr int SWP_NOOWNERZORDER = 0x200;
 inline constexpr int SWP_NOSENDCHANGING = 0x400;
-inline constexpr int SWP_DRAWFRAME = 0x20;
-inline constexpr int SWP_NOREPOSITION = 0x200;
 inline constexpr int SW_HIDE = 0x0;
 inline constexpr int SW_SHOWNORMAL = 0x1;
-inline constexpr int SW_NORMAL = 0x1;
 inline constexpr int SW_SHOWMINIMIZED = 0x2;
 inline constexpr int SW_SHOWMAXIMIZED = 0x3;
-inline constexpr int SW_MAXIMIZE = 0x3;
 inline constexpr int SW_SHOWNOACTIVATE = 0x4;
 inline constexpr int SW_SHOW = 0x5;
 inline constexpr int SW_MINIMIZE = 0x6;
@@ -125,11 +104,8 @@ inline constexpr int RDW_UPDATENOW = 0x100;
 inline constexpr int RDW_ERASENOW = 0x200;
 inline constexpr int RDW_FRAME = 0x400;
 inline constexpr int RDW_NOFRAME = 0x800;
-inline constexpr int DCX_WINDOW = 0x1;
-inline constexpr int DCX_CACHE = 0x2;
 
 // Window handles with a meaning.
-#define HWND_DESKTOP (static_cast<HWND>(nullptr))
 #define HWND_TOP (reinterpret_cast<HWND>(static_cast<ULONG_PTR>(0)))
 #define HWND_BOTTOM (reinterpret_cast<HWND>(static_cast<ULONG_PTR>(1)))
 #define HWND_TOPMOST (reinterpret_cast<HWND>(static_cast<LONG_PTR>(-1)))

@@ -186,14 +186,6 @@ BOOL GetWindowExtEx(HDC handle, SIZE* size) {
     return TRUE;
 }
 
-BOOL GetViewportExtEx(HDC handle, SIZE* size) {
-    const Lock lock;
-    const DeviceContext* dc = FindDc(handle);
-    if (dc == nullptr || size == nullptr) return FALSE;
-    *size = dc->state.viewportExtent;
-    return TRUE;
-}
-
 int GetDeviceCaps(HDC handle, int index) {
     {
         const Lock lock;

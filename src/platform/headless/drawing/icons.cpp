@@ -63,8 +63,3 @@ HICON LoadIconA(HINSTANCE instance, LPCSTR name) {
 HCURSOR LoadCursorA(HINSTANCE instance, LPCSTR name) {
     return Load(instance, name, RT_GROUP_CURSOR, kSystemCursors, 32512, 32651);
 }
-
-// What was loaded is shared and stays; giving it back is allowed and changes nothing.
-BOOL DestroyIcon(HICON icon) {
-    return icon != nullptr;
-}

@@ -22,12 +22,6 @@ BOOL SetRectEmpty(RECT* rect) {
     return SetRect(rect, 0, 0, 0, 0);
 }
 
-BOOL CopyRect(RECT* to, const RECT* from) {
-    if (to == nullptr || from == nullptr) return FALSE;
-    *to = *from;
-    return TRUE;
-}
-
 BOOL InflateRect(RECT* rect, int dx, int dy) {
     if (rect == nullptr) return FALSE;
     *rect = {Add(rect->left, static_cast<LONG>(0u - static_cast<DWORD>(dx))),

@@ -114,12 +114,6 @@ HRESULT DrawThemeParentBackground(HWND hwnd, HDC handle, const RECT* rect) {
     return S_OK;
 }
 
-BOOL IsThemeBackgroundPartiallyTransparent(HTHEME theme, int, int) {
-    const Lock lock;
-    const Theme* object = Find<Theme>(theme);
-    return object != nullptr && object->name == "BUTTON" ? TRUE : FALSE;
-}
-
 HRESULT EnableThemeDialogTexture(HWND hwnd, DWORD flags) {
     if (!IsWindow(hwnd)) return E_HANDLE;
     const Lock lock;

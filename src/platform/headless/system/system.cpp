@@ -2,11 +2,6 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include <cstdio>
-#include <cstdlib>
-#include <fstream>
-#include <string>
-
 #include "zxadlg/headless/functions.h"
 
 namespace {
@@ -34,18 +29,4 @@ DWORD GetCurrentProcessId() {
 
 HANDLE GetCurrentProcess() {
     return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1));
-}
-
-void OutputDebugStringA(LPCSTR text) {
-    if (text != nullptr) std::fputs(text, stderr);
-}
-
-BOOL IsDebuggerPresent() {
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    while (std::getline(status, line)) {
-        if (line.rfind("TracerPid:", 0) == 0)
-            return std::strtol(line.c_str() + 10, nullptr, 10) != 0;
-    }
-    return FALSE;
 }

@@ -1,8 +1,8 @@
 #include "zxadlg/headless/census.h"
 
+#include "platform/headless/drawing/gdi.h"
 #include "platform/headless/window/hook_list.h"
 #include "platform/headless/window/timer_list.h"
-#include "platform/headless/drawing/gdi.h"
 #include "platform/headless/window/window.h"
 
 namespace headless {

@@ -13,7 +13,6 @@ namespace headless {
 namespace {
 
 constexpr int kDoubleClickTime = 500;
-constexpr int kCaretBlinkTime = 530;
 
 bool IsExtended(int key) {
     switch (key) {
@@ -321,10 +320,6 @@ BOOL _TrackMouseEvent(TRACKMOUSEEVENT* event) {
 
 UINT GetDoubleClickTime() {
     return kDoubleClickTime;
-}
-
-UINT GetCaretBlinkTime() {
-    return kCaretBlinkTime;
 }
 
 BOOL MessageBeep(UINT) {

@@ -9,6 +9,7 @@
 #include <optional>
 #include <thread>
 
+#include "platform/headless/system/codepage.h"
 #include "platform/headless/window/hook_list.h"
 #include "platform/headless/window/input_state.h"
 #include "platform/headless/window/timer_list.h"
@@ -112,11 +113,7 @@ bool Retrieve(MSG& msg, HWND filter, UINT first, UINT last, UINT flags) {
     if (msg.time == 0) msg.time = GetTickCount();
     if (msg.message != WM_QUIT && !(msg.message >= WM_KEYFIRST && msg.message <= WM_MOUSELAST))
         msg.pt = world.input->cursor;
-    if ((flags & PM_REMOVE) != 0) {
-        world.queue->lastTime = msg.time;
-        world.queue->lastPoint = msg.pt;
-        world.queue->hopelessWaits = 0;
-    }
+    if ((flags & PM_REMOVE) != 0) world.queue->hopelessWaits = 0;
     CallGetMessageHooks(msg, flags);
     return true;
 }
@@ -352,15 +349,6 @@ LRESULT DispatchMessageA(const MSG* msg) {
     Window* window = Lookup(msg->hwnd);
     if (window == nullptr) return 0;
     return CallProcedure(*window, msg->message, msg->wParam, msg->lParam);
-}
-
-DWORD GetMessageTime() {
-    return ThisWorld().queue->lastTime;
-}
-
-DWORD GetMessagePos() {
-    const POINT p = ThisWorld().queue->lastPoint;
-    return static_cast<DWORD>(MAKELONG(static_cast<WORD>(p.x), static_cast<WORD>(p.y)));
 }
 
 BOOL InSendMessage() {

@@ -26,9 +26,6 @@ struct MessageQueue {
     std::deque<SentMessage*> sent;
     bool quit = false;
     int quitCode = 0;
-    // The last message handed out, for GetMessageTime and GetMessagePos.
-    DWORD lastTime = 0;
-    POINT lastPoint{};
     int servingSent = 0;
     int hopelessWaits = 0;
 

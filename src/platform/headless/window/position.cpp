@@ -424,19 +424,6 @@ BOOL ShowWindow(HWND hwnd, int command) {
     return wasVisible;
 }
 
-BOOL ShowOwnedPopups(HWND hwnd, BOOL show) {
-    KeepAlive keep;
-    if (Lookup(hwnd) == nullptr) return FALSE;
-    std::vector<HWND> owned;
-    for (const Window* w : ThisWorld().desktop->children) {
-        if (w->owner == hwnd) owned.push_back(w->handle);
-    }
-    for (HWND w : owned) {
-        Send(w, WM_SHOWWINDOW, show, show ? SW_PARENTOPENING : SW_PARENTCLOSING);
-    }
-    return TRUE;
-}
-
 BOOL GetWindowRect(HWND hwnd, RECT* rect) {
     const Window* window = Lookup(hwnd);
     if (window == nullptr || rect == nullptr) return FALSE;

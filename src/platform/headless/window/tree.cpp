@@ -1,6 +1,7 @@
 // Finding windows: parents, owners, siblings, names and points.
 #include <algorithm>
 
+#include "platform/headless/system/codepage.h"
 #include "platform/headless/window/window.h"
 #include "platform/headless/window/window_class.h"
 #include "zxadlg/headless/diagnostics.h"
@@ -36,23 +37,6 @@ Window* Sibling(const Window& window, int step) {
 
 HWND HandleOf(const Window* window) {
     return window == nullptr ? nullptr : window->handle;
-}
-
-// The deepest window at a point of the screen. A disabled child does not answer for itself; a
-// static text lets the point through to what lies behind it.
-Window* DeepestAt(Window& window, POINT screen) {
-    for (Window* child : window.children) {
-        if ((child->style & WS_VISIBLE) == 0) continue;
-        if (!Contains(FrameOnScreen(*child), screen)) continue;
-        if (child->IsChildWindow() && !Enabled(*child)) continue;
-        if ((child->style & WS_MINIMIZE) != 0) return child;
-        if (!Contains(ClientOnScreen(*child), screen)) return child;
-        Window* inner = DeepestAt(*child, screen);
-        if (inner != nullptr) return inner;
-        const LRESULT hit = Send(child->handle, WM_NCHITTEST, 0, MAKELPARAM(screen.x, screen.y));
-        if (child->alive && hit != HTTRANSPARENT) return child;
-    }
-    return nullptr;
 }
 
 }  // namespace
@@ -178,18 +162,9 @@ BOOL IsWindowEnabled(HWND hwnd) {
     return window != nullptr && Enabled(*window);
 }
 
-BOOL IsWindowUnicode(HWND) {
-    return FALSE;
-}
-
 BOOL IsIconic(HWND hwnd) {
     const Window* window = Lookup(hwnd);
     return window != nullptr && (window->style & WS_MINIMIZE) != 0;
-}
-
-BOOL IsZoomed(HWND hwnd) {
-    const Window* window = Lookup(hwnd);
-    return window != nullptr && (window->style & WS_MAXIMIZE) != 0;
 }
 
 HWND FindWindowA(LPCSTR className, LPCSTR windowName) {
@@ -216,12 +191,6 @@ HWND FindWindowExA(HWND parent, HWND childAfter, LPCSTR className, LPCSTR window
         return child->handle;
     }
     return nullptr;
-}
-
-HWND WindowFromPoint(POINT point) {
-    KeepAlive keep;
-    Window* window = DeepestAt(*Peek(DesktopHandle()), point);
-    return window == nullptr ? DesktopHandle() : window->handle;
 }
 
 HWND ChildWindowFromPoint(HWND parent, POINT point) {

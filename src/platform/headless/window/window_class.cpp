@@ -4,6 +4,7 @@
 #include <list>
 #include <mutex>
 
+#include "platform/headless/system/codepage.h"
 #include "platform/headless/system/module_table.h"
 #include "zxadlg/headless/diagnostics.h"
 
@@ -60,20 +61,6 @@ void FillInfo(const WindowClass& cls, WNDCLASSA& wc) {
 }
 
 }  // namespace
-
-std::string Lowered(const std::string& text) {
-    std::string result = text;
-    for (char& c : result) {
-        const auto u = static_cast<unsigned char>(c);
-        const bool latin = u >= 0xC0 && u <= 0xDE && u != 0xD7;
-        if ((u >= 'A' && u <= 'Z') || latin) c = static_cast<char>(u + 0x20);
-    }
-    return result;
-}
-
-bool SameName(const std::string& a, const std::string& b) {
-    return a.size() == b.size() && Lowered(a) == Lowered(b);
-}
 
 WindowClass* FindClass(LPCSTR name, HINSTANCE instance) {
     EnsureInitialized();
@@ -215,94 +202,4 @@ int GetClassNameA(HWND hwnd, LPSTR buffer, int size) {
     std::memcpy(buffer, window->cls->name.data(), length);
     buffer[length] = '\0';
     return static_cast<int>(length);
-}
-
-namespace {
-
-// The place of a class value that holds a pointer or a number; null when the index is not one.
-ULONG_PTR ReadClassValue(const WindowClass& cls, int index, bool& known) {
-    known = true;
-    switch (index) {
-        case GCL_STYLE:
-            return cls.style;
-        case GCL_CBWNDEXTRA:
-            return static_cast<ULONG_PTR>(cls.windowExtra);
-        case GCL_CBCLSEXTRA:
-            return cls.extra.size();
-        case GCLP_HBRBACKGROUND:
-            return reinterpret_cast<ULONG_PTR>(cls.background);
-        case GCLP_HCURSOR:
-            return reinterpret_cast<ULONG_PTR>(cls.cursor);
-        case GCLP_HICON:
-            return reinterpret_cast<ULONG_PTR>(cls.icon);
-        case GCLP_HICONSM:
-            return reinterpret_cast<ULONG_PTR>(cls.smallIcon);
-        case GCLP_HMODULE:
-            return reinterpret_cast<ULONG_PTR>(cls.instance);
-        case GCLP_WNDPROC:
-            return reinterpret_cast<ULONG_PTR>(cls.proc);
-        case GCW_ATOM:
-            return cls.atom;
-        default:
-            break;
-    }
-    if (index >= 0 && static_cast<std::size_t>(index) + sizeof(ULONG_PTR) <= cls.extra.size()) {
-        ULONG_PTR value = 0;
-        std::memcpy(&value, cls.extra.data() + index, sizeof value);
-        return value;
-    }
-    known = false;
-    return 0;
-}
-
-}  // namespace
-
-ULONG_PTR GetClassLongPtrA(HWND hwnd, int index) {
-    const Window* window = Lookup(hwnd);
-    if (window == nullptr) return 0;
-    std::lock_guard lock(Table().mutex);
-    bool known = false;
-    const ULONG_PTR value = ReadClassValue(*window->cls, index, known);
-    if (!known) SetLastError(ERROR_INVALID_INDEX);
-    return value;
-}
-
-ULONG_PTR SetClassLongPtrA(HWND hwnd, int index, LONG_PTR value) {
-    Window* window = Lookup(hwnd);
-    if (window == nullptr) return 0;
-    std::lock_guard lock(Table().mutex);
-    WindowClass& cls = *window->cls;
-    bool known = false;
-    const ULONG_PTR old = ReadClassValue(cls, index, known);
-    switch (index) {
-        case GCL_STYLE:
-            cls.style = static_cast<UINT>(value);
-            break;
-        case GCL_CBWNDEXTRA:
-            cls.windowExtra = static_cast<int>(value);
-            break;
-        case GCLP_HBRBACKGROUND:
-            cls.background = reinterpret_cast<HBRUSH>(value);
-            break;
-        case GCLP_HCURSOR:
-            cls.cursor = reinterpret_cast<HCURSOR>(value);
-            break;
-        case GCLP_HICON:
-            cls.icon = reinterpret_cast<HICON>(value);
-            break;
-        case GCLP_HICONSM:
-            cls.smallIcon = reinterpret_cast<HICON>(value);
-            break;
-        case GCLP_WNDPROC:
-            cls.proc = reinterpret_cast<WNDPROC>(value);
-            break;
-        default:
-            if (index >= 0 && known) {
-                std::memcpy(cls.extra.data() + index, &value, sizeof value);
-            } else {
-                SetLastError(ERROR_INVALID_INDEX);
-                return 0;
-            }
-    }
-    return old;
 }

@@ -18,8 +18,4 @@ void EndStandardClasses();
 // "#32770", the class of dialogs, with its fixed atom.
 void RegisterDialogClass();
 
-// Compares names of classes, properties and resources: without case, in the platform's 8-bit way.
-bool SameName(const std::string& a, const std::string& b);
-std::string Lowered(const std::string& text);
-
 }  // namespace headless

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include "platform/headless/system/codepage.h"
 #include "platform/headless/window/window.h"
 #include "platform/headless/window/window_class.h"
 #include "zxadlg/headless/diagnostics.h"
@@ -194,19 +195,6 @@ HANDLE RemovePropA(HWND hwnd, LPCSTR name) {
     const HANDLE value = found->value;
     window->properties.erase(found);
     return value;
-}
-
-int EnumPropsA(HWND hwnd, PROPENUMPROCA proc) {
-    KeepAlive keep;
-    Window* window = Lookup(hwnd);
-    if (window == nullptr || proc == nullptr) return -1;
-    int result = -1;
-    const std::vector<Property> all = window->properties;
-    for (const Property& p : all) {
-        result = proc(hwnd, p.name.c_str(), p.value);
-        if (result == 0) break;
-    }
-    return result;
 }
 
 BOOL SetWindowTextA(HWND hwnd, LPCSTR text) {
