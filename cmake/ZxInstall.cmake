@@ -16,6 +16,8 @@ install(TARGETS ZXANALYSISDIALOGS
 if(WIN32)
   install(FILES ${ZX_VENDOR_IMPORT_LIBRARY} DESTINATION lib COMPONENT ZxAnalysisDialogs)
 else()
+  # The window system in memory, which the library stands on and which a host may drive it by.
+  install(TARGETS zx_headless LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs)
   set_target_properties(zxhost PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 endif()
 install(TARGETS zxhost RUNTIME DESTINATION bin COMPONENT ZxHost)

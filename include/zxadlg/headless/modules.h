@@ -2,8 +2,8 @@
 // its section zx_resources and are found there without any help; RegisterModule is for bytes that
 // lie elsewhere.
 //
-// LoadLibraryA("X.dll") looks for libX.so and X.so, first beside the module that calls itself the
-// program's library (the one that this code is linked into), then where the system looks. A
+// LoadLibraryA("X.dll") looks for libX.so and X.so, first beside the library that
+// the headless system is, then beside the program, then where the system looks. A
 // function that is asked for by number n (MAKEINTRESOURCEA(n)) is the symbol "Ordinal<n>".
 #pragma once
 

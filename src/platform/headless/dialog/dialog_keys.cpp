@@ -1,5 +1,6 @@
 // What keys do in a dialog before its controls see them.
 #include "platform/headless/dialog/dialog_state.h"
+#include "platform/headless/system/codepage.h"
 #include "platform/headless/window/hook_list.h"
 #include "platform/headless/window/window_class.h"
 

@@ -1,5 +1,6 @@
 // The procedure of the dialog class: the user's procedure first, then the dialog's own answers.
 #include "platform/headless/dialog/dialog_state.h"
+#include "platform/headless/system/codepage.h"
 #include "platform/headless/window/window_class.h"
 
 namespace headless {

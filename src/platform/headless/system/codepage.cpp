@@ -44,4 +44,18 @@ std::string ToAnsi(std::u16string_view text) {
     return result;
 }
 
+std::string Lowered(const std::string& text) {
+    std::string result = text;
+    for (char& c : result) {
+        const auto u = static_cast<unsigned char>(c);
+        const bool latin = u >= 0xC0 && u <= 0xDE && u != 0xD7;
+        if ((u >= 'A' && u <= 'Z') || latin) c = static_cast<char>(u + 0x20);
+    }
+    return result;
+}
+
+bool SameName(const std::string& a, const std::string& b) {
+    return a.size() == b.size() && Lowered(a) == Lowered(b);
+}
+
 }  // namespace headless

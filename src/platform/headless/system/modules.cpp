@@ -17,12 +17,6 @@
 #include "zxadlg/headless/diagnostics.h"
 #include "zxadlg/headless/functions.h"
 
-// The linker gives these where a module has resources at all.
-extern "C" {
-extern const unsigned char __start_zx_resources[] __attribute__((weak, visibility("hidden")));
-extern const unsigned char __stop_zx_resources[] __attribute__((weak, visibility("hidden")));
-}
-
 namespace headless {
 
 namespace {
@@ -65,13 +59,14 @@ bool ReadAt(std::ifstream& file, std::uint64_t at, void* target, std::size_t siz
 }
 
 // Where the section lies in the running image: its distance from the base, and its size.
-bool FindSection(const std::string& path, const char* wanted, std::uint64_t& offset,
-                 std::uint64_t& size) {
+bool FindSection(const std::string& path, const char* wanted, const void* base,
+                 std::uint64_t& offset, std::uint64_t& size) {
     std::ifstream file(path, std::ios::binary);
     Elf64_Ehdr header{};
     if (!file || !ReadAt(file, 0, &header, sizeof header)) return false;
     if (std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0 ||
-        header.e_ident[EI_CLASS] != ELFCLASS64 || header.e_type != ET_DYN ||
+        header.e_ident[EI_CLASS] != ELFCLASS64 ||
+        (header.e_type != ET_DYN && header.e_type != ET_EXEC) ||
         header.e_shentsize != sizeof(Elf64_Shdr) || header.e_shstrndx >= header.e_shnum)
         return false;
     std::vector<Elf64_Shdr> sections(header.e_shnum);
@@ -84,7 +79,9 @@ bool FindSection(const std::string& path, const char* wanted, std::uint64_t& off
     for (const Elf64_Shdr& section : sections) {
         if (section.sh_name >= names.size() || (section.sh_flags & SHF_ALLOC) == 0) continue;
         if (std::strcmp(names.c_str() + section.sh_name, wanted) != 0) continue;
+        // A program that is bound to its place has addresses instead of distances.
         offset = section.sh_addr;
+        if (header.e_type == ET_EXEC) offset -= reinterpret_cast<std::uintptr_t>(base);
         size = section.sh_size;
         return true;
     }
@@ -110,19 +107,17 @@ Module* ModuleAt(const void* address) {
     module.base = info.dli_fbase;
     module.path = info.dli_fname == nullptr ? "" : info.dli_fname;
     std::error_code error;
+    // A program is known by the words that started it, which a change of folder makes wrong.
+    Dl_info program{};
+    if (dladdr(reinterpret_cast<const void*>(getauxval(AT_PHDR)), &program) != 0 &&
+        program.dli_fbase == info.dli_fbase)
+        module.path = "/proc/self/exe";
     const auto absolute = std::filesystem::canonical(module.path, error);
     if (!error) module.path = absolute.string();
     std::uint64_t offset = 0;
     std::uint64_t size = 0;
-    Dl_info own{};
-    dladdr(reinterpret_cast<const void*>(&FindSection), &own);
-    if (own.dli_fbase == module.base) {
-        if (__start_zx_resources != nullptr)
-            AddBytes(module, __start_zx_resources,
-                     static_cast<std::size_t>(__stop_zx_resources - __start_zx_resources));
-    } else if (FindSection(module.path, "zx_resources", offset, size)) {
+    if (FindSection(module.path, "zx_resources", module.base, offset, size))
         AddBytes(module, static_cast<const char*>(module.base) + offset, size);
-    }
     return &module;
 }
 

@@ -1,6 +1,5 @@
 #include "platform/headless/system/codepage.h"
 #include "platform/headless/system/resources.h"
-#include "platform/headless/window/window_class.h"
 
 namespace headless {
 
