@@ -1,7 +1,12 @@
 # What a host installs: headers, the library with the import libraries of both kinds of linker, a CMake
 # package and the documents. The example host is a component of its own.
 set(zx_package lib/cmake/ZxAnalysisDialogs)
-install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/ DESTINATION include COMPONENT ZxAnalysisDialogs)
+if(WIN32)
+  # The system brings the platform's names.
+  set(zx_other_headers PATTERN headless EXCLUDE)
+endif()
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/ DESTINATION include COMPONENT ZxAnalysisDialogs
+        FILES_MATCHING PATTERN "*.h" ${zx_other_headers})
 install(FILES ${CMAKE_SOURCE_DIR}/docs/hosting.md ${CMAKE_SOURCE_DIR}/docs/automation.md
         DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
 install(TARGETS ZXANALYSISDIALOGS
@@ -11,7 +16,8 @@ install(TARGETS ZXANALYSISDIALOGS
 if(WIN32)
   install(FILES ${ZX_VENDOR_IMPORT_LIBRARY} DESTINATION lib COMPONENT ZxAnalysisDialogs)
 else()
-  install(DIRECTORY ${ZX_PLATFORM_HEADERS} DESTINATION include COMPONENT ZxAnalysisDialogs)
+  # The window system in memory, which the library stands on and which a host may drive it by.
+  install(TARGETS zx_headless LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs)
   set_target_properties(zxhost PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
 endif()
 install(TARGETS zxhost RUNTIME DESTINATION bin COMPONENT ZxHost)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Checks the source tree: formatting, platform conditions where they do not belong, file lengths, and that
-# both resource compilers make the same bytes of every template. --format rewrites instead of checking.
+# Checks the source tree: formatting, platform conditions where they do not belong, file lengths, includes against
+# the arrows between the rooms, what the headless window system shows, and that both resource compilers make the
+# same bytes of every template. --format rewrites instead of checking.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 mkdir -p build
@@ -27,9 +28,23 @@ if [ -n "$found" ]; then
     status=1
 fi
 
-long=$(git ls-files '*.h' '*.cpp' | grep -v 'headless/constants.h' | xargs wc -l | awk '$1 > 650 && $2 != "total" {print $2 ": " $1 " lines"}')
+long=$(git ls-files '*.h' '*.cpp' | xargs wc -l | awk '$1 > 650 && $2 != "total" {print $2 ": " $1 " lines"}')
 if [ -n "$long" ]; then
     printf '%s\nlint: a file of more than 650 lines holds two ideas\n' "$long"
+    status=1
+fi
+
+if ! python3 tools/check_includes.py; then
+    echo "lint: the arrows between the rooms stand in src/rooms.txt"
+    status=1
+fi
+if ! (cd tools && python3 -B check_includes_test.py 2>../build/includes.log); then
+    cat build/includes.log
+    echo "lint: the check of the includes does not see what it should"
+    status=1
+fi
+if ! python3 tools/headless_surface.py; then
+    echo "lint: the headless system shows what is declared, called and exported, no more"
     status=1
 fi
 

@@ -8,7 +8,7 @@
 #include "analysis/CUnitaryDataTab.h"
 #include "ids.h"
 #include "text/BoundedText.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

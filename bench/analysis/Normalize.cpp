@@ -7,7 +7,7 @@
 #include "Benchmarks.h"
 #include "PairedTiming.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include "framework/ADM_DoubleText.h"
 #include "framework/PrivateMessages.h"
 #include "key_stroke.rh"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "parser/CustomFunction.h"
 #include "parser/NameScan.h"
 #include "parser/ParserErrors.h"
-#include "text/FormatExpander.h"
+#include "text/TextTemplate.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Pictures from outside: any bytes as a bitmap and as a metafile. What is read is also copied.
-#include "platform/headless/device_bitmap.h"
-#include "platform/headless/enhanced_metafile.h"
+#include "platform/headless/drawing/device_bitmap.h"
+#include "platform/headless/drawing/enhanced_metafile.h"
 #include "platform/platform.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

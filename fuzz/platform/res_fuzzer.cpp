@@ -3,10 +3,10 @@
 #include <cstdlib>
 #include <vector>
 
-#include "platform/headless/diagnostics.h"
-#include "platform/headless/modules.h"
-#include "platform/headless/resources.h"
+#include "platform/headless/system/resources.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/diagnostics.h"
+#include "zxadlg/headless/modules.h"
 
 namespace {
 

@@ -4,12 +4,12 @@
 #include <cstdlib>
 #include <vector>
 
-#include "platform/headless/census.h"
-#include "platform/headless/diagnostics.h"
-#include "platform/headless/dialog_template.h"
-#include "platform/headless/input.h"
-#include "platform/headless/modules.h"
+#include "platform/headless/dialog/dialog_template.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/census.h"
+#include "zxadlg/headless/diagnostics.h"
+#include "zxadlg/headless/input.h"
+#include "zxadlg/headless/modules.h"
 
 namespace {
 

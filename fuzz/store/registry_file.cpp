@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/headless/registry_store.h"
+#include "platform/headless/system/registry_store.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize) {
     std::vector<headless::RegistryFileKey> keys;

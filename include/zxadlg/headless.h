@@ -34,9 +34,9 @@
 // The controls need the types of windows.h.
 #include <commctrl.h>
 #else
-#include "platform/headless/clock.h"
-#include "platform/headless/diagnostics.h"
-#include "platform/headless/display.h"
-#include "platform/headless/headless.h"
-#include "platform/headless/input.h"
+#include "zxadlg/headless/clock.h"
+#include "zxadlg/headless/diagnostics.h"
+#include "zxadlg/headless/display.h"
+#include "zxadlg/headless/input.h"
+#include "zxadlg/headless/names.h"
 #endif

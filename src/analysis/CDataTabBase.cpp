@@ -1,13 +1,13 @@
 #include "analysis/CDataTabBase.h"
 
 #include "ZXADLG.h"
-#include "analysis/CaptionText.h"
 #include "analysis/DialogMessages.h"
 #include "contract/NotificationCodes.h"
 #include "contract/SelectionList.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "text/CaptionText.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

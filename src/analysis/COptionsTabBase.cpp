@@ -1,6 +1,6 @@
 #include "analysis/COptionsTabBase.h"
 
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 COptionsTabBase::COptionsTabBase(CAnalysisOptionsInterfaceBase* pOptions,
                                  const ZXADLG_DlgParams* pParams, UINT uTemplateId,

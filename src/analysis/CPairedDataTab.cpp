@@ -8,7 +8,7 @@
 #include "contract/SelectionList.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

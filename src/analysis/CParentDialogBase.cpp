@@ -8,7 +8,7 @@
 #include "analysis/DataChecks.h"
 #include "analysis/DialogMessages.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 CParentDialogBase::CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData,
                                      ZXADLG_CDlgDataSource* pSource,

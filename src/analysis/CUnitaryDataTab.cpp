@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "ZXADLG.h"
-#include "analysis/CaptionText.h"
 #include "analysis/DataChecks.h"
 #include "contract/NotificationCodes.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
+#include "text/CaptionText.h"
 
 namespace {
 

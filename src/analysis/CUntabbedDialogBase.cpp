@@ -4,7 +4,7 @@
 
 #include "ZXADLG.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 // --- A page and a dialog in one --------------------------------------------------------------
 

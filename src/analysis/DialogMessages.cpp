@@ -1,10 +1,10 @@
 #include "analysis/DialogMessages.h"
 
-#include "analysis/CaptionText.h"
 #include "framework/PrivateMessages.h"
 #include "ids.h"
+#include "text/CaptionText.h"
 #include "text/TextTests.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 #include "widgets/MessageDialog.h"
 
 namespace {

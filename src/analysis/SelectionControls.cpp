@@ -7,7 +7,7 @@
 #include "ZXADLG.h"
 #include "ids.h"
 #include "text/BoundedText.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 
 #include "framework/ADM_ComboBox.h"
 #include "framework/ADM_ListBox.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 class ZXADLG_CDlgDataSource;
 class ZXADLG_CDlgFileSource;

@@ -1,7 +1,7 @@
 #include "contract/COptionsInterfaceBase.h"
 
 #include "framework/ADM_Wnd.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 COptionsInterfaceBase::COptionsInterfaceBase() : m_hInstance(GetFrameworkInstance()) {}
 

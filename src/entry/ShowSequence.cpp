@@ -1,7 +1,7 @@
 #include "entry/ShowSequence.h"
 
 #include "platform/platform.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

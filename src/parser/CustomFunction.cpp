@@ -5,7 +5,7 @@
 
 #include "parser/Parser.h"
 #include "parser/ParserErrors.h"
-#include "text/FormatExpander.h"
+#include "text/TextTemplate.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "parser/CharacterClass.h"
 #include "parser/ParserErrors.h"
 #include "parser/ZDCParser.h"
-#include "text/FormatExpander.h"
+#include "text/TextTemplate.h"
 
 namespace {
 

@@ -10,5 +10,5 @@
 #include <shlobj.h>
 #include <uxtheme.h>
 #else
-#include "platform/headless/headless.h"
+#include "zxadlg/headless/names.h"
 #endif

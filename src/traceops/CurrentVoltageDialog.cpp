@@ -3,8 +3,8 @@
 #include <limits>
 
 #include "ZXADLG.h"
-#include "analysis/CaptionText.h"
 #include "ids.h"
+#include "text/CaptionText.h"
 
 namespace {
 

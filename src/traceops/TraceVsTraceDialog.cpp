@@ -1,8 +1,8 @@
 #include "traceops/TraceVsTraceDialog.h"
 
 #include "ZXADLG.h"
-#include "analysis/CaptionText.h"
 #include "ids.h"
+#include "text/CaptionText.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-// A progress bar with a text in it. Each window of the class kProgressBarClass (see Framework.h)
-// owns one object, made and destroyed with it.
+// A progress bar with a text in it. Each window of the class kProgressBarClass (see
+// FrameworkSetup.h) owns one object, made and destroyed with it.
 //
 // The text is a format in which "%0" is the position in percent of the range; at first it shows
 // just that. The font belongs to the caller.

@@ -1,10 +1,10 @@
 // A spinner: two small arrow buttons in one window, with auto-repeat. It holds no value; it tells
 // its parent by WM_COMMAND which arrow fires, and the parent decides what that means.
 //
-// Each window of the classes kVerticalSpinnerClass and kHorizontalSpinnerClass (see Framework.h)
-// owns one object, made and destroyed with it. The first arrow raises a value: it is the upper one,
-// or the right one. Times are in ms. The functions below do nothing and return 0 for a window that
-// is no spinner.
+// Each window of the classes kVerticalSpinnerClass and kHorizontalSpinnerClass (see
+// FrameworkSetup.h) owns one object, made and destroyed with it. The first arrow raises a value: it
+// is the upper one, or the right one. Times are in ms. The functions below do nothing and return 0
+// for a window that is no spinner.
 #pragma once
 
 #include "platform/platform.h"

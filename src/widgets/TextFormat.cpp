@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "text/BoundedText.h"
+#include "text/TextTemplate.h"
 
 namespace {
 
@@ -65,20 +66,12 @@ void FormatArgs(HINSTANCE hInstance, char* szBuffer, int nSize, const char* szFo
                 const char* const* ppArgs) {
     BoundedWriter writer(szBuffer, nSize);
     const ResourceText format(hInstance, szFormat);
-    const std::string_view sFormat = format.View();
-    for (std::size_t i = 0; i < sFormat.size(); ++i) {
-        if (sFormat[i] != '%') {
-            writer.Put(sFormat[i]);
-            continue;
-        }
-        if (++i == sFormat.size()) break;
-        const char ch = sFormat[i];
-        if (ch < '0' || ch > '9') {
-            writer.Put(ch);
-        } else if (ppArgs != nullptr) {
-            writer.Put(ResourceText(hInstance, ppArgs[ch - '0']).View());
-        }
-    }
+    ExpandTemplate(
+        format.View(), TemplatePlaces::kNumbers, [&](char ch) { writer.Put(ch); },
+        [&](char chDigit) {
+            if (ppArgs != nullptr)
+                writer.Put(ResourceText(hInstance, ppArgs[chDigit - '0']).View());
+        });
 }
 
 void FormatOrdinal(std::uint32_t uValue, char* szBuffer, int nSize) {

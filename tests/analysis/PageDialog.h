@@ -17,7 +17,7 @@
 #include "fixtures/DialogScript.h"
 #include "fixtures/TestDataSource.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace analysis_test {
 

@@ -9,7 +9,7 @@
 #include "fixtures/TestWindows.h"
 #include "fixtures/WindowReading.h"
 #include "ids.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

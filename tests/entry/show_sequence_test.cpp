@@ -14,7 +14,7 @@
 #include "fixtures/TestDataSource.h"
 #include "store/ProfileStore.h"
 #include "text/BoundedText.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace {
 

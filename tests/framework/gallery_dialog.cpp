@@ -20,7 +20,7 @@
 #include "framework/ADM_TabbedDialog.h"
 #include "framework_test.h"
 #include "gallery.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace gallery {
 namespace {

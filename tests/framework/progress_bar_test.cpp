@@ -8,7 +8,7 @@
 #include "WindowPixels.h"
 #include "fixtures/KnownGap.h"
 #include "fixtures/TestWindows.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 #include "widgets/ProgressBar.h"
 
 namespace {

@@ -6,12 +6,12 @@
 
 #include "fixtures/HardLimit.h"
 #include "fixtures/LeakCheck.h"
-#include "fixtures/RandomUser.h"
 #include "fixtures/TestWindows.h"
 #include "framework/ADM_TabbedDialog.h"
 #include "framework/MessageFilter.h"
+#include "framework/RandomUser.h"
 #include "gallery_dialog.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 
 namespace framework_test {
 namespace {

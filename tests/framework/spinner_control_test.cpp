@@ -11,7 +11,7 @@
 #include "framework/ADM_IntegerGaugeText.h"
 #include "framework/ADM_ListText.h"
 #include "framework/ADM_Spinner.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 #include "widgets/Spinner.h"
 
 namespace {

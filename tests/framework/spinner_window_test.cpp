@@ -8,7 +8,7 @@
 #include "ControlHost.h"
 #include "WindowPixels.h"
 #include "fixtures/KnownGap.h"
-#include "widgets/Framework.h"
+#include "widgets/FrameworkSetup.h"
 #include "widgets/Spinner.h"
 
 namespace {

@@ -42,7 +42,8 @@ TEST(Package, TheGuidesHostBuildsAgainstAnInstallationAndRuns) {
         << Read(log);
     for (const char* file :
          {"include/ZXADLG.h", "include/zxadlg/DataOptions.h", "include/zxadlg/headless.h",
-          "lib/libZXANALYSISDIALOGS.so", "share/doc/zxanalysisdialogs/hosting.md"})
+          "include/zxadlg/headless/names.h", "lib/libZXANALYSISDIALOGS.so", "lib/libZXHEADLESS.so",
+          "share/doc/zxanalysisdialogs/hosting.md"})
         EXPECT_TRUE(std::filesystem::exists(root + "/installed/" + file)) << file;
     ASSERT_EQ(run(ZX_CMAKE " -S " + root + "/src -B " + root + "/build -DCMAKE_PREFIX_PATH=" +
                   root + "/installed -DCMAKE_CXX_FLAGS='" ZX_CONSUMER_FLAGS "'"),

@@ -290,4 +290,49 @@ TEST(Painting, AWindowLendsADeviceContext) {
     EXPECT_EQ(1, ReleaseDC(window, dc));
 }
 
+TEST_F(Drawing, APenMayTurnColoursRoundAndBack) {
+    SetPixel(dc_, 5, 4, RGB(10, 20, 30));
+    const HGDIOBJ old = SelectObject(dc_, GetStockObject(WHITE_PEN));
+    const auto line = [&] {
+        MoveToEx(dc_, 2, 4, nullptr);
+        LineTo(dc_, 12, 4);
+    };
+    EXPECT_EQ(R2_COPYPEN, SetROP2(dc_, R2_NOT));
+    line();
+    EXPECT_EQ(RGB(245, 235, 225), GetPixel(dc_, 5, 4));
+    line();
+    EXPECT_EQ(RGB(10, 20, 30), GetPixel(dc_, 5, 4));
+    EXPECT_EQ(R2_NOT, SetROP2(dc_, R2_XORPEN));
+    line();
+    EXPECT_EQ(RGB(245, 235, 225), GetPixel(dc_, 5, 4));
+    EXPECT_EQ(0, SetROP2(dc_, 17));
+    EXPECT_EQ(R2_XORPEN, SetROP2(dc_, R2_COPYPEN));
+    SelectObject(dc_, old);
+}
+
+TEST_F(Drawing, TheOriginOfTheWindowMovesWhatIsDrawn) {
+    POINT before = {9, 9};
+    ASSERT_TRUE(SetWindowOrgEx(dc_, 3, -2, &before));
+    EXPECT_EQ(0, before.x);
+    EXPECT_EQ(0, before.y);
+    SetPixel(dc_, 10, 5, RGB(1, 2, 3));
+    ASSERT_TRUE(SetWindowOrgEx(dc_, 0, 0, &before));
+    EXPECT_EQ(3, before.x);
+    EXPECT_EQ(-2, before.y);
+    EXPECT_EQ(RGB(1, 2, 3), GetPixel(dc_, 7, 7));
+}
+
+TEST_F(Drawing, TheFaceOfTheFontHasAName) {
+    const HFONT font =
+        CreateFontA(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                    CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, "Tahoma");
+    const HGDIOBJ old = SelectObject(dc_, font);
+    char face[32] = "";
+    EXPECT_EQ(7, GetTextFaceA(dc_, sizeof face, face));
+    EXPECT_STREQ("Tahoma", face);
+    EXPECT_EQ(7, GetTextFaceA(dc_, 0, nullptr));
+    SelectObject(dc_, old);
+    DeleteObject(font);
+}
+
 }  // namespace

@@ -329,4 +329,24 @@ TEST_F(ListBoxTest, WithoutTheStyleOnlyFocusIsTold) {
     EXPECT_EQ(1, Current());
 }
 
+TEST_F(ListBoxTest, TheScrollBarMovesTheTopItem) {
+    MakeList(WS_VSCROLL, 40);
+    const auto scroll = [&](int code, int place = 0) {
+        Send(WM_VSCROLL, MAKEWPARAM(code, place));
+        return Top();
+    };
+    EXPECT_EQ(1, scroll(SB_LINEDOWN));
+    EXPECT_EQ(2, scroll(SB_LINEDOWN));
+    EXPECT_EQ(1, scroll(SB_LINEUP));
+    const int page = scroll(SB_PAGEDOWN) - 1;
+    EXPECT_GT(page, 1);
+    EXPECT_EQ(1, scroll(SB_PAGEUP));
+    EXPECT_EQ(9, scroll(SB_THUMBPOSITION, 9));
+    EXPECT_EQ(0, scroll(SB_TOP));
+    const int last = scroll(SB_BOTTOM);
+    EXPECT_GT(last, page);
+    EXPECT_LT(last, 40);
+    EXPECT_EQ(last, scroll(SB_LINEDOWN)) << "the last item stays at the bottom";
+}
+
 }  // namespace

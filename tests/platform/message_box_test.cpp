@@ -160,4 +160,27 @@ TEST(MessageBoxes, GrowsWithItsText) {
     EXPECT_GT(wide, narrow);
 }
 
+TEST(MessageBoxes, TheHelpButtonAsksTheOwnerAndTheBoxStays) {
+    RecordingWindow owner;
+    int asked = 0;
+    bool aboutAWindow = false;
+    owner.OnMessage([&](UINT message, WPARAM, LPARAM lParam, LRESULT*) {
+        if (message != static_cast<UINT>(WM_HELP)) return false;
+        ++asked;
+        const auto* info = reinterpret_cast<const HELPINFO*>(lParam);
+        aboutAWindow = info->iContextType == HELPINFO_WINDOW;
+        return true;
+    });
+    DialogScript script;
+    script.Do([](HWND dialog) { SendMessageA(GetDlgItem(dialog, IDHELP), BM_CLICK, 0, 0); });
+    script.Do([&](HWND dialog) {
+        EXPECT_EQ(1, asked);
+        PostMessageA(GetDlgItem(dialog, IDNO), BM_CLICK, 0, 0);
+    });
+    EXPECT_EQ(IDNO,
+              script.Run([&] { return MessageBoxA(owner, "Text", "Title", MB_YESNO | MB_HELP); }));
+    EXPECT_EQ(1, asked);
+    EXPECT_TRUE(aboutAWindow);
+}
+
 }  // namespace

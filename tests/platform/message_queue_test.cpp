@@ -374,4 +374,19 @@ TEST(TranslateMessage, MakesCharactersOfKeys) {
     EXPECT_STREQ("a7", text);
 }
 
+TEST(Waiting, EndsWhenAMessageIsThereThatWasNotSeen) {
+    RecordingWindow window;
+    PumpMessages();
+    PostMessageA(window, WM_APP + 3, 5, 0);
+    EXPECT_TRUE(WaitMessage());
+    MSG msg = {};
+    ASSERT_TRUE(PeekMessageA(&msg, window, WM_APP + 3, WM_APP + 3, PM_REMOVE));
+    EXPECT_EQ(5u, msg.wParam);
+    SetTimer(window, 7, 20, nullptr);
+    EXPECT_TRUE(WaitMessage());
+    ASSERT_TRUE(PeekMessageA(&msg, window, WM_TIMER, WM_TIMER, PM_REMOVE));
+    EXPECT_EQ(7u, msg.wParam);
+    KillTimer(window, 7);
+}
+
 }  // namespace

@@ -369,4 +369,50 @@ TEST(WindowPosition, FindsTheChildUnderAPoint) {
     EXPECT_EQ(nullptr, ChildWindowFromPoint(window, {-100, -100}));
 }
 
+TEST(WindowSearch, FindsTopWindowsByClassAndText) {
+    RecordingWindow first, second;
+    SetWindowTextA(first, "a window to be found");
+    SetWindowTextA(second, "another window to be found");
+    EXPECT_EQ(second.Handle(), FindWindowA(nullptr, "another window to be found"));
+    char className[64] = "";
+    GetClassNameA(first, className, sizeof className);
+    EXPECT_EQ(first.Handle(), FindWindowA(className, "a window to be found"));
+    EXPECT_EQ(nullptr, FindWindowA("Button", "a window to be found"));
+    EXPECT_EQ(nullptr, FindWindowA(nullptr, "no window has this text"));
+}
+
+TEST(WindowSearch, GoesOnBehindAChild) {
+    RecordingWindow window;
+    HWND a = window.Add("Static", "same", 1, 0), button = window.Add("Button", "same", 2, 0),
+         b = window.Add("Static", "same", 3, 0);
+    EXPECT_EQ(a, FindWindowExA(window, nullptr, "STATIC", "same"));
+    EXPECT_EQ(b, FindWindowExA(window, a, "Static", nullptr));
+    EXPECT_EQ(nullptr, FindWindowExA(window, b, "Static", nullptr));
+    EXPECT_EQ(button, FindWindowExA(window, a, nullptr, "same"));
+}
+
+TEST(WindowPlace, BringsAChildBeforeItsSiblings) {
+    RecordingWindow window;
+    HWND a = window.Add("Static", "a", 1, 0), b = window.Add("Static", "b", 2, 0);
+    EXPECT_EQ(a, GetTopWindow(window));
+    EXPECT_TRUE(BringWindowToTop(b));
+    EXPECT_EQ(b, GetTopWindow(window));
+    EXPECT_EQ(a, GetWindow(b, GW_HWNDNEXT));
+    EXPECT_FALSE(BringWindowToTop(nullptr));
+}
+
+TEST(WindowPlace, IsTheRectangleOfAWindowThatIsNeitherSmallNorLarge) {
+    RecordingWindow window;
+    HWND child = window.Add("Static", "", 1, 0, 11, 22, 33, 44);
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    ASSERT_TRUE(GetWindowPlacement(child, &placement));
+    EXPECT_EQ(static_cast<UINT>(SW_SHOWNORMAL), placement.showCmd);
+    EXPECT_EQ(11, placement.rcNormalPosition.left);
+    EXPECT_EQ(22, placement.rcNormalPosition.top);
+    EXPECT_EQ(44, placement.rcNormalPosition.right);
+    EXPECT_EQ(66, placement.rcNormalPosition.bottom);
+    EXPECT_FALSE(GetWindowPlacement(nullptr, &placement));
+}
+
 }  // namespace

@@ -1,5 +1,5 @@
 // The clock that a test can stop, and waits that nothing can end.
-#include "platform/headless/clock.h"
+#include "zxadlg/headless/clock.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 #include <thread>
 #include <vector>
 
-#include "platform/headless/diagnostics.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/diagnostics.h"
 
 namespace {
 

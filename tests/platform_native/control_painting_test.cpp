@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "fixtures/TestWindows.h"
-#include "platform/headless/diagnostics.h"
-#include "platform/headless/recording.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/diagnostics.h"
+#include "zxadlg/headless/recording.h"
 
 namespace {
 

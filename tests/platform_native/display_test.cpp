@@ -1,12 +1,12 @@
 // The headless display: monitors, resolution, colours and themes as a test sets them.
-#include "platform/headless/display.h"
+#include "zxadlg/headless/display.h"
 
 #include <gtest/gtest.h>
 
 #include "fixtures/TestWindows.h"
-#include "platform/headless/monitors.h"
-#include "platform/headless/recording.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/monitors.h"
+#include "zxadlg/headless/recording.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <thread>
 #include <vector>
 
-#include "platform/headless/census.h"
-#include "platform/headless/diagnostics.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/census.h"
+#include "zxadlg/headless/diagnostics.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Keys and mouse as from the hardware.
-#include "platform/headless/input.h"
+#include "zxadlg/headless/input.h"
 
 #include <gtest/gtest.h>
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/headless/diagnostics.h"
-#include "platform/headless/dialog_template.h"
-#include "platform/headless/modules.h"
-#include "platform/headless/resources.h"
+#include "platform/headless/dialog/dialog_template.h"
+#include "platform/headless/system/resources.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/diagnostics.h"
+#include "zxadlg/headless/modules.h"
 
 namespace {
 

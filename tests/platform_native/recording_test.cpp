@@ -1,14 +1,14 @@
 // What the headless system keeps of what is drawn.
-#include "platform/headless/recording.h"
+#include "zxadlg/headless/recording.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "fixtures/TestWindows.h"
-#include "platform/headless/display.h"
-#include "platform/headless/gdi.h"
 #include "platform/platform.h"
+#include "zxadlg/headless/census.h"
+#include "zxadlg/headless/display.h"
 
 namespace {
 
@@ -328,7 +328,7 @@ TEST(ControlPainting, AParentSetsTheColours) {
 }
 
 TEST(LiveObjects, AreCountedUntilTheyAreGone) {
-    const headless::gdi::Counts before = headless::gdi::LiveCounts();
+    const headless::DrawingCounts before = headless::TakeCensus().gdi;
     HDC dc = CreateCompatibleDC(nullptr);
     HFONT font = CreateFontA(-11, 0, 0, 0, 400, 0, 0, 0, 1, 0, 0, 0, 0, "Tahoma");
     HBRUSH brush = CreateSolidBrush(1);
@@ -336,7 +336,7 @@ TEST(LiveObjects, AreCountedUntilTheyAreGone) {
     HBITMAP bitmap = CreateBitmap(1, 1, 1, 1, nullptr);
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, 4);
     SelectObject(dc, font);
-    headless::gdi::Counts now = headless::gdi::LiveCounts();
+    headless::DrawingCounts now = headless::TakeCensus().gdi;
     EXPECT_EQ(before.memoryDcs + 1, now.memoryDcs);
     EXPECT_EQ(before.fonts + 1, now.fonts);
     EXPECT_EQ(before.brushes + 1, now.brushes);
@@ -344,13 +344,13 @@ TEST(LiveObjects, AreCountedUntilTheyAreGone) {
     EXPECT_EQ(before.bitmaps + 1, now.bitmaps);
     EXPECT_EQ(before.globals + 1, now.globals);
     DeleteObject(font);
-    EXPECT_EQ(before.fonts + 1, headless::gdi::LiveCounts().fonts) << "it is still selected";
+    EXPECT_EQ(before.fonts + 1, headless::TakeCensus().gdi.fonts) << "it is still selected";
     DeleteDC(dc);
     DeleteObject(brush);
     DeleteObject(pen);
     DeleteObject(bitmap);
     GlobalFree(memory);
-    now = headless::gdi::LiveCounts();
+    now = headless::TakeCensus().gdi;
     EXPECT_EQ(before.memoryDcs, now.memoryDcs);
     EXPECT_EQ(before.fonts, now.fonts);
     EXPECT_EQ(before.brushes, now.brushes);
@@ -361,11 +361,11 @@ TEST(LiveObjects, AreCountedUntilTheyAreGone) {
 
 TEST(LiveObjects, WindowContextsCountUntilReleased) {
     RecordingWindow window;
-    const std::size_t before = headless::gdi::LiveCounts().windowDcs;
+    const std::size_t before = headless::TakeCensus().gdi.windowDcs;
     HDC dc = GetDC(window);
-    EXPECT_EQ(before + 1, headless::gdi::LiveCounts().windowDcs);
+    EXPECT_EQ(before + 1, headless::TakeCensus().gdi.windowDcs);
     ReleaseDC(window, dc);
-    EXPECT_EQ(before, headless::gdi::LiveCounts().windowDcs);
+    EXPECT_EQ(before, headless::TakeCensus().gdi.windowDcs);
 }
 
 }  // namespace

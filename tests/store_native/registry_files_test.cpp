@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "fixtures/ScratchStore.h"
-#include "platform/headless/registry_store.h"
+#include "platform/headless/system/registry_store.h"
 #include "platform/platform.h"
 #include "store/ProfileStore.h"
 #include "store/StoreBatch.h"

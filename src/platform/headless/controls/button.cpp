@@ -1,7 +1,7 @@
 #include "platform/headless/controls/button.h"
 
 #include "platform/headless/controls/controls.h"
-#include "platform/headless/diagnostics.h"
+#include "zxadlg/headless/diagnostics.h"
 
 namespace headless {
 namespace {

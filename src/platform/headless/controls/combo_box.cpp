@@ -6,7 +6,7 @@
 
 #include "platform/headless/controls/combo_messages.h"
 #include "platform/headless/controls/controls.h"
-#include "platform/headless/diagnostics.h"
+#include "zxadlg/headless/diagnostics.h"
 
 namespace headless {
 namespace {

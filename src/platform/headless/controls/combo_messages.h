@@ -1,7 +1,7 @@
 // What the parts of a combo box say to each other beyond the platform's messages.
 #pragma once
 
-#include "platform/headless/types.h"
+#include "zxadlg/headless/types.h"
 
 namespace headless {
 

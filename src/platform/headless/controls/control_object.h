@@ -4,7 +4,7 @@
 // return.
 #pragma once
 
-#include "platform/headless/headless.h"
+#include "zxadlg/headless/names.h"
 
 namespace headless {
 

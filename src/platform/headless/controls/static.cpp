@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "platform/headless/controls/controls.h"
-#include "platform/headless/diagnostics.h"
+#include "zxadlg/headless/diagnostics.h"
 
 namespace headless {
 

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "platform/headless/controls/controls.h"
-#include "platform/headless/diagnostics.h"
+#include "zxadlg/headless/diagnostics.h"
 
 namespace headless {
 namespace {
