@@ -15,7 +15,7 @@ namespace {
 // A dialog with a data tab: its selection is kept under the analysis's name.
 template <class Record>
 constexpr ShowRow<Record> TabbedRow(const char* szAnalysis, void (*pLoad)(const char*, Record*),
-                                    void (*pSave)(const char*, const Record*)) {
+                                    bool (*pSave)(const char*, const Record*)) {
     return {szAnalysis, DataRecord::kCopied, kDataOptionsNormal, pLoad, pSave};
 }
 

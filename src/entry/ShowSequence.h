@@ -26,7 +26,7 @@ struct ShowRow {
     // Reset: whatever is stored, the selection starts at its defaults.
     DataOptionsMode eDataLoad;
     void (*pLoad)(const char* pszProfile, Record* pRecord);
-    void (*pSave)(const char* pszProfile, const Record* pRecord);
+    bool (*pSave)(const char* pszProfile, const Record* pRecord);
     // Changes the working copies before the dialog is built; null: nothing.
     void (*pPrepare)(Record* pOptions, ZXADLG_DataOptions* pData,
                      const ZXADLG_DlgParams& params) = nullptr;
