@@ -1,6 +1,7 @@
 #include "framework/MessageFilter.h"
 
 #include "framework/ADM_Dialog.h"
+#include "widgets/ModalRun.h"
 
 namespace {
 
@@ -12,7 +13,9 @@ LRESULT CALLBACK FilterProc(int nCode, WPARAM wParam, LPARAM lParam) {
     if (nCode != MSGF_DIALOGBOX) return nNext;
     MSG* pMsg = reinterpret_cast<MSG*>(lParam);
     ADM_Dialog* pDialog = ADM_Dialog::FromWindow(pMsg->hwnd);
-    return pDialog != nullptr && pDialog->PreTranslateMessage(pMsg) ? 1 : nNext;
+    if (pDialog == nullptr) return nNext;
+    return CommonCtls::CallGuarded<LRESULT>(
+        pMsg->hwnd, nNext, [=] { return pDialog->PreTranslateMessage(pMsg) ? 1 : nNext; });
 }
 
 }  // namespace
