@@ -37,7 +37,7 @@ int32_t ShowTabbed(const ShowRow<Record>& row, HWND parent, Record* options,
     return RunShowSequence(row, options, data, source, params,
                            [&](Record* pOptions, ZXADLG_DataOptions* pData) {
                                Dialog dialog(parent, pOptions, pData, source, params);
-                               return static_cast<int>(dialog.DoModal());
+                               return RunAtItsPlace(dialog);
                            });
 }
 
