@@ -16,6 +16,7 @@
 #include "platform/headless/diagnostics.h"
 #include "platform/headless/functions.h"
 #include "platform/headless/module_table.h"
+#include "platform/headless/system_modules.h"
 
 // The linker gives these where a module has resources at all.
 extern "C" {
@@ -255,6 +256,7 @@ HMODULE GetModuleHandleA(LPCSTR name) {
         const std::string own = Stem(module.path);
         if (own == stem || own == "lib" + stem) return HandleOf(&module);
     }
+    if (const HMODULE system = SystemModule(stem)) return system;
     SetLastError(ERROR_MOD_NOT_FOUND);
     return nullptr;
 }
@@ -354,6 +356,7 @@ BOOL FreeLibrary(HMODULE handle) {
 }
 
 FARPROC GetProcAddress(HMODULE handle, LPCSTR name) {
+    if (IsSystemModule(handle)) return SystemFunction(handle, name);
     std::lock_guard lock(Table().mutex);
     const Module* module = ModuleOf(handle);
     if (module == nullptr) {
