@@ -191,8 +191,9 @@ extern "C" {
 
 // Every function here takes the owner window (null: none), the option record, the data-selection
 // record (null where the host keeps none), the host's data and the parameters. A null record,
-// source or parameters gives ZXADLG_CREATE_FAILED, and nothing opens. The settings are kept in the
-// section of the store that the record's header names.
+// source or parameters gives ZXADLG_CREATE_FAILED, and nothing opens; so does a null data record
+// with bUseDataOptions set. The settings are kept in the section of the store that the record's
+// header names.
 
 // Normalize: over all points, or between a baseline and a peak region.
 int32_t ZXADLG_CALL ZXADLG_ShowNormalizeDialog(HWND__* parent, ZXADLG_NormalizeOptions* options,

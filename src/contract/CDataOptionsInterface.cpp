@@ -31,9 +31,14 @@ void CDataOptionsInterface::CorrectStoredIndices() {
     // With nothing to point at, an index of 0 stands for "the last".
     const auto last = [](std::uint32_t uCount) { return uCount == 0 ? 0 : uCount - 1; };
 
-    const std::uint32_t uGroups = m_pSource->GetGroupCount();
-    if (m_pRecord->uGroup1Index >= uGroups) m_pRecord->uGroup1Index = last(uGroups);
+    // The kind is the first question to a source about its data.
     const bool bSheet = IsSheetData();
+    const std::uint32_t uGroups = m_pSource->GetGroupCount();
+    // No source is asked about a group that it does not have.
+    for (std::uint32_t* puGroup :
+         {&m_pRecord->uGroup1Index, &m_pRecord->uGroup2Index, &m_pRecord->uPairedGroupIndex}) {
+        if (*puGroup >= uGroups) *puGroup = last(uGroups);
+    }
     if (bSheet) {
         const std::uint32_t uSets = GetSetCountInGroup();
         if (m_pRecord->uIndepVarDataSetIndex >= uSets) {

@@ -10,8 +10,8 @@
     void Load##name##Options(const char* pszProfile, Record* pRecord) {       \
         LoadSection(pszProfile, k##name##Section, pRecord);                   \
     }                                                                         \
-    void Save##name##Options(const char* pszProfile, const Record* pRecord) { \
-        SaveSection(pszProfile, k##name##Section, pRecord);                   \
+    bool Save##name##Options(const char* pszProfile, const Record* pRecord) { \
+        return SaveSection(pszProfile, k##name##Section, pRecord);            \
     }
 
 ZX_DEFINE_PERSISTENCE(CurveFit, FitOptions)
@@ -90,11 +90,12 @@ void LoadFilterOptions(const char* pszProfile, FilterOptions* pRecord) {
         LoadSection(pszProfile, *pSection, pRecord);
 }
 
-void SaveFilterOptions(const char* pszProfile, const FilterOptions* pRecord) {
-    if (pszProfile == nullptr) return;
-    const StoreBatch batch(pszProfile);
+bool SaveFilterOptions(const char* pszProfile, const FilterOptions* pRecord) {
+    if (pszProfile == nullptr) return true;
+    StoreBatch batch(pszProfile);
     for (const OptionSection* pSection : kFilterSections)
         SaveSection(pszProfile, *pSection, pRecord);
+    return batch.Commit();
 }
 
 bool LoadTraceExpression(const char* pszProfile, int n, char* szText, int nSize) {
@@ -143,8 +144,8 @@ void LoadDataOptions(const char* pszProfile, ZXADLG_DataOptions* pData,
                 pParams != nullptr && pParams->bNoDependentList != 0);
 }
 
-void SaveDataOptions(const char* pszProfile, const ZXADLG_DataOptions* pData, int eMode,
+bool SaveDataOptions(const char* pszProfile, const ZXADLG_DataOptions* pData, int eMode,
                      const char* pszAnalysis) {
-    if (pszProfile == nullptr || eMode == kDataOptionsReset) return;
-    SaveSection(pszProfile, kDataSection, pData, FormatDataSectionName(pszAnalysis));
+    if (pszProfile == nullptr || eMode == kDataOptionsReset) return true;
+    return SaveSection(pszProfile, kDataSection, pData, FormatDataSectionName(pszAnalysis));
 }

@@ -2,7 +2,8 @@
 // the data record.
 //
 // pszProfile names the store as the host's GetProfileName gives it; with a null name nothing
-// happens. The records' keys are the tables of OptionTables.h.
+// happens. A save returns whether everything that was to be written is in the store. The records'
+// keys are the tables of OptionTables.h.
 #pragma once
 
 #include "ZXADLG.h"
@@ -24,43 +25,43 @@
 #include "zxadlg/TraceVsTraceOptions.h"
 
 void LoadCurveFitOptions(const char* pszProfile, FitOptions* pRecord);
-void SaveCurveFitOptions(const char* pszProfile, const FitOptions* pRecord);
+bool SaveCurveFitOptions(const char* pszProfile, const FitOptions* pRecord);
 // The lowpass, highpass, notch and adaptive sections in turn.
 void LoadFilterOptions(const char* pszProfile, FilterOptions* pRecord);
-void SaveFilterOptions(const char* pszProfile, const FilterOptions* pRecord);
+bool SaveFilterOptions(const char* pszProfile, const FilterOptions* pRecord);
 void LoadPowerSpectrumOptions(const char* pszProfile, SpectrumOptions* pRecord);
-void SavePowerSpectrumOptions(const char* pszProfile, const SpectrumOptions* pRecord);
+bool SavePowerSpectrumOptions(const char* pszProfile, const SpectrumOptions* pRecord);
 void LoadHistogramOptions(const char* pszProfile, ZXADLG_HistogramOptions* pRecord);
-void SaveHistogramOptions(const char* pszProfile, const ZXADLG_HistogramOptions* pRecord);
+bool SaveHistogramOptions(const char* pszProfile, const ZXADLG_HistogramOptions* pRecord);
 void LoadCorrelationOptions(const char* pszProfile, ZXADLG_CorrelationOptions* pRecord);
-void SaveCorrelationOptions(const char* pszProfile, const ZXADLG_CorrelationOptions* pRecord);
+bool SaveCorrelationOptions(const char* pszProfile, const ZXADLG_CorrelationOptions* pRecord);
 void LoadResistanceOptions(const char* pszProfile, ZXADLG_ResistanceOptions* pRecord);
-void SaveResistanceOptions(const char* pszProfile, const ZXADLG_ResistanceOptions* pRecord);
+bool SaveResistanceOptions(const char* pszProfile, const ZXADLG_ResistanceOptions* pRecord);
 void LoadNormalizeOptions(const char* pszProfile, ZXADLG_NormalizeOptions* pRecord);
-void SaveNormalizeOptions(const char* pszProfile, const ZXADLG_NormalizeOptions* pRecord);
+bool SaveNormalizeOptions(const char* pszProfile, const ZXADLG_NormalizeOptions* pRecord);
 void LoadConvertSampleRateOptions(const char* pszProfile, ZXADLG_ModifySampleRateOptions* pRecord);
-void SaveConvertSampleRateOptions(const char* pszProfile,
+bool SaveConvertSampleRateOptions(const char* pszProfile,
                                   const ZXADLG_ModifySampleRateOptions* pRecord);
 void LoadLeakSubtractionOptions(const char* pszProfile, ZXADLG_LeakSubtractionOptions* pRecord);
-void SaveLeakSubtractionOptions(const char* pszProfile,
+bool SaveLeakSubtractionOptions(const char* pszProfile,
                                 const ZXADLG_LeakSubtractionOptions* pRecord);
 void LoadForceValuesOptions(const char* pszProfile, ZXADLG_ForceValuesOptions* pRecord);
-void SaveForceValuesOptions(const char* pszProfile, const ZXADLG_ForceValuesOptions* pRecord);
+bool SaveForceValuesOptions(const char* pszProfile, const ZXADLG_ForceValuesOptions* pRecord);
 void LoadTimeShiftOptions(const char* pszProfile, ZXADLG_TimeShiftOptions* pRecord);
-void SaveTimeShiftOptions(const char* pszProfile, const ZXADLG_TimeShiftOptions* pRecord);
+bool SaveTimeShiftOptions(const char* pszProfile, const ZXADLG_TimeShiftOptions* pRecord);
 void LoadCurrentVoltageOptions(const char* pszProfile, ZXADLG_CurrentVoltageOptions* pRecord);
-void SaveCurrentVoltageOptions(const char* pszProfile, const ZXADLG_CurrentVoltageOptions* pRecord);
+bool SaveCurrentVoltageOptions(const char* pszProfile, const ZXADLG_CurrentVoltageOptions* pRecord);
 void LoadTraceVsTraceOptions(const char* pszProfile, ZXADLG_TraceVsTraceOptions* pRecord);
-void SaveTraceVsTraceOptions(const char* pszProfile, const ZXADLG_TraceVsTraceOptions* pRecord);
+bool SaveTraceVsTraceOptions(const char* pszProfile, const ZXADLG_TraceVsTraceOptions* pRecord);
 void LoadTraceArithmeticOptions(const char* pszProfile, ZXADLG_ArithmeticOptions* pRecord);
-void SaveTraceArithmeticOptions(const char* pszProfile, const ZXADLG_ArithmeticOptions* pRecord);
+bool SaveTraceArithmeticOptions(const char* pszProfile, const ZXADLG_ArithmeticOptions* pRecord);
 void LoadAdjustBaselineOptions(const char* pszProfile, ZXADLG_AdjustBaselineOptions* pRecord);
-void SaveAdjustBaselineOptions(const char* pszProfile, const ZXADLG_AdjustBaselineOptions* pRecord);
+bool SaveAdjustBaselineOptions(const char* pszProfile, const ZXADLG_AdjustBaselineOptions* pRecord);
 void LoadSubtractControlOptions(const char* pszProfile, ZXADLG_SubtractControlOptions* pRecord);
-void SaveSubtractControlOptions(const char* pszProfile,
+bool SaveSubtractControlOptions(const char* pszProfile,
                                 const ZXADLG_SubtractControlOptions* pRecord);
 void LoadMeasurementsOptions(const char* pszProfile, ZXADLG_MeasurementOptions* pRecord);
-void SaveMeasurementsOptions(const char* pszProfile, const ZXADLG_MeasurementOptions* pRecord);
+bool SaveMeasurementsOptions(const char* pszProfile, const ZXADLG_MeasurementOptions* pRecord);
 
 // One line of an arithmetic dialog's expression history, at most 255 characters; n counts from 0. A
 // load leaves the buffer of nSize bytes as it is when the line is not stored, and answers whether
@@ -82,7 +83,7 @@ enum DataOptionsMode { kDataOptionsNormal = 0, kDataOptionsReset = 1 };
 // "Common".
 void LoadDataOptions(const char* pszProfile, ZXADLG_DataOptions* pData,
                      const ZXADLG_DlgParams* pParams, int eMode, const char* pszAnalysis);
-void SaveDataOptions(const char* pszProfile, const ZXADLG_DataOptions* pData, int eMode,
+bool SaveDataOptions(const char* pszProfile, const ZXADLG_DataOptions* pData, int eMode,
                      const char* pszAnalysis);
 
 // "%sDataSection" of the name, in a static buffer of 80 bytes that the next call overwrites.

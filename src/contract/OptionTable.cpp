@@ -167,12 +167,13 @@ void LoadSection(const char* pszProfile, const OptionSection& section, void* pRe
     });
 }
 
-void SaveSection(const char* pszProfile, const OptionSection& section, const void* pRecord,
+bool SaveSection(const char* pszProfile, const OptionSection& section, const void* pRecord,
                  const char* szSectionName) {
-    if (pszProfile == nullptr) return;
-    const StoreBatch batch(pszProfile);
+    if (pszProfile == nullptr) return true;
+    StoreBatch batch(pszProfile);
     Walk(section, [&](const OptionKey& key, const char* szKey, std::uint32_t uOffset) {
         if (key.eUse == OptionUse::kLoadOnly) return;
         SaveKey(pszProfile, szSectionName, szKey, key, static_cast<const char*>(pRecord) + uOffset);
     });
+    return batch.Commit();
 }

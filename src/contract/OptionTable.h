@@ -167,17 +167,18 @@ struct OptionSection {
 inline constexpr int kMaxOptionKey = 23;
 
 // Move one section; nothing happens with a null profile. bSkipDependent passes over the keys of
-// OptionUse::kDependent.
+// OptionUse::kDependent. A save returns whether everything reached the store, or is left to the
+// batch around it.
 void LoadSection(const char* pszProfile, const OptionSection& section, void* pRecord,
                  const char* szSectionName, bool bSkipDependent = false);
-void SaveSection(const char* pszProfile, const OptionSection& section, const void* pRecord,
+bool SaveSection(const char* pszProfile, const OptionSection& section, const void* pRecord,
                  const char* szSectionName);
 
 inline void LoadSection(const char* pszProfile, const OptionSection& section, void* pRecord) {
     LoadSection(pszProfile, section, pRecord, section.szSection);
 }
-inline void SaveSection(const char* pszProfile, const OptionSection& section, const void* pRecord) {
-    SaveSection(pszProfile, section, pRecord, section.szSection);
+inline bool SaveSection(const char* pszProfile, const OptionSection& section, const void* pRecord) {
+    return SaveSection(pszProfile, section, pRecord, section.szSection);
 }
 
 // The key with the numbers in place of its first and second "%d", cut to kMaxOptionKey characters,

@@ -15,7 +15,7 @@ namespace {
 // A dialog with a data tab: its selection is kept under the analysis's name.
 template <class Record>
 constexpr ShowRow<Record> TabbedRow(const char* szAnalysis, void (*pLoad)(const char*, Record*),
-                                    void (*pSave)(const char*, const Record*)) {
+                                    bool (*pSave)(const char*, const Record*)) {
     return {szAnalysis, DataRecord::kCopied, kDataOptionsNormal, pLoad, pSave};
 }
 
@@ -37,7 +37,7 @@ int32_t ShowTabbed(const ShowRow<Record>& row, HWND parent, Record* options,
     return RunShowSequence(row, options, data, source, params,
                            [&](Record* pOptions, ZXADLG_DataOptions* pData) {
                                Dialog dialog(parent, pOptions, pData, source, params);
-                               return static_cast<int>(dialog.DoModal());
+                               return RunAtItsPlace(dialog);
                            });
 }
 

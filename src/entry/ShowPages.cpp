@@ -36,7 +36,7 @@ ZXADLG_ShowModifySamplingRateDialog(HWND parent, ZXADLG_ModifySampleRateOptions*
                            [&](ZXADLG_ModifySampleRateOptions* pOptions, ZXADLG_DataOptions*) {
                                CModifySampleRateDialog dialog(parent, pOptions, source,
                                                               params->bReadOnly != 0);
-                               return static_cast<int>(dialog.DoModal());
+                               return RunAtItsPlace(dialog);
                            });
 }
 
@@ -48,7 +48,7 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowSubtractControlDialog(
                            [&](ZXADLG_SubtractControlOptions* pOptions, ZXADLG_DataOptions*) {
                                CSubtractControlDialog dialog(parent, pOptions, source, fileSource,
                                                              params);
-                               return static_cast<int>(dialog.DoModal());
+                               return RunAtItsPlace(dialog);
                            });
 }
 
@@ -59,7 +59,7 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowCurrentVoltageDialog(
                            [&](ZXADLG_CurrentVoltageOptions* pOptions, ZXADLG_DataOptions* pData) {
                                CCurrentVoltageDialog dialog(parent, pOptions, pData, source,
                                                             params);
-                               return static_cast<int>(dialog.DoModal());
+                               return RunAtItsPlace(dialog);
                            });
 }
 
@@ -71,6 +71,6 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowTraceVsTraceDialog(HWND parent,
     return RunShowSequence(kTraceVsTrace, options, data, source, params,
                            [&](ZXADLG_TraceVsTraceOptions* pOptions, ZXADLG_DataOptions* pData) {
                                CTraceVsTraceDialog dialog(parent, pOptions, pData, source, params);
-                               return static_cast<int>(dialog.DoModal());
+                               return RunAtItsPlace(dialog);
                            });
 }

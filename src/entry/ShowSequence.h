@@ -10,6 +10,7 @@
 
 #include "ZXADLG.h"
 #include "contract/OptionPersistence.h"
+#include "framework/ADM_Window_Position.h"
 
 // What becomes of the host's data record.
 enum class DataRecord {
@@ -26,7 +27,7 @@ struct ShowRow {
     // Reset: whatever is stored, the selection starts at its defaults.
     DataOptionsMode eDataLoad;
     void (*pLoad)(const char* pszProfile, Record* pRecord);
-    void (*pSave)(const char* pszProfile, const Record* pRecord);
+    bool (*pSave)(const char* pszProfile, const Record* pRecord);
     // Changes the working copies before the dialog is built; null: nothing.
     void (*pPrepare)(Record* pOptions, ZXADLG_DataOptions* pData,
                      const ZXADLG_DlgParams& params) = nullptr;
@@ -39,17 +40,27 @@ struct ShowRow {
 // Sets the framework up with the library's own module; harmless to repeat.
 void PrepareLibrary();
 
+// Runs a dialog where the last one of its class was left, however it ended, as long as the library
+// stays loaded; the first one is centred.
+template <class Dialog>
+int RunAtItsPlace(Dialog& dialog) {
+    static ADM_Window_Position position;
+    dialog.SetWindowPositionMemory(&position);
+    return static_cast<int>(dialog.DoModal());
+}
+
 // `run` gets the working copies, builds the dialog on its stack, runs it and returns its result.
 template <class Record, class Run>
 int RunShowSequence(const ShowRow<Record>& row, Record* pOptions, ZXADLG_DataOptions* pData,
                     ZXADLG_CDlgDataSource* pSource, const ZXADLG_DlgParams* pParams, Run run) {
     if (pOptions == nullptr || pSource == nullptr || pParams == nullptr)
         return ZXADLG_CREATE_FAILED;
-    if (pData == nullptr && row.eData == DataRecord::kPassedThrough) return ZXADLG_CREATE_FAILED;
+    const bool bCopiesData = row.eData == DataRecord::kCopied;
+    const bool bUsesData = bCopiesData && pParams->bUseDataOptions != 0;
+    if (pData == nullptr && (bUsesData || row.eData == DataRecord::kPassedThrough))
+        return ZXADLG_CREATE_FAILED;
     try {
         PrepareLibrary();
-        const bool bCopiesData = row.eData == DataRecord::kCopied;
-        const bool bUsesData = bCopiesData && pData != nullptr && pParams->bUseDataOptions != 0;
         const bool bUsesStore = pParams->bReadOnly == 0 && pParams->bDeferredRun == 0;
 
         Record options = *pOptions;

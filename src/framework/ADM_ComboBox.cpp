@@ -6,6 +6,7 @@
 #include "framework/NumberItem.h"
 #include "framework/PrivateMessages.h"
 #include "text/BoundedText.h"
+#include "widgets/ModalRun.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ constexpr char kOldProcProp[] = "ADM_OldWndProc";
 
 // Offers each character typed to the dialog, which answers 0 to drop it. It knows the windows only,
 // so that it outlives the control object safely.
-LRESULT CALLBACK EditPartProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
+LRESULT OnEditPartMessage(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
     const auto pOld = reinterpret_cast<WNDPROC>(::GetPropA(hWnd, kOldProcProp));
     if (pOld == nullptr) return ::DefWindowProcA(hWnd, uMsg, wParam, lParam);
     if (uMsg == WM_DESTROY) {
@@ -25,6 +26,11 @@ LRESULT CALLBACK EditPartProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam
         if (::SendMessageA(::GetParent(hCombo), ADMM_CHAR, wParam, nComboId) == 0) return 0;
     }
     return ::CallWindowProcA(pOld, hWnd, uMsg, wParam, lParam);
+}
+
+LRESULT CALLBACK EditPartProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
+    return CommonCtls::CallGuarded<LRESULT>(
+        hWnd, 0, [=] { return OnEditPartMessage(hWnd, uMsg, wParam, lParam); });
 }
 
 HWND FindEditPart(HWND hCombo) {

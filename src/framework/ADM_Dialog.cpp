@@ -8,6 +8,7 @@
 #include "framework/PrivateMessages.h"
 #include "framework/UpdateScope.h"
 #include "text/BoundedText.h"
+#include "widgets/ModalRun.h"
 
 namespace {
 
@@ -15,8 +16,10 @@ constexpr UINT_PTR kAutoApplyTimer = 1;
 constexpr UINT kAutoApplyPeriod = 500;  // ms
 
 BOOL CALLBACK CollectWindow(HWND hWnd, LPARAM lParam) {
-    reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
-    return TRUE;
+    return CommonCtls::CallGuarded<BOOL>(hWnd, FALSE, [=] {
+        reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
+        return TRUE;
+    });
 }
 
 }  // namespace
@@ -63,9 +66,12 @@ INT_PTR ADM_Dialog::DoModal(HINSTANCE hInstance, LPCSTR szTemplate, HWND hParent
 
 INT_PTR ADM_Dialog::DoModal() {
     if (m_hInstance == nullptr || m_pszTemplate == nullptr) return 0;
+    CommonCtls::ModalRun run;
+    m_pRun = &run;
     const INT_PTR nResult = DialogBoxParamA(m_hInstance, m_pszTemplate, m_hParentWnd, WindowProc,
                                             reinterpret_cast<LPARAM>(this));
-    return nResult < 0 ? 0 : nResult;  // -1: there is no such template
+    m_pRun = nullptr;
+    return run.Result(nResult);
 }
 
 BOOL ADM_Dialog::CreateModeless(HINSTANCE hInstance, LPCSTR szTemplate, HWND hParent) {

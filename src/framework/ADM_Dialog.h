@@ -30,6 +30,10 @@
 
 class ADM_Window_Position;
 
+namespace CommonCtls {
+class ModalRun;
+}
+
 class ADM_Dialog : public ADM_Wnd {
   public:
     ADM_Dialog();
@@ -55,8 +59,9 @@ class ADM_Dialog : public ADM_Wnd {
     HBRUSH OnCtlColor(HWND hWnd, HDC hDC, HWND hWndCtl, int nType) override;
 
     virtual BOOL IsDialogObject();
-    // Runs the dialog until it ends and returns the code given to EndDialogWith. Returns 0, and
-    // opens nothing, without an instance or a template.
+    // Runs the dialog until it ends and returns the code given to EndDialogWith; -1 when the system
+    // can't create it, or when an operation of it throws. Returns 0, and opens nothing, without an
+    // instance or a template.
     virtual INT_PTR DoModal();
     // Creates the dialog without a loop; returns nonzero on success.
     virtual BOOL CreateModeless();
@@ -171,7 +176,8 @@ class ADM_Dialog : public ADM_Wnd {
 
     static INT_PTR CALLBACK WindowProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam);
 
-    // Takes the object off a window.
+    // Makes the object that of a new window, and takes it off again.
+    void TakeWindow(HWND hWnd);
     static void LetGo(HWND hWnd);
     bool IsChild(const ADM_Wnd* pControl) const;
     void BindControls();
@@ -186,4 +192,6 @@ class ADM_Dialog : public ADM_Wnd {
     void OnApplyNowMessage(ADM_Wnd* pControl, int nData);
     void OnApplyLaterMessage(ADM_Wnd* pControl, int nData);
     void ClearPendingApply();
+
+    CommonCtls::ModalRun* m_pRun = nullptr;  // while the dialog runs modally
 };

@@ -5,6 +5,7 @@
 #include "framework/AppCommand.h"
 #include "framework/PrivateMessages.h"
 #include "framework/WindowMap.h"
+#include "widgets/ModalRun.h"
 
 namespace {
 
@@ -17,17 +18,20 @@ WindowMap<ADM_Dialog*>& Dialogs() {
 }  // namespace
 
 INT_PTR CALLBACK ADM_Dialog::WindowProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
-    if (uMsg == WM_INITDIALOG) {
-        auto* const pOpening = reinterpret_cast<ADM_Dialog*>(lParam);
-        SetPropA(hWnd, kDialogProp, pOpening);
-        Dialogs().Set(hWnd, pOpening);
-        pOpening->Attach(hWnd);
-    }
-    ADM_Dialog* pDialog = FromWindow(hWnd);
-    if (pDialog == nullptr) return FALSE;
-    const INT_PTR nResult = pDialog->DialogProc(hWnd, uMsg, wParam, lParam);
+    const INT_PTR nResult = CommonCtls::CallGuarded<INT_PTR>(hWnd, FALSE, [=]() -> INT_PTR {
+        if (uMsg == WM_INITDIALOG) reinterpret_cast<ADM_Dialog*>(lParam)->TakeWindow(hWnd);
+        ADM_Dialog* const pDialog = FromWindow(hWnd);
+        return pDialog != nullptr ? pDialog->DialogProc(hWnd, uMsg, wParam, lParam) : FALSE;
+    });
     if (uMsg == WM_NCDESTROY) LetGo(hWnd);
     return nResult;
+}
+
+void ADM_Dialog::TakeWindow(HWND hWnd) {
+    if (m_pRun != nullptr) m_pRun->SetWindow(hWnd);
+    SetPropA(hWnd, kDialogProp, this);
+    Dialogs().Set(hWnd, this);
+    Attach(hWnd);
 }
 
 void ADM_Dialog::LetGo(HWND hWnd) {

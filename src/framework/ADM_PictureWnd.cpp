@@ -1,5 +1,7 @@
 #include "framework/ADM_PictureWnd.h"
 
+#include "widgets/ModalRun.h"
+
 namespace {
 
 constexpr char kClassName[] = "ZXO_ADM_PictureWndCl32";
@@ -71,7 +73,8 @@ LRESULT ADM_PictureWnd::Dispatch(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lPa
     // A handler may send messages that come here again.
     const Message outer = m_message;
     m_message = {hWnd, wParam, lParam};
-    const LRESULT nResult = Handle(uMsg, wParam, lParam);
+    const LRESULT nResult = CommonCtls::CallGuarded<LRESULT>(
+        hWnd, 0, [=, this] { return Handle(uMsg, wParam, lParam); });
     m_message = outer;
     return nResult;
 }

@@ -1,6 +1,7 @@
 #include "framework/ADM_SubClassWnd.h"
 
 #include "framework/WindowMap.h"
+#include "widgets/ModalRun.h"
 
 namespace {
 
@@ -58,6 +59,11 @@ LRESULT ADM_SubClassWnd::SubclassProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARA
 }
 
 LRESULT CALLBACK ADM_SubClassWnd::HookProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
+    return CommonCtls::CallGuarded<LRESULT>(
+        hWnd, 0, [=] { return OnHookedMessage(hWnd, uMsg, wParam, lParam); });
+}
+
+LRESULT ADM_SubClassWnd::OnHookedMessage(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
     const Hook* const pHook = Hooks().Find(hWnd);
     if (pHook == nullptr) return ::DefWindowProcA(hWnd, uMsg, wParam, lParam);
     if (uMsg != WM_NCDESTROY) {

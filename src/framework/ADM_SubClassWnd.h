@@ -20,5 +20,6 @@ class ADM_SubClassWnd : public ADM_Wnd {
 
   private:
     static LRESULT CALLBACK HookProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam);
+    static LRESULT OnHookedMessage(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam);
     void Unhook();
 };

@@ -47,6 +47,10 @@ void ADM_TabControl::SetCurSel(int nIndex) {
     if (m_hWnd != nullptr) SendMessageA(m_hWnd, TCM_SETCURSEL, static_cast<WPARAM>(nIndex), 0);
 }
 
+void ADM_TabControl::Choose(int nIndex) {
+    if (m_hWnd != nullptr) SendMessageA(m_hWnd, TCM_SETCURFOCUS, static_cast<WPARAM>(nIndex), 0);
+}
+
 void ADM_TabControl::InsertItem(int nIndex, LPCSTR szTitle) {
     if (m_hWnd == nullptr) return;
     char szText[64];

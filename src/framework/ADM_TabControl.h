@@ -19,6 +19,8 @@ class ADM_TabControl : public ADM_Wnd {
     int GetCurSel() const;
     // Sends no notification.
     void SetCurSel(int nIndex);
+    // Selects as a click on the tab does, with its notifications.
+    void Choose(int nIndex);
     // szTitle is copied.
     void InsertItem(int nIndex, LPCSTR szTitle);
     void DeleteItem(int nIndex);

@@ -127,6 +127,13 @@ void ADM_TabbedDialog::SelectPage(int nIndex) {
     OnPageSelected(nIndex);
 }
 
+bool ADM_TabbedDialog::ChoosePageBeside(bool bForward) {
+    const int nCount = GetPageCount();
+    if (nCount < 2) return false;
+    m_tabControl.Choose((m_nCurrentPage + (bForward ? 1 : nCount - 1)) % nCount);
+    return true;
+}
+
 void ADM_TabbedDialog::HideCurrentPage() {
     if (m_pCurrentPage != nullptr) m_pCurrentPage->Show(SW_HIDE);
 }

@@ -47,6 +47,9 @@ class ADM_TabbedDialog : public ADM_Dialog {
     BOOL InsertPage(int nIndex, ADM_TabSubDialog* pPage);
     // Returns whether the page was there. Its window is destroyed.
     BOOL RemovePage(ADM_TabSubDialog* pPage);
+    // Chooses the page behind the current one, or the one before it, as a click on its tab does;
+    // from the last on to the first. Returns whether there are two.
+    bool ChoosePageBeside(bool bForward);
     ADM_TabSubDialog* GetPage(int nIndex) const;
     int GetPageCount() const { return static_cast<int>(m_vPages.size()); }
     ADM_TabSubDialog* GetCurrentPage() const { return m_pCurrentPage; }

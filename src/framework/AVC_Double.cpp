@@ -64,6 +64,10 @@ double AVC_Double::Reparse() {
     return Rules::Reparse(*this);
 }
 
+void AVC_Double::RewriteUnreadable() {
+    Rules::RewriteUnreadable(*this);
+}
+
 void AVC_Double::ClampValue() {
     Rules::ClampValue(*this);
 }

@@ -64,6 +64,10 @@ float AVC_Float::Reparse() {
     return Rules::Reparse(*this);
 }
 
+void AVC_Float::RewriteUnreadable() {
+    Rules::RewriteUnreadable(*this);
+}
+
 void AVC_Float::ClampValue() {
     Rules::ClampValue(*this);
 }

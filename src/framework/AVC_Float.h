@@ -31,6 +31,8 @@ class AVC_Float : public AVC_Numeric {
     // Brings value and text into line with what the text shows; returns the value. A text that is
     // no number leaves both.
     float Reparse();
+    // Gives a text that is no number the form of the value, which stays as it is.
+    void RewriteUnreadable();
     // Pulls the value into the range, and the text with it.
     void ClampValue();
     // The value, in the range.

@@ -44,6 +44,16 @@ class FloatingRules {
         Reparse(v);
     }
 
+    static void RewriteUnreadable(Validator& v) {
+        if (v.m_sText.empty()) return;
+        char szNumber[kSize];
+        CopyText(szNumber, v.m_sText);
+        Value read = 0;
+        if (Parse(v, szNumber, read)) return;
+        Format(v, v.*T::pValue, szNumber);
+        v.m_sText = szNumber;
+    }
+
     static void ClampValue(Validator& v) {
         if (!v.m_bRangeSet) return;
         const Value before = v.*T::pValue;
@@ -120,9 +130,9 @@ class FloatingRules {
     }
 
     // A text that is no number leaves text and value.
-    static void Parse(const Validator& v, char (&szNumber)[kSize], Value& value) {
-        T::ParseNormal(szNumber, kSize, &value, v.m_eFormat, v.m_uDecimals, v.m_uSigDigits,
-                       nullptr);
+    static bool Parse(const Validator& v, char (&szNumber)[kSize], Value& value) {
+        return T::ParseNormal(szNumber, kSize, &value, v.m_eFormat, v.m_uDecimals, v.m_uSigDigits,
+                              nullptr) != 0;
     }
 
     static void ShowIn(const Validator& v, Validator& shown, Value value) {

@@ -1,6 +1,8 @@
 #include "framework/MessageFilter.h"
 
 #include "framework/ADM_Dialog.h"
+#include "framework/DialogKeys.h"
+#include "widgets/ModalRun.h"
 
 namespace {
 
@@ -11,8 +13,11 @@ LRESULT CALLBACK FilterProc(int nCode, WPARAM wParam, LPARAM lParam) {
     const LRESULT nNext = CallNextHookEx(g_hHook, nCode, wParam, lParam);
     if (nCode != MSGF_DIALOGBOX) return nNext;
     MSG* pMsg = reinterpret_cast<MSG*>(lParam);
-    ADM_Dialog* pDialog = ADM_Dialog::FromWindow(pMsg->hwnd);
-    return pDialog != nullptr && pDialog->PreTranslateMessage(pMsg) ? 1 : nNext;
+    return CommonCtls::CallGuarded<LRESULT>(pMsg->hwnd, nNext, [=] {
+        ADM_Dialog* pDialog = ADM_Dialog::FromWindow(pMsg->hwnd);
+        if (pDialog != nullptr && pDialog->PreTranslateMessage(pMsg)) return LRESULT{1};
+        return ServeDialogKey(*pMsg) ? 1 : nNext;
+    });
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The message filter that lets a dialog see a key before its modal loop does. One WH_MSGFILTER hook
 // serves all dialogs of the thread; a use count keeps it while at least one of them wants it. The
-// hook asks PreTranslateMessage of the dialog whose own window a message is for.
+// hook asks PreTranslateMessage of the dialog whose own window a message is for, and then serves
+// the keys of DialogKeys.h.
 //
 // Hook and count are process-wide and unguarded: they belong to the user-interface thread.
 #pragma once

@@ -68,6 +68,7 @@ void NumericText<Fields>::Notify(ADM_Wnd* pSender, int nId, int nCode, int nData
         } else if (nCode == ADMN_KILLFOCUS) {
             // The text takes its display form; it is not validated, and a value out of range stays.
             ReadControl();
+            Fields::RewriteUnreadable(this->m_validator);
             ShowText();
         }
     }

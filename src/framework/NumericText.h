@@ -18,6 +18,8 @@ struct IntegerTextFields {
     static constexpr UINT kMostCharacters = 11;
     static constexpr char kAllowed[] = "0123456789+- ";
     static constexpr bool kReadsEmpty = false;
+    // A whole number is rewritten as it is read.
+    static void RewriteUnreadable(AVC_Integer&) {}
 
     AVC_Integer m_validator;
     Value m_nInitial = 0;
@@ -31,6 +33,7 @@ struct FloatTextFields {
     static constexpr UINT kMostCharacters = 13;
     static constexpr char kAllowed[] = "0123456789+-Ee. ";
     static constexpr bool kReadsEmpty = true;
+    static void RewriteUnreadable(AVC_Float& validator) { validator.RewriteUnreadable(); }
 
     AVC_Float m_validator;
     Value m_fInitial = 0;
@@ -42,6 +45,7 @@ struct DoubleTextFields {
     static constexpr UINT kMostCharacters = 23;
     static constexpr char kAllowed[] = "0123456789+-Ee. ";
     static constexpr bool kReadsEmpty = false;
+    static void RewriteUnreadable(AVC_Double& validator) { validator.RewriteUnreadable(); }
 
     AVC_Double m_validator;
     Value m_dInitial = 0;

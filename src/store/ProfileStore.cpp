@@ -131,7 +131,7 @@ bool WriteProfileString(const char* szSection, const char* szKey, const char* sz
 bool DeleteRegistrySection(const char* szSection, const char* szApp) {
     if (IsEmpty(szSection)) return false;
     if (StoreBatch* pBatch = StoreBatch::Find(szApp)) pBatch->CloseKey();
-    const HKEY hApp = OpenApp(szApp, true);
+    const HKEY hApp = OpenApp(szApp, false);
     if (hApp == nullptr) return false;
     const bool bDeleted = RegDeleteKeyA(hApp, szSection) == ERROR_SUCCESS;
     RegCloseKey(hApp);
@@ -139,7 +139,7 @@ bool DeleteRegistrySection(const char* szSection, const char* szApp) {
 }
 
 bool FlushRegistry(const char* szApp) {
-    const HKEY hApp = OpenApp(szApp, true);
+    const HKEY hApp = OpenApp(szApp, false);
     if (hApp == nullptr) return false;
     const bool bFlushed = RegFlushKey(hApp) == ERROR_SUCCESS;
     RegCloseKey(hApp);
@@ -152,6 +152,8 @@ bool WriteRegistryString(const char* szSection, const char* szKey, const char* s
         return szKey == nullptr && szValue == nullptr && FlushRegistry(szApp);
     }
     if (szKey == nullptr) return DeleteRegistrySection(szSection, szApp);
+    // What is not there needs no deleting, and must not be made for it.
+    if (szValue == nullptr && SectionKey(szSection, szApp, false).Get() == nullptr) return false;
     const SectionKey key(szSection, szApp, true);
     if (key.Get() == nullptr) return false;
     if (szValue == nullptr) return RegDeleteValueA(key.Get(), szKey) == ERROR_SUCCESS;
@@ -240,8 +242,11 @@ bool ReadString(const char* szSection, const char* szKey, const char* szDefault,
 
 bool WriteString(const char* szSection, const char* szKey, const char* szValue, const char* szApp) {
     if (szApp == nullptr) return false;
-    return g_bUseProfileFile ? WriteProfileString(szSection, szKey, szValue, szApp)
-                             : WriteRegistryString(szSection, szKey, szValue, szApp);
+    const bool bDone = g_bUseProfileFile ? WriteProfileString(szSection, szKey, szValue, szApp)
+                                         : WriteRegistryString(szSection, szKey, szValue, szApp);
+    StoreBatch* const pBatch = bDone || szValue == nullptr ? nullptr : StoreBatch::Find(szApp);
+    if (pBatch != nullptr) pBatch->NoteFailure();
+    return bDone;
 }
 
 bool Flush(const char* szApp) {

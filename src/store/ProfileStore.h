@@ -44,7 +44,7 @@ bool ReadString(const char* szSection, const char* szKey, const char* szDefault,
                 int nSize, const char* szApp);
 
 // Writes a text. A null value deletes the key, a null key the section; all three null flush the
-// store.
+// store. Deleting and flushing make no registry key that was not there: they fail without it.
 bool WriteString(const char* szSection, const char* szKey, const char* szValue, const char* szApp);
 
 // Brings what the system holds back to the medium.

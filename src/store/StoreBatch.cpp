@@ -147,5 +147,5 @@ bool StoreBatch::Commit() {
     const bool bSaved = m_pText == nullptr || !m_pText->IsChanged() || SaveProfile();
     m_pText.reset();
     m_bLoaded = false;
-    return bSaved;
+    return !std::exchange(m_bFailed, false) && bSaved;
 }

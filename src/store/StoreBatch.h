@@ -30,11 +30,15 @@ class StoreBatch {
     StoreBatch& operator=(const StoreBatch&) = delete;
 
     // Brings the writes so far to the medium and closes it; the scope may go on. Returns whether
-    // all of them are there. A scope that joined another leaves this to it.
+    // all of them are there. A scope that joined another leaves this to it. Who has to know calls
+    // it at the end of the scope: the end itself can tell nobody.
     bool Commit();
 
     // The scope that serves `szApp` in the present mode, or null. For the store's own operations.
     static StoreBatch* Find(const char* szApp);
+
+    // A value could not be written.
+    void NoteFailure() { m_bFailed = true; }
 
     // Registry mode: the section's key, which the scope owns; null if it can't be opened.
     HKEY SectionKey(const char* szSection, bool bWrite);
@@ -53,6 +57,7 @@ class StoreBatch {
     bool m_bProfile;
     bool m_bJoined;
     StoreBatch* m_pOuter;
+    bool m_bFailed = false;
 
     HKEY m_hKey = nullptr;
     bool m_bKeyWrites = false;

@@ -17,6 +17,14 @@ constexpr int kWorkSize = 32;
 // The work buffer of one finished number.
 class NumberText {
   public:
+    // Takes the sign off a number that shows as zero, whatever little there was below.
+    void DropSignOfZero() {
+        if (m_nUsed == 0 || m_szText[0] != '-') return;
+        const std::string_view sDigits = View().substr(1);
+        if (sDigits.find_first_not_of("0.") != std::string_view::npos) return;
+        std::copy(sDigits.begin(), sDigits.end(), m_szText);
+        --m_nUsed;
+    }
     void Put(char ch) {
         if (m_nUsed < kWorkSize - 1) m_szText[m_nUsed++] = ch;
     }
@@ -172,6 +180,7 @@ std::int32_t Format(double dValue, char* szBuffer, int nSize, std::int32_t eForm
     } else {
         FormatFixed(text, dValue, uDecimals, nMaxDigits);
     }
+    text.DropSignOfZero();
     std::int32_t nCode =
         CopyText(szBuffer, nSize, text.View()) == 0 ? kNumberEmptyResult : kNumberOk;
     if (nCode == kNumberOk && bReplaced) nCode = kNumberDigitsReplaced;

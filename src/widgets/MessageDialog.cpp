@@ -7,6 +7,7 @@
 
 #include "text/BoundedText.h"
 #include "text/NumberParse.h"
+#include "widgets/ModalRun.h"
 #include "widgets/TextFormat.h"
 
 namespace CommonCtls {
@@ -98,6 +99,12 @@ HWND FindThreadOwner() {
     return hFound;
 }
 
+// The window, or while it does not show yet the first of its owners that does; null for none.
+HWND FirstVisible(HWND hWnd) {
+    while (hWnd != nullptr && !IsWindowVisible(hWnd)) hWnd = GetParent(hWnd);
+    return hWnd;
+}
+
 // While a task modal message is up, no other top-level window of the thread takes input.
 class TaskModalScope {
   public:
@@ -116,11 +123,12 @@ class TaskModalScope {
   private:
     static BOOL CALLBACK Disable(HWND hWnd, LPARAM lParam) {
         auto* self = reinterpret_cast<TaskModalScope*>(lParam);
-        if (hWnd != self->m_hOwner && IsWindowVisible(hWnd) && IsWindowEnabled(hWnd)) {
-            EnableWindow(hWnd, FALSE);
+        if (hWnd == self->m_hOwner || !IsWindowVisible(hWnd) || !IsWindowEnabled(hWnd)) return TRUE;
+        return CallGuarded<BOOL>(hWnd, FALSE, [=] {
             self->m_vDisabled.push_back(hWnd);
-        }
-        return TRUE;
+            EnableWindow(hWnd, FALSE);
+            return TRUE;
+        });
     }
 
     HWND m_hOwner;  // the modal loop itself looks after the owner
@@ -162,9 +170,11 @@ UINT CZDMsgDialog::Run(HWND hOwner, UINT uTimeoutMs, LPCSTR szText, UINT uFlags,
     dialog.header.style = DS_MODALFRAME | DS_NOIDLEMSG | DS_SETFOREGROUND | WS_POPUP | WS_CAPTION |
                           (bCanClose ? WS_SYSMENU : 0) | (m_nModality == 1 ? DS_SYSMODAL : 0);
     const TaskModalScope taskModal(m_nModality == 0, m_hOwner);
-    const INT_PTR nResult =
+    ModalRun run;
+    m_pRun = &run;
+    const INT_PTR nResult = run.Result(
         DialogBoxIndirectParamA(GetModuleHandleA(nullptr), &dialog.header, m_hOwner,
-                                &CZDMsgDialog::DialogProc, reinterpret_cast<LPARAM>(this));
+                                &CZDMsgDialog::DialogProc, reinterpret_cast<LPARAM>(this)));
     return nResult > 0 ? static_cast<UINT>(nResult) : ShowSevereFailure();
 }
 
@@ -235,23 +245,30 @@ UINT CZDMsgDialog::ShowSevereFailure() const {
 INT_PTR CALLBACK CZDMsgDialog::DialogProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
     if (uMsg == WM_INITDIALOG) {
         SetWindowLongPtrA(hWnd, DWLP_USER, lParam);
-        reinterpret_cast<CZDMsgDialog*>(lParam)->OnInitDialog(hWnd);
-        return FALSE;
+        reinterpret_cast<CZDMsgDialog*>(lParam)->m_pRun->SetWindow(hWnd);
     }
     auto* self = reinterpret_cast<CZDMsgDialog*>(GetWindowLongPtrA(hWnd, DWLP_USER));
     if (self == nullptr) return FALSE;
+    return CallGuarded<INT_PTR>(hWnd, FALSE,
+                                [=] { return self->OnMessage(hWnd, uMsg, wParam) ? TRUE : FALSE; });
+}
+
+bool CZDMsgDialog::OnMessage(HWND hWnd, UINT uMsg, WPARAM wParam) {
     switch (uMsg) {
+        case WM_INITDIALOG:
+            OnInitDialog(hWnd);
+            return false;
         case WM_COMMAND:
-            return self->OnCommand(hWnd, LOWORD(wParam)) ? TRUE : FALSE;
+            return OnCommand(hWnd, LOWORD(wParam));
         case WM_TIMER:
-            if (wParam != kTimeoutTimer) return FALSE;
+            if (wParam != kTimeoutTimer) return false;
             EndDialog(hWnd, kMessageTimedOut);
-            return TRUE;
+            return true;
         case WM_DESTROY:
-            if (self->m_uTimeoutMs != static_cast<UINT>(-1)) KillTimer(hWnd, kTimeoutTimer);
-            return FALSE;
+            if (m_uTimeoutMs != static_cast<UINT>(-1)) KillTimer(hWnd, kTimeoutTimer);
+            return false;
         default:
-            return FALSE;
+            return false;
     }
 }
 
@@ -338,7 +355,7 @@ void CZDMsgDialog::OnInitDialog(HWND hWnd) {
         MonitorFromWindow(m_hOwner != nullptr ? m_hOwner : hWnd, MONITOR_DEFAULTTONEAREST),
         &monitor);
     RECT around = monitor.rcWork;
-    if (m_hOwner != nullptr && IsWindowVisible(m_hOwner)) GetWindowRect(m_hOwner, &around);
+    if (const HWND hAround = FirstVisible(m_hOwner)) GetWindowRect(hAround, &around);
     const LONG nLeft =
         std::clamp<LONG>((around.left + around.right - nWidth) / 2, monitor.rcWork.left,
                          std::max<LONG>(monitor.rcWork.left, monitor.rcWork.right - nWidth));
@@ -364,16 +381,16 @@ UINT ShowMessageTimed(HWND hOwner, UINT uTimeoutMs, LPCSTR szText, UINT uFlags,
 }
 
 UINT ShowMessageByKey(HWND hOwner, LPCSTR szSecond, LPCSTR szFirst, UINT uFlags) {
+    if (szFirst == nullptr && szSecond == nullptr) return kMessageNoText;
     char szText[2049];
     BoundedWriter writer(szText, sizeof szText);
-    std::string sPiece;
-    const bool bFirst = szFirst != nullptr && LoadMessageText(hOwner, szFirst, sPiece);
-    if (bFirst) writer.Put(sPiece);
-    if (szSecond != nullptr && LoadMessageText(hOwner, szSecond, sPiece)) {
-        if (bFirst) writer.Put("\r\n\r\n");
-        writer.Put(sPiece);
-    }
-    if (writer.Length() == 0 && szFirst == nullptr && szSecond == nullptr) return kMessageNoText;
+    std::string sFirst;
+    std::string sSecond;
+    if (szFirst != nullptr && !LoadMessageText(hOwner, szFirst, sFirst)) return 0;
+    if (szSecond != nullptr && !LoadMessageText(hOwner, szSecond, sSecond)) return 0;
+    writer.Put(sFirst);
+    if (szFirst != nullptr && szSecond != nullptr) writer.Put("\r\n\r\n");
+    writer.Put(sSecond);
     return ShowMessage(hOwner, szText, uFlags);
 }
 

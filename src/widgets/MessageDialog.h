@@ -15,6 +15,8 @@
 
 namespace CommonCtls {
 
+class ModalRun;
+
 constexpr UINT kMessageNoText = 0xFFFF;
 constexpr UINT kMessageSevereFailure = 0xFFFD;
 constexpr UINT kMessageTimedOut = 0xFFFC;
@@ -81,6 +83,8 @@ class CZDMsgDialog {
     void OnInitDialog(HWND hWnd);
     HWND CreateChild(HWND hWnd, LPCSTR szClass, LPCSTR szText, DWORD dwStyle, DWORD dwExStyle,
                      const RECT& rc, int nId) const;
+    // Whether the message is done with.
+    bool OnMessage(HWND hWnd, UINT uMsg, WPARAM wParam);
     bool OnCommand(HWND hWnd, UINT nId) const;
     UINT ShowSevereFailure() const;
 
@@ -99,6 +103,7 @@ class CZDMsgDialog {
     bool m_bFatal = false;
     UINT m_uTimeoutMs = static_cast<UINT>(-1);
     HWND m_hOwner = nullptr;
+    ModalRun* m_pRun = nullptr;
     Layout m_layout;
 };
 
@@ -109,7 +114,8 @@ UINT ShowMessage(HWND hOwner, LPCSTR szText, UINT uFlags, std::initializer_list<
 UINT ShowMessageTimed(HWND hOwner, UINT uTimeoutMs, LPCSTR szText, UINT uFlags,
                       std::initializer_list<LPCSTR> args = {});
 
-// Shows szFirst and, behind an empty line, szSecond; either may be null.
+// Shows szFirst and, behind an empty line, szSecond; either may be null. An id that has no string
+// shows nothing and gives 0.
 UINT ShowMessageByKey(HWND hOwner, LPCSTR szSecond, LPCSTR szFirst, UINT uFlags);
 
 }  // namespace CommonCtls

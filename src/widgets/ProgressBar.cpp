@@ -5,6 +5,7 @@
 
 #include "text/BoundedText.h"
 #include "text/TextTests.h"
+#include "widgets/ModalRun.h"
 #include "widgets/TextFormat.h"
 
 namespace CommonCtls {
@@ -20,9 +21,7 @@ CProgressBar* ObjectOf(HWND hWnd) {
     return reinterpret_cast<CProgressBar*>(::GetWindowLongPtrA(hWnd, 0));
 }
 
-}  // namespace
-
-LRESULT CALLBACK ProgressBarProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
+LRESULT OnProgressBarMessage(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
     CProgressBar* pBar = ObjectOf(hWnd);
     if (uMsg == WM_NCCREATE && pBar == nullptr) {
         pBar = new CProgressBar(hWnd);
@@ -35,6 +34,13 @@ LRESULT CALLBACK ProgressBarProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lPa
         return ::DefWindowProcA(hWnd, uMsg, wParam, lParam);
     }
     return pBar->HandleMessage(uMsg, wParam, lParam);
+}
+
+}  // namespace
+
+LRESULT CALLBACK ProgressBarProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
+    return CallGuarded<LRESULT>(hWnd, 0,
+                                [=] { return OnProgressBarMessage(hWnd, uMsg, wParam, lParam); });
 }
 
 CProgressBar::~CProgressBar() = default;

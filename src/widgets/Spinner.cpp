@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "text/TextTests.h"
+#include "widgets/ModalRun.h"
 
 namespace CommonCtls {
 
@@ -65,11 +66,13 @@ LRESULT SpinnerProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 LRESULT CALLBACK VerticalSpinnerProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
-    return SpinnerProc<CSpinnerVertical>(hWnd, uMsg, wParam, lParam);
+    return CallGuarded<LRESULT>(
+        hWnd, 0, [=] { return SpinnerProc<CSpinnerVertical>(hWnd, uMsg, wParam, lParam); });
 }
 
 LRESULT CALLBACK HorizontalSpinnerProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
-    return SpinnerProc<CSpinnerHorizontal>(hWnd, uMsg, wParam, lParam);
+    return CallGuarded<LRESULT>(
+        hWnd, 0, [=] { return SpinnerProc<CSpinnerHorizontal>(hWnd, uMsg, wParam, lParam); });
 }
 
 UINT SpinnerSetRepeat(HWND hWnd, UINT uMs) {

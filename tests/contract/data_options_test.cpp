@@ -22,6 +22,33 @@ TEST_F(DataOptions, GroupIndexBeyondTheFileBecomesItsLastGroup) {
     EXPECT_EQ(record.uGroup1Index, 0u);
 }
 
+TEST_F(DataOptions, SecondAndPairedGroupAreKeptBelowTheCountAsWell) {
+    record.uGroup1Index = 0;
+    record.uGroup2Index = 2;
+    record.uPairedGroupIndex = 0xFFFFFFFFu;
+    Model();
+    EXPECT_EQ(record.uGroup1Index, 0u);
+    EXPECT_EQ(record.uGroup2Index, 1u);
+    EXPECT_EQ(record.uPairedGroupIndex, 1u);
+}
+
+TEST_F(DataOptions, SourceIsAskedItsKindFirstAndNeverOfAGroupThatItLacks) {
+    record.uPairedGroupIndex = 5;
+    source.Record();
+    Sheet();
+    const std::vector<std::string> expected = {"GetDataKind()", "GetGroupCount()"};
+    ASSERT_GE(source.calls.size(), 3u);
+    EXPECT_EQ(std::vector<std::string>(source.calls.begin(), source.calls.begin() + 2), expected);
+    bool asked = false;
+    for (const std::string& call : source.calls) {
+        if (call.rfind("GetSetCount(", 0) != 0 && call.rfind("GetPointCount(", 0) != 0) continue;
+        const std::string group = call.substr(call.find('(') + 1, 1);
+        EXPECT_EQ(group, "1") << call;
+        asked = true;
+    }
+    EXPECT_TRUE(asked);
+}
+
 TEST_F(DataOptions, SheetColumnsBeyondTheSheetBecomeTheLastTwo) {
     record.uIndepVarDataSetIndex = 12;
     record.uDepVarDataSetIndex = 99;

@@ -8,6 +8,8 @@
 #include "KeyRecorder.h"
 #include "contract/OptionPersistence.h"
 #include "contract/OptionTables.h"
+#include "fixtures/ScratchStore.h"
+#include "store/ProfileStore.h"
 
 namespace {
 
@@ -220,6 +222,26 @@ TEST(OptionValues, FrequenciesTravelAsFloats) {
     EXPECT_EQ(profile.Value("LowpassFilterSection", "m_dCornerFreq"), "0.1");
     LoadFilterOptions(profile.Name(), pOptions.get());
     EXPECT_EQ(pOptions->lowpass.m_dCornerFreq, static_cast<double>(0.1F));
+}
+
+TEST(OptionValues, ASaveThatDoesNotReachTheStoreSaysSo) {
+    const test_support::ScratchStore store;
+    const bool old = SetUseProfileFile(true);
+    const std::string nowhere = store.File("no folder") + "/settings.ini";
+    const ZXADLG_NormalizeOptions options = {};
+    const FilterOptions filter = {};
+    const ZXADLG_DataOptions data = {};
+    EXPECT_TRUE(SaveNormalizeOptions(store.ProfileFile().c_str(), &options));
+    EXPECT_TRUE(SaveFilterOptions(store.ProfileFile().c_str(), &filter));
+    EXPECT_TRUE(
+        SaveDataOptions(store.ProfileFile().c_str(), &data, kDataOptionsNormal, "Normalize"));
+    EXPECT_FALSE(SaveNormalizeOptions(nowhere.c_str(), &options));
+    EXPECT_FALSE(SaveFilterOptions(nowhere.c_str(), &filter));
+    EXPECT_FALSE(SaveDataOptions(nowhere.c_str(), &data, kDataOptionsNormal, "Normalize"));
+    // Nothing to write is no failure.
+    EXPECT_TRUE(SaveNormalizeOptions(nullptr, &options));
+    EXPECT_TRUE(SaveDataOptions(nowhere.c_str(), &data, kDataOptionsReset, "Normalize"));
+    SetUseProfileFile(old);
 }
 
 TEST(OptionValues, MissingKeysLeaveTheFieldsAsTheHostPassedThem) {

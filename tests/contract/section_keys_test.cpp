@@ -31,11 +31,11 @@ void Append(std::vector<std::string>& vKeys, const std::string& sWords) {
 }
 
 template <class Record>
-std::vector<std::string> SavedKeys(void (*pSave)(const char*, const Record*),
+std::vector<std::string> SavedKeys(bool (*pSave)(const char*, const Record*),
                                    const char* szSection) {
     const ProfileScope profile;
     const auto pRecord = std::make_unique<Record>();
-    pSave(profile.Name(), pRecord.get());
+    EXPECT_TRUE(pSave(profile.Name(), pRecord.get()));
     return profile.Keys(szSection);
 }
 

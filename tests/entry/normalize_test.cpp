@@ -6,6 +6,7 @@
 #include <clocale>
 #include <cstring>
 #include <locale>
+#include <new>
 #include <string>
 
 #include "ZXADLG.h"
@@ -104,6 +105,41 @@ TEST_F(Normalize, RegionThatTheDataLackSelectsTheFirstEntry) {
     script.ExpectSelected(IDC_NORMALIZE_BASELINE, "Whole trace").Click(IDOK);
     EXPECT_EQ(Show(script), 1);
     EXPECT_EQ(options.eBaselineRegion, 0u);
+}
+
+// Its answers fail in the middle of a dialog, as when the host runs out of memory.
+class FailingSource : public TestDataSource {
+  public:
+    uint32_t GetPointCount(uint32_t group, uint32_t set, const ZXADLG_DataRange* range,
+                           uint32_t reserved) override {
+        if (fails) throw std::bad_alloc();
+        return TestDataSource::GetPointCount(group, set, range, reserved);
+    }
+    bool fails = false;
+};
+
+TEST_F(Normalize, AFailureInTheRunningDialogEndsItAndTheHostGoesOn) {
+    FailingSource failing;
+    failing.Region(0, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
+    const ZXADLG_NormalizeOptions optionsBefore = options;
+    const ZXADLG_DataOptions dataBefore = data;
+    DialogScript script;
+    script.Click(IDC_NORMALIZE_REGIONS)
+        .Do([&] { failing.fails = true; })
+        .Choose(IDC_NORMALIZE_BASELINE, "Whole trace");
+    EXPECT_EQ(script.Run([&] {
+        return ZXADLG_ShowNormalizeDialog(nullptr, &options, &data, &failing, &params);
+    }),
+              -1);
+    EXPECT_EQ(std::memcmp(&options, &optionsBefore, sizeof options), 0);
+    EXPECT_EQ(std::memcmp(&data, &dataBefore, sizeof data), 0);
+    failing.fails = false;
+    DialogScript again;
+    again.Click(IDOK);
+    EXPECT_EQ(again.Run([&] {
+        return ZXADLG_ShowNormalizeDialog(nullptr, &options, &data, &failing, &params);
+    }),
+              1);
 }
 
 TEST_F(Normalize, CancelLeavesTheRecordsAndTheStoreAsTheyWere) {

@@ -242,8 +242,14 @@ TEST_F(ShowSequence, NullArgumentsOpenNothing) {
         -1);
     EXPECT_EQ(RunShowSequence(kPlain, &options, &data, nullptr, &params, dialog), -1);
     EXPECT_EQ(RunShowSequence(kPlain, &options, &data, &source, nullptr, dialog), -1);
+    EXPECT_EQ(RunShowSequence(kPlain, &options, nullptr, &source, &params, dialog), -1);
     EXPECT_EQ(dialogs, 0);
-    EXPECT_EQ(RunShowSequence(kPlain, &options, nullptr, &source, &params, dialog), 1);
+}
+
+TEST_F(ShowSequence, ADataRecordThatTakesNoPartMayBeNull) {
+    params.bUseDataOptions = 0;
+    EXPECT_EQ(RunShowSequence(kPlain, &options, nullptr, &source, &params, Editing(1)), 1);
+    EXPECT_EQ(options.eBaselineRegion, 55u);
     EXPECT_EQ(Read("NormalizeDataSection", "uGroup1Index"), "(none)");
 }
 

@@ -61,7 +61,7 @@ TEST(DialogLife, NullTemplateOrInstanceOpensNothing) {
 TEST(DialogLife, MissingTemplateOpensNothing) {
     EventLog log;
     LoggedDialog dialog(log);
-    EXPECT_EQ(dialog.DoModal(Module(), Template(9999), nullptr), 0);
+    EXPECT_EQ(dialog.DoModal(Module(), Template(9999), nullptr), -1);
     EXPECT_EQ(dialog.CreateModeless(Module(), "NO_SUCH_DIALOG", nullptr), 0);
     EXPECT_EQ(log.Take(), "");
 }

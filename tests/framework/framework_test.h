@@ -42,6 +42,7 @@
 #define IDC_TWO_B 222
 #define IDC_THREE_A 231
 #define IDC_THREE_LIST 232
+#define IDC_THREE_RUN 233
 
 #define IDS_TAB_TITLE 300
 #define IDS_LONG_TITLE 301  // 70 characters

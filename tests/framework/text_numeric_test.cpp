@@ -206,7 +206,9 @@ TYPED_TEST(TextNumeric, PastedGarbageIsRewrittenOnLeaving) {
     EXPECT_EQ(TextOf(hWnd), "7 apples");
     this->host.FocusNowhere();
     // Plain conversion takes the digits in front; the floating fields refuse such a text whole.
-    EXPECT_EQ(field.GetValue(), (std::is_same_v<TypeParam, ADM_IntegerText> ? 7 : 5));
+    const bool bPlain = std::is_same_v<TypeParam, ADM_IntegerText>;
+    EXPECT_EQ(TextOf(hWnd), bPlain ? "7" : "5");
+    EXPECT_EQ(field.GetValue(), bPlain ? 7 : 5);
 }
 
 TYPED_TEST(TextNumeric, APasteIsCutAtTheLimit) {
@@ -495,6 +497,39 @@ TYPED_TEST(TextFormat, TheFirstUnparsableTextKeepsTheValueAndIsRewrittenLater) {
     SetWindowTextA(hWnd, "1 2");
     EXPECT_EQ(field.GetValue(), 5);
     EXPECT_EQ(field.Validate(1, nullptr), 1);
+    EXPECT_EQ(TextOf(hWnd), "1 2");
+    host.FocusNowhere();
+    EXPECT_EQ(TextOf(hWnd), "5");
+}
+
+TYPED_TEST(TextFormat, AnUnparsableTextIsRewrittenInTheDisplayFormOutOfRangeToo) {
+    ControlHost host;
+    TypeParam field;
+    field.SetDecimalPlaces(2);
+    field.SetRange(0, 10);
+    const HWND hWnd = host.BindEdit(field);
+    field.SetFocus();
+    SetWindowTextA(hWnd, "50.125");
+    field.ReadControl();
+    SetWindowTextA(hWnd, "1 2");
+    host.FocusNowhere();
+    EXPECT_EQ(TextOf(hWnd), "50.13");
+    EXPECT_EQ(field.Validate(1, nullptr), 0);
+}
+
+TYPED_TEST(TextFormat, ZeroIsShownWithNoSign) {
+    ControlHost host;
+    TypeParam field;
+    field.SetDecimalPlaces(1);
+    const HWND hWnd = host.BindEdit(field);
+    field.SetFocus();
+    for (const char* szTyped : {"-0", "-0.0", "-.04"}) {
+        SCOPED_TRACE(szTyped);
+        SetWindowTextA(hWnd, szTyped);
+        host.FocusNowhere();
+        EXPECT_EQ(TextOf(hWnd), "0.0");
+        field.SetFocus();
+    }
 }
 
 }  // namespace

@@ -3,12 +3,17 @@
 #include <gtest/gtest.h>
 
 #include "PlaceOf.h"
+#include "framework/ADM_BitmapPictureWnd.h"
+#include "framework/ADM_ComboBox.h"
 #include "framework/ADM_DoubleGaugeText.h"
 #include "framework/ADM_GaugeControl.h"
 #include "framework/ADM_IntegerGaugeText.h"
 #include "framework/ADM_ListText.h"
+#include "framework/ADM_MetafileWnd.h"
 #include "framework/ADM_StaticText.h"
 #include "framework/ADM_SubClassWnd.h"
+#include "framework/ADM_TabbedDialog.h"
+#include "framework/ADM_Window_Position.h"
 #include "widgets/Spinner.h"
 
 namespace {
@@ -53,6 +58,48 @@ TEST(WndOrder, GaugesAddEleven) {
     EXPECT_TRUE(StandInOrder(&ADM_Wnd::Enable, &G::SetRange, &G::SetPos, &G::GetRange, &G::GetPos,
                              &G::PressPageDown, &G::PressPageUp, &G::PressLineDown, &G::PressLineUp,
                              &G::ReleaseButtons, &G::SetBuddy, &G::GetNotifyTarget));
+}
+
+TEST(WndOrder, DialogsAddTwenty) {
+    using D = ADM_Dialog;
+    // The other forms of these two store what to open and are not virtual.
+    INT_PTR (D::*const pDoModal)() = &D::DoModal;
+    BOOL (D::*const pCreateModeless)() = &D::CreateModeless;
+    EXPECT_TRUE(StandInOrder(
+        &ADM_Wnd::Enable, &D::IsDialogObject, pDoModal, pCreateModeless, &D::DialogProc,
+        &D::UpdateControls, &D::OnInitDialog, &D::OnDestroy, &D::OnClose, &D::PreTranslateMessage,
+        &D::OnMeasureItem, &D::OnOK, &D::OnCancel, &D::OnHelpButton, &D::EndDialogWith, &D::OnApply,
+        &D::OnAutoApply, &D::OnAppCommand, &D::ReadControls, &D::OnHelp, &D::OnTimer));
+}
+
+TEST(WndOrder, PagesAddTheirShowingAndLeaving) {
+    EXPECT_TRUE(StandInOrder(&ADM_Dialog::OnTimer, &ADM_TabSubDialog::OnPageShow,
+                             &ADM_TabSubDialog::CanLeavePage));
+}
+
+TEST(WndOrder, TabbedDialogsAddFive) {
+    using T = ADM_TabbedDialog;
+    EXPECT_TRUE(StandInOrder(&ADM_Dialog::OnTimer, &T::ValidatePages, &T::SelectPage,
+                             &T::OnPageSelected, &T::OnPageLeft, &T::ValidateAll));
+}
+
+TEST(WndOrder, PicturesAddFifteenAndEachKindOneMore) {
+    using P = ADM_PictureWnd;
+    EXPECT_TRUE(StandInOrder(&ADM_Wnd::Enable, &P::RegisterClass, &P::UnregisterClass,
+                             &P::GetClassName, &P::Create, &P::OnNcCreate, &P::OnCreate, &P::OnSize,
+                             &P::OnSetText, &P::SetFont, &P::GetFont, &P::OnPaint, &P::Draw,
+                             &P::OnNcDestroy, &P::DefaultProc, &P::ReplaceTemplateItem));
+    EXPECT_TRUE(StandInOrder(&P::ReplaceTemplateItem, &ADM_BitmapPictureWnd::DrawOverlay));
+    EXPECT_TRUE(StandInOrder(&P::ReplaceTemplateItem, &ADM_MetafileWnd::LoadMetafile));
+}
+
+TEST(WndOrder, CombosAddTheirListChange) {
+    EXPECT_TRUE(StandInOrder(&ADM_Wnd::Enable, &ADM_ComboBox::OnListChanged));
+}
+
+TEST(WndOrder, PositionMemoriesRestoreAndThenSaveInFrontOfTheirDestructor) {
+    EXPECT_TRUE(StandInOrder(&ADM_Window_Position::Restore, &ADM_Window_Position::Save));
+    EXPECT_EQ(framework_test::PlaceOf(&ADM_Window_Position::Restore), 0);
 }
 
 TEST(WndOrder, SpinnerWindowsHaveSevenBehindTheirDestructor) {

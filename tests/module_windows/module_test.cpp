@@ -64,6 +64,25 @@ TEST(Module, ExportsItsFunctionsUndecoratedAndItsClassesForBothCompilers) {
 #undef EXPECT_EXPORT
 }
 
+TEST(Module, ExportedTablesAreThoseThatTheConstructorsStore) {
+    const LoadedModule module(kModule);
+    ASSERT_NE(module.Get(), nullptr);
+    for (const std::string sClass : {"ZXADLG_CDlgDataSource", "ZXADLG_CDlgFileSource"}) {
+        SCOPED_TRACE(sClass);
+        const std::string z = "_ZN" + std::to_string(sClass.size()) + sClass;
+        auto* pConstruct = module.Function<void* __thiscall(void**)>((z + "C1Ev").c_str());
+        auto* pTable = module.Function<void>(("??_7" + sClass + "@@6B@").c_str());
+        ASSERT_NE(pConstruct, nullptr);
+        void* pObject = nullptr;
+        EXPECT_EQ(pConstruct(&pObject), &pObject);
+        ASSERT_NE(pObject, nullptr);
+        EXPECT_EQ(reinterpret_cast<void*>(pTable), pObject);
+        // The word in front holds no type information.
+        EXPECT_EQ(static_cast<void**>(pObject)[-1], nullptr);
+        EXPECT_NE(static_cast<void**>(pObject)[0], nullptr);
+    }
+}
+
 // Names of the modules that an image imports from, in capitals.
 std::set<std::string> ImportsOf(HMODULE hModule) {
     const auto* base = reinterpret_cast<const BYTE*>(hModule);

@@ -1,4 +1,6 @@
 // The edit control: what it tells of changes, selection, limit, undo, keys, mouse and lines.
+#include <vector>
+
 #include "edit_fixture.h"
 
 namespace {
@@ -314,6 +316,40 @@ TEST_F(EditTest, ControlArrowsMoveByWords) {
     }
 }
 
+TEST_F(EditTest, ANumberWithItsSignsIsOneWord) {
+    struct Row {
+        const char* text;
+        std::vector<int> stops;  // of Ctrl+Right from the start
+    };
+    const Row rows[] = {
+        {"-12.5", {5}},
+        {"1e-3 x", {5, 6}},
+        {"1.5e-3,2,3", {10}},
+        {"1..5,18,25..40", {14}},
+        {"a-b", {2, 3}},
+        {"3 - 4", {2, 4, 5}},
+        {"a -1", {2, 4}},
+        {"10%", {3}},
+        {"one, two; (three)", {5, 10, 17}},
+        {"a , b", {4, 5}},
+        {"C:\\data\\my file-1.txt", {2, 7, 11, 21}},
+        {"/home/a.b/c-d", {1, 6, 10, 12, 13}},
+        {"a/b/5", {2, 5}},
+        {"{a}b", {3, 4}},
+        {"a|b!c", {2, 4, 5}},
+    };
+    MakeLine(ES_AUTOHSCROLL);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.text);
+        SetText(row.text);
+        Select(0, 0);
+        for (int stop : row.stops) {
+            Key(VK_RIGHT, false, true);
+            EXPECT_EQ(std::to_string(stop) + ".." + std::to_string(stop), Selection());
+        }
+    }
+}
+
 TEST_F(EditTest, ClickAndDragSelect) {
     HWND edit = MakeLine(ES_AUTOHSCROLL, "one two  three");
     Click(5);
@@ -327,6 +363,28 @@ TEST_F(EditTest, ClickAndDragSelect) {
     EXPECT_EQ(nullptr, GetCapture());
     Click(8, MK_SHIFT);
     EXPECT_EQ("1..8", Selection());
+}
+
+// A parent that selects the text when its field takes the focus: after a click all of it stays
+// selected, so that typing replaces it.
+TEST_F(EditTest, AClickThatBringsTheFocusLeavesTheSelectionToTheParent) {
+    MakeLine(ES_AUTOHSCROLL, "one two  three");
+    const HWND other =
+        m_window.Add("Edit", "", 77, WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 10, 150);
+    m_window.OnMessage([&](UINT message, WPARAM wParam, LPARAM, LRESULT*) {
+        if (message == WM_COMMAND && HIWORD(wParam) == EN_SETFOCUS)
+            SendMessageA(m_control, EM_SETSEL, 0, -1);
+        return false;
+    });
+    SetFocus(other);
+    Click(5);
+    EXPECT_EQ("0..14", Selection());
+    Type("7");
+    EXPECT_EQ("7", Text());
+    // With the focus there already a click sets the caret.
+    SetWindowTextA(m_control, "one two");
+    Click(2);
+    EXPECT_EQ("2..2", Selection());
 }
 
 TEST_F(EditTest, DoubleClickSelectsAWordWithTheSpacesAfterIt) {

@@ -262,6 +262,11 @@ TEST_F(StoreBatchTest, StoreThatCanNotBeWrittenIsToldOfAndStays) {
     }
     StoreBatch folder(m_scratch.Folder().c_str());
     EXPECT_FALSE(WriteString("Section", "Key", "1", m_scratch.Folder().c_str()));
+    EXPECT_FALSE(folder.Commit());
+    EXPECT_TRUE(folder.Commit()) << "told once";
+    // What is not there to be deleted is no failed write.
+    EXPECT_FALSE(WriteString("Section", "Key", nullptr, m_scratch.Folder().c_str()));
+    EXPECT_TRUE(folder.Commit());
 }
 
 TEST_F(StoreBatchTest, ReadOnlyFileStaysAsItIs) {

@@ -1,6 +1,7 @@
 // Texts of the store, its addresses, and what it does when a store can't be used.
 #include <cstring>
 
+#include "store/StoreBatch.h"
 #include "store_test.h"
 
 namespace {
@@ -89,6 +90,32 @@ TEST_F(StoreTest, NullValueDeletesTheKeyAndNullKeyTheSection) {
         EXPECT_EQ(Text("Section", "Two", szApp), "(missing)");
         EXPECT_EQ(Text("Other", "Three", szApp), "3");
     });
+}
+
+TEST_F(StoreTest, DeletingAndFlushingLeaveNoKeyBehind) {
+    SetUseProfileFile(false);
+    const auto exists = [](const char* szSection) {
+        const HKEY hKey =
+            szSection == nullptr ? OpenApp("App", false) : OpenSection(szSection, "App", false);
+        if (hKey != nullptr) RegCloseKey(hKey);
+        return hKey != nullptr;
+    };
+    EXPECT_FALSE(WriteString("Section", "Key", nullptr, "App"));
+    EXPECT_FALSE(WriteString("Section", nullptr, nullptr, "App"));
+    EXPECT_FALSE(Flush("App"));
+    {
+        const StoreBatch batch("App");
+        EXPECT_FALSE(WriteString("Section", "Key", nullptr, "App"));
+        EXPECT_FALSE(WriteString("Section", nullptr, nullptr, "App"));
+    }
+    EXPECT_FALSE(exists(nullptr));
+    WriteString("Other", "Key", "1", "App");
+    EXPECT_FALSE(WriteString("Section", "Key", nullptr, "App"));
+    EXPECT_FALSE(WriteString("Other", "None", nullptr, "App"));
+    EXPECT_FALSE(exists("Section"));
+    EXPECT_TRUE(exists("Other"));
+    EXPECT_TRUE(WriteString("Other", "Key", nullptr, "App"));
+    EXPECT_EQ(Text("Other", "Key", "App"), "(missing)");
 }
 
 TEST_F(StoreTest, NullAddressesFindNothingAndWriteNothing) {

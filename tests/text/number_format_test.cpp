@@ -106,9 +106,14 @@ TEST(FormatDouble, RoundsAFirstDigitJustBehindTheLastDecimal) {
     EXPECT_EQ(Fixed(0.96, 1), "1.0");
 }
 
-TEST(FormatDouble, NegativeValuesKeepTheirSignWhenRoundedToZero) {
-    EXPECT_EQ(Fixed(-0.04, 1), "-0.0");
-    EXPECT_EQ(Significant(-0.0, 6), "-0");
+TEST(FormatDouble, ZeroHasNoSign) {
+    EXPECT_EQ(Fixed(-0.04, 1), "0.0");
+    EXPECT_EQ(Fixed(-0.04, 2), "-0.04");
+    EXPECT_EQ(Fixed(-0.0, 0), "0");
+    EXPECT_EQ(Fixed(-0.0, 3), "0.000");
+    EXPECT_EQ(Fixed(-0.4, 0), "0");
+    EXPECT_EQ(Significant(-0.0, 6), "0");
+    EXPECT_EQ(Significant(-1e-300, 6), "-1e-300");
 }
 
 TEST(FormatDouble, WorkBufferHoldsThirtyOneCharacters) {

@@ -292,6 +292,15 @@ TEST(MessageByKey, ShowsTheOneThatIsGiven) {
               1u);
 }
 
+TEST(MessageByKey, AnUnknownIdShowsNothing) {
+    const OwnerWindow owner;
+    const LPCSTR szUnknown = MAKEINTRESOURCEA(64999);
+    EXPECT_EQ(ShowMessageByKey(owner.Get(), nullptr, szUnknown, MB_OK), 0u);
+    EXPECT_EQ(ShowMessageByKey(owner.Get(), szUnknown, nullptr, MB_OK), 0u);
+    EXPECT_EQ(ShowMessageByKey(owner.Get(), "second", szUnknown, MB_OK), 0u);
+    EXPECT_EQ(ShowMessageByKey(owner.Get(), szUnknown, "first", MB_OK), 0u);
+}
+
 constexpr char kUnexpectedError[] =
     "An unexpected error has occurred.\r\n\r\nWe recommend that you exit the application and try "
     "again.  If "

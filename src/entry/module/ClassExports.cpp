@@ -104,6 +104,23 @@ const void* const ZxFileSourceTable[1 + kFileSourcePlaces] = {
 
 #undef ZX_AT
 
+// The exported name of a table stands for its first operation, behind the null word: that is the
+// address which an object holds and which a compiler stores by itself when it knows the table.
+#define ZX_TEXT_OF(value) #value
+#define ZX_TEXT(value) ZX_TEXT_OF(value)
+#define ZX_NAME_OPERATIONS(operations, table)                    \
+    __asm__(".globl " ZX_TEXT(__USER_LABEL_PREFIX__) #operations \
+            "\n"                                                 \
+            ".set " ZX_TEXT(__USER_LABEL_PREFIX__) #operations   \
+            ", " ZX_TEXT(__USER_LABEL_PREFIX__) #table " + " ZX_TEXT(__SIZEOF_POINTER__) "\n")
+
+ZX_NAME_OPERATIONS(ZxDataSourceOperations, ZxDataSourceTable);
+ZX_NAME_OPERATIONS(ZxFileSourceOperations, ZxFileSourceTable);
+
+#undef ZX_NAME_OPERATIONS
+#undef ZX_TEXT
+#undef ZX_TEXT_OF
+
 Object* __thiscall ZxDataSourceConstruct(Object* self) {
     self->table = ZxDataSourceTable + 1;
     return self;

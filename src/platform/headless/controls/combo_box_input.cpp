@@ -6,9 +6,11 @@ namespace headless {
 
 void ComboBox::Focus() {
     if (m_focused) return;
+    // The parent hears of it first: when it moves the focus on at once, that is told no further.
+    Notify(CBN_SETFOCUS);
+    if (m_hwnd == nullptr) return;
     m_focused = true;
     Repaint();
-    Notify(CBN_SETFOCUS);
 }
 
 // Leaving ends the choice, whether the list was open or not.

@@ -89,7 +89,6 @@ class Edit : public ControlObject<Edit> {
     size_t Backward(size_t index) const;
     size_t WordForward(size_t index) const;
     size_t WordBackward(size_t index) const;
-    bool IsWordStart(size_t index) const;
     void MoveByLines(int lines, bool extend);
     void MoveEnd(bool extend, bool all);
     void OnDelete(bool shift, bool control);

@@ -2,6 +2,7 @@
 
 #include "platform/headless/controls/combo_messages.h"
 #include "platform/headless/controls/edit.h"
+#include "platform/headless/controls/word_breaks.h"
 
 namespace headless {
 namespace {
@@ -11,10 +12,6 @@ constexpr char kControlV = 0x16;
 constexpr char kControlX = 0x18;
 constexpr char kControlZ = 0x1A;
 constexpr char kDelete = 0x7F;
-
-bool IsSpace(char c) {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
 
 }  // namespace
 
@@ -182,12 +179,6 @@ size_t Edit::Backward(size_t index) const {
     return above.wrapped ? index - 1 : above.start + above.length;
 }
 
-bool Edit::IsWordStart(size_t index) const {
-    if (index == 0 || index >= m_text.size()) return true;
-    const char before = m_text[index - 1];
-    return !IsSpace(m_text[index]) && (IsSpace(before) || before == '-');
-}
-
 // Words end at the end of their line; the end itself is one step.
 size_t Edit::WordForward(size_t index) const {
     const Line& line = m_lines[LineOf(index)];
@@ -195,7 +186,7 @@ size_t Edit::WordForward(size_t index) const {
     if (index >= end) return Forward(index);
     do {
         ++index;
-    } while (index < end && !IsWordStart(index));
+    } while (index < end && !IsWordStart(m_text, index));
     return index;
 }
 
@@ -204,7 +195,7 @@ size_t Edit::WordBackward(size_t index) const {
     if (index == start) return Backward(index);
     do {
         --index;
-    } while (index > start && !IsWordStart(index));
+    } while (index > start && !IsWordStart(m_text, index));
     return index;
 }
 
@@ -247,15 +238,17 @@ void Edit::OnDelete(bool shift, bool control) {
 }
 
 void Edit::OnButtonDown(POINT point, bool extend) {
-    if (GetFocus() != m_hwnd) SetFocus(m_hwnd);
     SetCapture(m_hwnd);
     m_dragging = true;
     MoveTo(IndexFromPoint(point, nullptr), extend);
+    // The focus comes last: who selects the text then has the last word.
+    if (GetFocus() != m_hwnd) SetFocus(m_hwnd);
 }
 
 void Edit::OnDoubleClick(POINT point) {
     const size_t index = IndexFromPoint(point, nullptr);
-    const size_t start = IsWordStart(index) && index < m_text.size() ? index : WordBackward(index);
+    const size_t start =
+        IsWordStart(m_text, index) && index < m_text.size() ? index : WordBackward(index);
     Select(start, WordForward(start));
     ScrollToCaret();
 }

@@ -16,6 +16,7 @@
 #include "platform/headless/system/module_table.h"
 #include "zxadlg/headless/diagnostics.h"
 #include "zxadlg/headless/functions.h"
+#include "platform/headless/system/system_modules.h"
 
 namespace headless {
 
@@ -250,6 +251,7 @@ HMODULE GetModuleHandleA(LPCSTR name) {
         const std::string own = Stem(module.path);
         if (own == stem || own == "lib" + stem) return HandleOf(&module);
     }
+    if (const HMODULE system = SystemModule(stem)) return system;
     SetLastError(ERROR_MOD_NOT_FOUND);
     return nullptr;
 }
@@ -349,6 +351,7 @@ BOOL FreeLibrary(HMODULE handle) {
 }
 
 FARPROC GetProcAddress(HMODULE handle, LPCSTR name) {
+    if (IsSystemModule(handle)) return SystemFunction(handle, name);
     std::lock_guard lock(Table().mutex);
     const Module* module = ModuleOf(handle);
     if (module == nullptr) {
