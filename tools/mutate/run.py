@@ -28,7 +28,7 @@ BIN = os.path.join(WORK, "bin")
 
 # The test programs that are asked about a folder, its own first.
 PROGRAMS = {
-    "text": ["text", "store", "widgets", "framework", "contract", "parser"],
+    "text": ["text", "store", "widgets", "framework", "contract"],
     "contract": ["contract", "entry", "analysis", "traceops"],
     "entry": ["entry", "traceops"],
     "analysis": ["analysis", "traceops", "entry"],
