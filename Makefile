@@ -1,5 +1,5 @@
 # Each target does all that it needs on a fresh machine; tools/setup.sh installs what is missing.
-.PHONY: demo test test-win64 bench fuzz format lint clean
+.PHONY: demo test test-win64 bench fuzz mutate format lint clean
 
 demo:
 	@tools/demo.sh
@@ -16,6 +16,10 @@ bench:
 # Minutes per fuzz target: make fuzz FUZZ_SECONDS=600
 fuzz:
 	@tools/fuzz.sh $(FUZZ_SECONDS)
+
+# Changes of the code that no test notices: make mutate FOLDERS="text contract"
+mutate:
+	@tools/mutate.sh $(FOLDERS)
 
 format:
 	@tools/lint.sh --format

@@ -104,6 +104,8 @@ class ADM_Dialog : public ADM_Wnd {
     // Takes a child that is being destroyed off the list.
     void ForgetControl(ADM_Wnd* pControl);
     ADM_Wnd* FindControl(HWND hWnd) const;
+    // The registered children in their order, bound or not.
+    const std::vector<ADM_Wnd*>& GetControls() const { return m_vControls; }
 
     // pPosition is not owned and may be null.
     void SetWindowPositionMemory(ADM_Window_Position* pPosition) { m_pPosition = pPosition; }

@@ -62,6 +62,9 @@ class ProfileScope {
         WriteString(sSection.c_str(), sKey.c_str(), sValue.c_str(), Name());
     }
 
+    // The whole file at once; before anything was read from it.
+    void Write(const std::string& sBytes) const { m_store.WriteFile(sBytes); }
+
   private:
     ScratchStore m_store;
     bool m_bOld;

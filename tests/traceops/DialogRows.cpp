@@ -1,0 +1,97 @@
+#include "DialogRows.h"
+
+#include <cstring>
+
+namespace traceops_test {
+namespace {
+
+using test_support::TestDataSource;
+
+class NoFiles : public ZXADLG_CDlgFileSource {
+  public:
+    virtual ~NoFiles() = default;
+    int32_t GetGroupCount() override { return 3; }
+    uint32_t GetFileHandle() override { return 1; }
+    const char* GetGroupName(uint32_t) override { return "IN"; }
+    const char* GetTitle(HWND__*, HWND__*, intptr_t) override { return nullptr; }
+    const char* BrowseForFile(HWND__*) override { return nullptr; }
+    void SelectFile(uint32_t) override {}
+};
+
+template <class Record>
+using TabbedShow = int32_t(ZXADLG_CALL*)(HWND__*, Record*, ZXADLG_DataOptions*,
+                                         ZXADLG_CDlgDataSource*, const ZXADLG_DlgParams*);
+
+template <class Record>
+DialogRow Row(const char* szName, TabbedShow<Record> pShow, bool bWritesDataDirectly = false) {
+    return {szName, sizeof(Record), bWritesDataDirectly, !bWritesDataDirectly, [pShow](Opening& o) {
+                return pShow(nullptr, reinterpret_cast<Record*>(o.options.data()), &o.data,
+                             &o.source, &o.params);
+            }};
+}
+
+}  // namespace
+
+Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
+    source.Region(8, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
+    source.Waveform(5, "Analog OUT #0");
+    data.eDataSet1SelectionMode = 3;
+    data.eDataGroup1SelectionMode = 1;
+    std::strcpy(data.szUnitarySelectionList1, "0..2");
+    params.bUseDataOptions = 1;
+    params.bShowGroupSelector = 1;
+    params.bShowDestination = 1;
+    params.bShowDynamicLink = 1;
+    params.bShowWriteRegionInfo = 1;
+}
+
+const std::vector<DialogRow>& Rows() {
+    static const std::vector<DialogRow> rows = {
+        Row("Normalize", &ZXADLG_ShowNormalizeDialog),
+        Row("Time Shift", &ZXADLG_ShowTimeShiftDialog),
+        Row("Force Values", &ZXADLG_ShowForceValuesDialog),
+        Row("Adjust Baseline", &ZXADLG_ShowAdjustBaselineDialog),
+        Row("Leak Subtraction", &ZXADLG_ShowLeakSubtractionDialog),
+        Row("Resistance", &ZXADLG_ShowResistanceDialog),
+        Row("Current/Voltage", &ZXADLG_ShowCurrentVoltageDialog, true),
+        Row("Trace vs. Trace", &ZXADLG_ShowTraceVsTraceDialog, true),
+        {"Data Reduction/Interpolation", sizeof(ZXADLG_ModifySampleRateOptions), false, false,
+         [](Opening& o) {
+             return ZXADLG_ShowModifySamplingRateDialog(
+                 nullptr, reinterpret_cast<ZXADLG_ModifySampleRateOptions*>(o.options.data()),
+                 &o.source, &o.params);
+         }},
+        {"Subtract Control", sizeof(ZXADLG_SubtractControlOptions), false, false,
+         [](Opening& o) {
+             NoFiles files;
+             return ZXADLG_ShowSubtractControlDialog(
+                 nullptr, reinterpret_cast<ZXADLG_SubtractControlOptions*>(o.options.data()),
+                 nullptr, &o.source, &files, &o.params);
+         }},
+    };
+    return rows;
+}
+
+const std::vector<SourceRow>& Sources() {
+    static const std::vector<SourceRow> rows = {
+        {"a data file", false, [](TestDataSource& s) { s.Kind(0); }},
+        {"other sets", false, [](TestDataSource& s) { s.Kind(1); }},
+        {"a sheet", false, [](TestDataSource& s) { s.Kind(2); }},
+        {"null texts", true, [](TestDataSource& s) { s.NullTexts().NullArrays(); }},
+        {"no data", true,
+         [](TestDataSource& s) {
+             s.Groups({});
+             s.regions.clear();
+             s.waveforms.clear();
+         }},
+        {"no points, no waveform", true,
+         [](TestDataSource& s) {
+             s.Points(0);
+             s.waveforms.clear();
+             s.samplingFrequency = 0.0;
+         }},
+    };
+    return rows;
+}
+
+}  // namespace traceops_test

@@ -1,0 +1,46 @@
+// Every exported dialog as a row, so that a promise that holds for all of them is tested once: the
+// tabbed ones and the single pages alike.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "ZXADLG.h"
+#include "fixtures/TestDataSource.h"
+
+namespace traceops_test {
+
+struct Opening;
+
+struct DialogRow {
+    const char* szName;
+    std::size_t nSize;         // of its option record
+    bool bWritesDataDirectly;  // the host's data record itself, also on Cancel
+    bool bHasDataTab;
+    std::function<int(Opening&)> show;
+};
+
+// What one opening works on: the bytes of the option record, the data record, the host. Two regions
+// and a waveform, a selection of three sets, every optional control shown.
+struct Opening {
+    explicit Opening(const DialogRow& dialog);
+
+    std::vector<unsigned char> options;
+    ZXADLG_DataOptions data = {};
+    test_support::TestDataSource source;
+    ZXADLG_DlgParams params = {};
+};
+
+const std::vector<DialogRow>& Rows();
+
+// The hosts that a dialog meets.
+struct SourceRow {
+    const char* szName;
+    bool bHostile;
+    void (*build)(test_support::TestDataSource&);
+};
+
+const std::vector<SourceRow>& Sources();
+
+}  // namespace traceops_test
