@@ -43,6 +43,8 @@ void FillField(const OptionKey& key, unsigned char* pField, unsigned uNumber) {
             std::memcpy(pField, &d, sizeof d);
             return;
         }
+        case OptionType::kBytes:
+            FAIL() << "bytes are never kept";
         case OptionType::kText: {
             const std::string sText = "text " + std::to_string(uNumber);
             std::memcpy(pField, sText.c_str(), sText.size() + 1);
@@ -91,7 +93,9 @@ TEST(OptionRoundTrip, EveryKeyOfEveryTableComesBack) {
         for (const OptionBlock& block : row.pSection->blocks) {
             for (std::uint32_t i = 0; i < block.uRepeat; ++i) {
                 for (const OptionKey& key : block.keys) {
-                    if (key.eUse == OptionUse::kLoadOnly) continue;
+                    if (key.eUse == OptionUse::kLoadOnly || key.eUse == OptionUse::kNotKept) {
+                        continue;
+                    }
                     FillField(key, vFirst.data() + key.uOffset + i * key.uStride, uNumber++);
                 }
             }

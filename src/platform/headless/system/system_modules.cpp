@@ -1,8 +1,9 @@
 #include "platform/headless/system/system_modules.h"
 
 #include "platform/headless/drawing/display_state.h"
-#include "zxadlg/headless/functions.h"
+#include "platform/headless/system/codepage.h"
 #include "platform/headless/window/window_class.h"
+#include "zxadlg/headless/functions.h"
 
 namespace headless {
 
