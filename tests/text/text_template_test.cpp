@@ -1,8 +1,8 @@
-#include "text/TextTemplate.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
+
+#include "text/TextTemplate.h"
 
 TEST(TextTemplate, EachNotationKnowsItsOwnPlaces) {
     const auto expand = [](std::string_view sTemplate, TemplatePlaces ePlaces) {

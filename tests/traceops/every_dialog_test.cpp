@@ -11,10 +11,10 @@
 #include "ZXADLG.h"
 #include "fixtures/HardLimit.h"
 #include "fixtures/LeakCheck.h"
-#include "framework/RandomUser.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/TestDataSource.h"
 #include "fixtures/TestWindows.h"
+#include "framework/RandomUser.h"
 #include "store/ProfileStore.h"
 
 namespace {
