@@ -15,7 +15,7 @@ import sys
 PUBLIC = "include/zxadlg/headless"
 EXPORTS = "src/platform/headless/exports.txt"
 OWN = "src/platform/headless/"
-FUNCTION = re.compile(r"^(?!#)[A-Za-z_][\w:<>,\s]*?[\s*&]([A-Za-z_]\w*)\(", re.M)
+FUNCTION = re.compile(r"^(?!#)[A-Za-z_][\w:<>,\s*&]*?[\s*&]([A-Za-z_]\w*)\(", re.M)
 
 
 def declared_functions():

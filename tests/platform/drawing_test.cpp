@@ -328,9 +328,9 @@ TEST_F(Drawing, TheFaceOfTheFontHasAName) {
                     CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, "Tahoma");
     const HGDIOBJ old = SelectObject(dc_, font);
     char face[32] = "";
-    EXPECT_EQ(7, GetTextFaceA(dc_, sizeof face, face));
+    EXPECT_EQ(6, GetTextFaceA(dc_, sizeof face, face));
     EXPECT_STREQ("Tahoma", face);
-    EXPECT_EQ(7, GetTextFaceA(dc_, 0, nullptr));
+    EXPECT_EQ(7, GetTextFaceA(dc_, 0, nullptr)) << "with the end";
     SelectObject(dc_, old);
     DeleteObject(font);
 }

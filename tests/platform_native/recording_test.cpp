@@ -368,4 +368,16 @@ TEST(LiveObjects, WindowContextsCountUntilReleased) {
     EXPECT_EQ(before, headless::TakeCensus().gdi.windowDcs);
 }
 
+TEST(Recording, TheFrameIsKeptApartFromTheInside) {
+    RecordingWindow window;
+    HWND edit = window.Add("Edit", "", 1, 0, 10, 10, 60, 20, WS_EX_CLIENTEDGE);
+    test_support::PumpMessages();
+    const auto& frame = headless::RecordedFrameOps(edit);
+    ASSERT_EQ(1u, frame.size());
+    EXPECT_EQ(DrawKind::kEdge, frame[0].kind);
+    EXPECT_EQ(static_cast<UINT>(EDGE_SUNKEN), frame[0].type);
+    EXPECT_EQ(60, frame[0].rect.right);
+    for (const DrawOp& op : RecordedOps(edit)) EXPECT_NE(DrawKind::kEdge, op.kind);
+}
+
 }  // namespace

@@ -99,6 +99,7 @@ BOOL GetTextExtentPoint32A(HDC handle, LPCSTR text, int length, SIZE* size) {
     return TRUE;
 }
 
+// The length counts the end where it is asked for, and not where the name is copied.
 int GetTextFaceA(HDC handle, int size, LPSTR buffer) {
     const Lock lock;
     const DeviceContext* dc = FindDc(handle);
@@ -113,7 +114,7 @@ int GetTextFaceA(HDC handle, int size, LPSTR buffer) {
     const int count = std::min(size, needed);
     std::memcpy(buffer, face.c_str(), static_cast<std::size_t>(count - 1));
     buffer[count - 1] = '\0';
-    return count;
+    return count - 1;
 }
 
 BOOL TextOutA(HDC dc, int x, int y, LPCSTR text, int length) {

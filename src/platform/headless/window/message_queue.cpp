@@ -236,7 +236,8 @@ WaitEnd WaitForWork(DWORD milliseconds) {
             AdvanceClock(static_cast<std::uint32_t>(*next - now));
             continue;
         }
-        if (!next && Alone()) {
+        // The last other thread may have posted before it ended: asked again once it is gone.
+        if (!next && Alone() && !HasWork(queue)) {
             ReportUnsupported("a wait for messages that nothing can end");
             if (++queue.hopelessWaits > kMostHopelessWaits) {
                 std::fputs("headless: the loop goes on waiting for messages that cannot come\n",
