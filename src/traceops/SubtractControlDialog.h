@@ -8,8 +8,8 @@
 #include "framework/ADM_Button.h"
 #include "framework/ADM_Dialog.h"
 #include "framework/ADM_DoubleText.h"
+#include "framework/ADM_PathText.h"
 #include "framework/ADM_StaticText.h"
-#include "framework/ADM_Text.h"
 #include "zxadlg/DlgParams.h"
 #include "zxadlg/SubtractControlOptions.h"
 
@@ -69,7 +69,7 @@ class CSubtractControlDialog : public ADM_Dialog {
 
     ADM_StaticText m_grpControl;
     ADM_Button m_btnFile;
-    ADM_Text m_txtPath;
+    ADM_PathText m_txtPath;
     CZxDlgGroupListBox m_lstSignals;
     ADM_Button m_btnAll;
     ADM_Button m_chkMultiplier;
