@@ -42,7 +42,7 @@ enum {
     ZXADLG_OK = 1,              // accepted; the records were copied back unless bReadOnly is set
     ZXADLG_CANCEL = 2,          // cancelled, closed, or the dialog gave up during its set-up
     ZXADLG_NO_TEMPLATE = 0,     // no instance handle or no template
-    ZXADLG_CREATE_FAILED = -1,  // the platform could not create the dialog
+    ZXADLG_CREATE_FAILED = -1,  // the dialog could not be created, or failed while it ran
 };
 
 // Selects points of a set. Passed by pointer; valid during the call.

@@ -15,9 +15,21 @@ namespace {
 constexpr UINT_PTR kAutoApplyTimer = 1;
 constexpr UINT kAutoApplyPeriod = 500;  // ms
 
-BOOL CALLBACK CollectWindow(HWND hWnd, LPARAM lParam) {
+struct Item {
+    HWND hWnd;
+    int nId;
+};
+
+struct Items {
+    HWND hDialog;
+    std::vector<Item> items;
+};
+
+BOOL CALLBACK CollectItem(HWND hWnd, LPARAM lParam) {
     return CommonCtls::CallGuarded<BOOL>(hWnd, FALSE, [=] {
-        reinterpret_cast<std::vector<HWND>*>(lParam)->push_back(hWnd);
+        auto& found = *reinterpret_cast<Items*>(lParam);
+        // A part of an item, as the edit of a combo box, is none of the dialog's.
+        if (::GetParent(hWnd) == found.hDialog) found.items.push_back({hWnd, GetDlgCtrlID(hWnd)});
         return TRUE;
     });
 }
@@ -228,13 +240,12 @@ ADM_Wnd* ADM_Dialog::FindControl(HWND hWnd) const {
 
 void ADM_Dialog::BindControls() {
     // One walk over the items in the place of a search for each child.
-    std::vector<HWND> items;
-    EnumChildWindows(m_hWnd, CollectWindow, reinterpret_cast<LPARAM>(&items));
-    const auto itemWithId = [&items, this](int nId) {
-        const auto it = std::find_if(items.begin(), items.end(), [nId, this](HWND hItem) {
-            return GetDlgCtrlID(hItem) == nId && ::GetParent(hItem) == m_hWnd;
-        });
-        return it != items.end() ? *it : nullptr;
+    Items found = {m_hWnd, {}};
+    EnumChildWindows(m_hWnd, CollectItem, reinterpret_cast<LPARAM>(&found));
+    const auto itemWithId = [&found](int nId) {
+        const auto it = std::find_if(found.items.begin(), found.items.end(),
+                                     [nId](const Item& item) { return item.nId == nId; });
+        return it != found.items.end() ? it->hWnd : nullptr;
     };
     // By index: a child may register another one when it is attached.
     for (std::size_t i = 0; i < m_vControls.size(); ++i) {

@@ -50,6 +50,12 @@ class FloatingRules {
         CopyText(szNumber, v.m_sText);
         Value read = 0;
         if (Parse(v, szNumber, read)) return;
+        // A record may hold what is no number: its form was not typed, and stays.
+        using Limits = std::numeric_limits<Value>;
+        for (const Value none : {Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity()}) {
+            Format(v, none, szNumber);
+            if (v.m_sText == szNumber) return;
+        }
         Format(v, v.*T::pValue, szNumber);
         v.m_sText = szNumber;
     }

@@ -5,6 +5,7 @@
 
 #include "analysis/CUntabbedDialogBase.h"
 #include "framework/ADM_DoubleText.h"
+#include "framework/ADM_PathText.h"
 #include "framework/ADM_StaticText.h"
 #include "zxadlg/SubtractControlOptions.h"
 
@@ -30,7 +31,7 @@ class CSubtractControlDialog : public CRecordPage<ZXADLG_SubtractControlOptions,
     ZXADLG_CDlgFileSource* m_pFileSource;
     ADM_StaticText m_grpControl;
     ADM_Button m_btnFile, m_btnAll, m_chkMultiplier, m_chkFirstOnly;
-    ADM_Text m_txtPath;
+    ADM_PathText m_txtPath;
     CZxDlgGroupListBox m_lstSignals;
     ADM_DoubleText m_txtMultiplier;
 };

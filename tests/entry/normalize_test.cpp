@@ -142,6 +142,52 @@ TEST_F(Normalize, AFailureInTheRunningDialogEndsItAndTheHostGoesOn) {
               1);
 }
 
+TEST_F(Normalize, OpensWhereItWasLeftAlsoAfterCancelAndStoresNoPlace) {
+    const ScratchStore store;
+    source.Profile(store.ProfileFile());
+    const bool old = SetUseProfileFile(true);
+    const auto move = [](int x, int y) {
+        return [x, y](HWND dialog) {
+            SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        };
+    };
+    const auto expectAt = [](int x, int y) {
+        return [x, y](HWND dialog) {
+            RECT rc = {};
+            GetWindowRect(dialog, &rc);
+            EXPECT_EQ(rc.left, x);
+            EXPECT_EQ(rc.top, y);
+        };
+    };
+    DialogScript first, second, third;
+    first.Do(move(61, 43)).Click(IDCANCEL);
+    EXPECT_EQ(Show(first), 2);
+    second.Do(expectAt(61, 43)).Do(move(17, 29)).Click(IDOK);
+    EXPECT_EQ(Show(second), 1);
+    third.Do(expectAt(17, 29)).Click(IDCANCEL);
+    EXPECT_EQ(Show(third), 2);
+    char text[8];
+    for (const char* key : {"Initialized", "XPosition", "YPosition"}) {
+        EXPECT_FALSE(ReadString("NormalizeSection", key, "", text, sizeof text,
+                                store.ProfileFile().c_str()));
+    }
+    SetUseProfileFile(old);
+    // Another dialog has a place of its own.
+    ZXADLG_TimeShiftOptions shift = {};
+    DialogScript other;
+    other
+        .Do([](HWND dialog) {
+            RECT rc = {};
+            GetWindowRect(dialog, &rc);
+            EXPECT_NE(rc.left, 17);
+        })
+        .Click(IDCANCEL);
+    EXPECT_EQ(other.Run([&] {
+        return ZXADLG_ShowTimeShiftDialog(nullptr, &shift, &data, &source, &params);
+    }),
+              2);
+}
+
 TEST_F(Normalize, CancelLeavesTheRecordsAndTheStoreAsTheyWere) {
     const ScratchStore store;
     source.Profile(store.ProfileFile());

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -515,6 +516,22 @@ TYPED_TEST(TextFormat, AnUnparsableTextIsRewrittenInTheDisplayFormOutOfRangeToo)
     host.FocusNowhere();
     EXPECT_EQ(TextOf(hWnd), "50.13");
     EXPECT_EQ(field.Validate(1, nullptr), 0);
+}
+
+TYPED_TEST(TextFormat, AValueThatIsNoNumberIsNotTakenForTyping) {
+    using Limits = std::numeric_limits<typename TypeParam::Value>;
+    ControlHost host;
+    TypeParam field;
+    const HWND hWnd = host.BindEdit(field);
+    for (const auto value : {Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity()}) {
+        SCOPED_TRACE(value);
+        field.SetValue(value);
+        const std::string sShown = TextOf(hWnd);
+        EXPECT_NE(sShown, "0");
+        field.SetFocus();
+        host.FocusNowhere();
+        EXPECT_EQ(TextOf(hWnd), sShown);
+    }
 }
 
 TYPED_TEST(TextFormat, ZeroIsShownWithNoSign) {

@@ -490,6 +490,21 @@ TEST_F(DialogWalks, NextGroupItem) {
     EXPECT_EQ(kE, NextGroup(IDOK, false));
 }
 
+TEST_F(DialogWalks, AGroupGoesRoundTheEndOfTheDialog) {
+    DialogTemplate shape("Walk", 200, 100);
+    shape.Radio("A", kA, 5, 5)
+        .Radio("B", kB, 5, 15, WS_GROUP | WS_TABSTOP)
+        .Radio("C", kC, 5, 25)
+        .Radio("D", kD, 5, 35);
+    Build(shape);
+    EXPECT_EQ(kA, NextGroup(kD, false));
+    EXPECT_EQ(kB, NextGroup(kA, false));
+    EXPECT_EQ(kA, NextGroup(kB, true));
+    EXPECT_EQ(kD, NextGroup(kA, true));
+    EXPECT_EQ(kA, NextGroup(0, false));
+    EXPECT_EQ(nullptr, GetNextDlgGroupItem(handle_, nullptr, TRUE));
+}
+
 // Pages are children of the dialog that lie over the tab control and carry WS_EX_CONTROLPARENT.
 class DialogPages : public testing::Test {
   protected:
@@ -513,6 +528,19 @@ class DialogPages : public testing::Test {
     TestDialog dialog_, pageDialog_;
     HWND handle_ = nullptr, page_ = nullptr;
 };
+
+TEST_F(DialogPages, GroupsGoAcrossPages) {
+    const auto next = [this](HWND from, BOOL previous) {
+        return GetDlgCtrlID(GetNextDlgGroupItem(handle_, from, previous));
+    };
+    // No control of either begins a group: all of them are one.
+    EXPECT_EQ(kB, next(GetDlgItem(handle_, kA), FALSE));
+    EXPECT_EQ(kC, next(GetDlgItem(page_, kB), FALSE));
+    EXPECT_EQ(IDOK, next(GetDlgItem(page_, kD), FALSE));
+    EXPECT_EQ(kA, next(GetDlgItem(page_, kB), TRUE));
+    ShowWindow(page_, SW_HIDE);
+    EXPECT_EQ(IDOK, next(GetDlgItem(handle_, kA), FALSE));
+}
 
 TEST_F(DialogPages, TabWalksThroughThePage) {
     DialogScript script;

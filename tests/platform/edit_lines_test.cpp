@@ -93,6 +93,43 @@ TEST_F(EditTest, LineKeysInSeveralLines) {
     EXPECT_EQ("0..0", Selection());
 }
 
+TEST_F(EditTest, UpAndDownAtTheEdgesEndASelection) {
+    MakeLines();
+    SetText("same line\r\nsame line");
+    Select(2, 5);
+    Key(VK_UP);
+    EXPECT_EQ("5..5", Selection());
+    Select(13, 16);
+    Key(VK_DOWN);
+    EXPECT_EQ("16..16", Selection());
+    Select(13, 16);
+    Key(VK_DOWN, true);
+    EXPECT_EQ("13..16", Selection());
+}
+
+TEST_F(EditTest, ALongTextThatItIsMadeWithStartsAtItsBeginning) {
+    std::string text(300, 'w');
+    text += "\r\nend";
+    Make("Edit", ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL, 150, 84, text.c_str());
+    EXPECT_EQ(0, Send(EM_GETFIRSTVISIBLELINE));
+    const auto x = static_cast<SHORT>(LOWORD(Send(EM_POSFROMCHAR, 0)));
+    EXPECT_GE(x, 0);
+    EXPECT_LT(x, 20);
+    EXPECT_EQ("0..0", Selection());
+}
+
+TEST_F(EditTest, LinesThatDoNotFitAreRefusedWhole) {
+    MakeLines(ES_AUTOHSCROLL, 150, 40);
+    SetText("one");
+    Select(1, 1);
+    SendText(EM_REPLACESEL, TRUE, "a\r\nb\r\nc\r\nd\r\ne\r\nf");
+    EXPECT_EQ("one", Text());
+    EXPECT_EQ("1..1", Selection());
+    EXPECT_EQ("EN_MAXTEXT EN_UPDATE EN_CHANGE", Events());
+    SendText(EM_REPLACESEL, TRUE, "x");
+    EXPECT_EQ("oxne", Text());
+}
+
 TEST_F(EditTest, ControlArrowsStopAtLineEnds) {
     MakeLines();
     SetText("one two\r\nsix");

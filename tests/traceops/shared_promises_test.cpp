@@ -418,7 +418,9 @@ TYPED_TEST(TraceDialogs, NullArgumentsOpenNothing) {
     EXPECT_EQ(TypeParam::kShow(nullptr, &this->options, &this->data, &this->source, nullptr), -1);
 }
 
-TYPED_TEST(TraceDialogs, NoDataRecordIsNoHindrance) {
+TYPED_TEST(TraceDialogs, ANullDataRecordIsRefusedOnlyWhereItTakesPart) {
+    EXPECT_EQ(TypeParam::kShow(nullptr, &this->options, nullptr, &this->source, &this->params), -1);
+    this->params.bUseDataOptions = 0;
     DialogScript script;
     TypeParam::Edit(script);
     script.Click(IDOK);

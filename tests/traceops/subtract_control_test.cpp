@@ -142,6 +142,18 @@ TEST_F(SubtractControl, CancellingTheBrowseLeavesFilePathAndListAsTheyWere) {
     EXPECT_STREQ(options.szSubtractFileName, "leak.dat");
 }
 
+TEST_F(SubtractControl, ALongPathIsShortenedInItsMiddle) {
+    const std::string path =
+        "C:\\data" + std::string(40, 'd') + "\\cells" + std::string(40, 'c') + "\\2026\\leak.dat";
+    files.path = path.c_str();
+    DialogScript script;
+    script.Click(IDC_SUBTRACT_SELECT_FILE)
+        .ExpectText(IDC_SUBTRACT_PATH, "C:\\...\\2026\\leak.dat")
+        .Click(IDOK);
+    EXPECT_EQ(Show(script), 1);
+    EXPECT_EQ(options.szSubtractFileName, path);
+}
+
 TEST_F(SubtractControl, AChosenFileIsShownStoredAndSelected) {
     const std::string longPath(600, 'p');
     files.path = longPath.c_str();

@@ -272,6 +272,22 @@ TEST(MessageText, BytesAbove127AreShownAsTheyAre) {
               1u);
 }
 
+// As when a dialog has something to say before it shows.
+TEST(MessageDialog, BeforeItsOwnerShowsItIsCentredOnTheWindowBehind) {
+    const OwnerWindow owner;
+    SetWindowPos(owner.Get(), nullptr, 40, 30, 420, 340, SWP_NOZORDER | SWP_NOACTIVATE);
+    const HWND hidden = CreateWindowExA(0, "STATIC", "", WS_POPUP, 600, 500, 50, 50, owner.Get(),
+                                        nullptr, GetModuleHandleA(nullptr), nullptr);
+    RECT rc = {};
+    DialogScript script;
+    script.Do([&](HWND dialog) { GetWindowRect(dialog, &rc); }).Press(VK_RETURN);
+    EXPECT_EQ(script.Run([&] { return ShowMessage(hidden, "text", MB_OK); }), 1u);
+    DestroyWindow(hidden);
+    // Halves are cut.
+    EXPECT_NEAR((rc.left + rc.right) / 2, 40 + 210, 1);
+    EXPECT_NEAR((rc.top + rc.bottom) / 2, 30 + 170, 1);
+}
+
 TEST(MessageByKey, JoinsBothTextsByAnEmptyLine) {
     const OwnerWindow owner;
     DialogScript script;
@@ -328,7 +344,7 @@ TEST(MessageTimeout, EndsTheBoxByItself) {
     const OwnerWindow owner;
     DialogScript script;
     script.WaitUntil([shown = 0]() mutable { return ++shown > 2; });
-    EXPECT_EQ(script.Run([&] { return ShowMessageTimed(owner.Get(), 200, "text", MB_OK); }),
+    EXPECT_EQ(script.Run([&] { return ShowMessageTimed(owner.Get(), 1000, "text", MB_OK); }),
               0xFFFCu);
 }
 

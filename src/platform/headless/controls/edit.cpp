@@ -301,6 +301,7 @@ LRESULT Edit::OnCreate(const CREATESTRUCTA& create) {
         m_modified = false;
         m_firstChar = 0;
         m_firstLine = 0;
+        m_leftOffset = 0;
     }
     return 0;
 }

@@ -44,6 +44,7 @@ class Edit : public ControlObject<Edit> {
     void SetText(const char* text);
     void Replace(std::string_view text, bool canUndo, bool honourLimit, bool notify);
     size_t FittingLength(std::string_view text, size_t start, size_t end) const;
+    bool FitsLines(std::string_view text, size_t start, size_t end) const;
     void RememberDeletion(size_t start, std::string_view deleted);
     void RememberInsertion(size_t start, size_t length);
     void ForgetUndo();

@@ -202,8 +202,8 @@ size_t Edit::WordBackward(size_t index) const {
 void Edit::MoveByLines(int lines, bool extend) {
     const int last = static_cast<int>(m_lines.size()) - 1;
     const int from = static_cast<int>(CaretLine());
+    // At the edge the caret stays, and a selection ends there.
     const int to = std::clamp(from + lines, 0, last);
-    if (to == from) return;
     const int x = CaretPoint().x;
     const Line& line = m_lines[static_cast<size_t>(to)];
     size_t index = IndexInLine(ControlDc(m_hwnd, m_font), line, x);

@@ -35,7 +35,7 @@ void Edit::SetText(const char* text) {
 // left.
 void Edit::Replace(std::string_view given, bool canUndo, bool honourLimit, bool notify) {
     const size_t start = SelectionStart();
-    const size_t end = SelectionEnd();
+    size_t end = SelectionEnd();
     if (start == end && given.empty()) return;
     std::string text = WithCase(given);
     bool cut = false;
@@ -43,6 +43,12 @@ void Edit::Replace(std::string_view given, bool canUndo, bool honourLimit, bool 
         const size_t fitting = FittingLength(text, start, end);
         cut = fitting < text.size();
         text.resize(fitting);
+        // Lines that cannot be shown are refused whole, and what was selected stays.
+        if (IsMultiLine() && !FitsLines(text, start, end)) {
+            cut = true;
+            text.clear();
+            end = start;
+        }
     }
     if (cut) Notify(EN_MAXTEXT);
     if (m_hwnd == nullptr || end > m_text.size()) return;
@@ -67,14 +73,12 @@ void Edit::Replace(std::string_view given, bool canUndo, bool honourLimit, bool 
 size_t Edit::FittingLength(std::string_view text, size_t start, size_t end) const {
     const size_t rest = m_text.size() - (end - start);
     size_t length = std::min(text.size(), m_limit > rest ? m_limit - rest : 0);
-    const bool oneLine = !IsMultiLine();
-    if (HasStyle(oneLine ? ES_AUTOHSCROLL : ES_AUTOVSCROLL) || length == 0) return length;
+    if (IsMultiLine() || HasStyle(ES_AUTOHSCROLL) || length == 0) return length;
     // Without scrolling, only what can be shown goes in.
     const ControlDc dc(m_hwnd, m_font);
     const auto fits = [&](size_t count) {
         std::string whole = m_text;
         whole.replace(start, end - start, text.substr(0, count));
-        if (!oneLine) return BreakLines(whole).size() <= static_cast<size_t>(VisibleLines());
         if (m_passwordChar != '\0') whole.assign(whole.size(), m_passwordChar);
         return dc.Width(whole.data(), whole.size()) <= m_format.right - m_format.left;
     };
@@ -85,9 +89,15 @@ size_t Edit::FittingLength(std::string_view text, size_t start, size_t end) cons
         const size_t middle = low + (high - low) / 2;
         (fits(middle) ? low : high) = middle;
     }
-    // A line end goes in whole or not at all.
-    if (low > 0 && text[low - 1] == '\r' && text[low] == '\n') --low;
     return low;
+}
+
+// Whether all lines show with the text in the place of the bytes from start to end.
+bool Edit::FitsLines(std::string_view text, size_t start, size_t end) const {
+    if (HasStyle(ES_AUTOVSCROLL)) return true;
+    std::string whole = m_text;
+    whole.replace(start, end - start, text);
+    return BreakLines(whole).size() <= static_cast<size_t>(VisibleLines());
 }
 
 // Deletions that touch each other, by Delete or Backspace, are undone together.

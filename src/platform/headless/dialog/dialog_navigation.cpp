@@ -30,6 +30,23 @@ void Flatten(const Window& parent, bool usable, std::vector<Place>& order) {
     }
 }
 
+// All controls as the groups go through them: those of a page that shows stand in its place.
+void FlattenShown(const Window& parent, std::vector<const Window*>& order) {
+    for (const Window* child : parent.children) {
+        const bool page = (child->exStyle & WS_EX_CONTROLPARENT) != 0 && Usable(*child);
+        if (page && !child->children.empty()) {
+            FlattenShown(*child, order);
+        } else {
+            order.push_back(child);
+        }
+    }
+}
+
+// A control that a group offers; a page is none.
+bool IsItem(const Window& window) {
+    return Usable(window) && (window.exStyle & WS_EX_CONTROLPARENT) == 0;
+}
+
 // Where a window stands in the order; one that lies deeper stands where its parent does.
 std::ptrdiff_t IndexOf(const std::vector<Place>& order, const Window* window) {
     for (; window != nullptr; window = window->parent) {
@@ -79,34 +96,43 @@ HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous) {
 HWND GetNextDlgGroupItem(HWND dialog, HWND control, BOOL previous) {
     const Window* window = Lookup(dialog);
     if (window == nullptr) return nullptr;
+    if (control == dialog) control = nullptr;
+    // Backwards from nowhere there is nothing.
+    if (control == nullptr && previous) return nullptr;
     const Window* from = nullptr;
     if (control != nullptr) {
         from = Lookup(control);
-        if (from == nullptr || from == window || !Within(window, from)) return nullptr;
-        // Inside of a control, as in the edit of a combo box, the control itself is meant.
-        while (from->parent != window && (from->parent->exStyle & WS_EX_CONTROLPARENT) == 0)
-            from = from->parent;
+        if (from == nullptr || !Within(window, from)) return nullptr;
     }
-    const std::vector<Window*>& all = from == nullptr ? window->children : from->parent->children;
-    if (all.empty()) return nullptr;
-    const auto count = static_cast<std::ptrdiff_t>(all.size());
-    std::ptrdiff_t at = 0;
-    if (from != nullptr) at = std::find(all.begin(), all.end(), from) - all.begin();
-    const auto begins = [&](std::ptrdiff_t i) {
-        return (all[static_cast<std::size_t>(i)]->style & WS_GROUP) != 0;
-    };
-    std::ptrdiff_t first = at;
-    while (first > 0 && !begins(first)) --first;
-    std::ptrdiff_t last = at + 1;
-    while (last < count && !begins(last)) ++last;
-    const std::ptrdiff_t size = last - first;
-    const std::ptrdiff_t step = previous ? size - 1 : 1;
-    std::ptrdiff_t index = at - first;
-    if (from == nullptr) index = previous ? 0 : size - 1;
-    for (std::ptrdiff_t i = 0; i < size; ++i) {
-        index = (index + step) % size;
-        const Window& candidate = *all[static_cast<std::size_t>(first + index)];
-        if (Usable(candidate)) return candidate.handle;
+    std::vector<const Window*> order;
+    FlattenShown(*window, order);
+    if (order.empty()) return nullptr;
+    const std::size_t count = order.size();
+    std::size_t at = 0;
+    if (from == nullptr) {
+        if (IsItem(*order[0])) return order[0]->handle;
+    } else {
+        // Inside of a control, as in the edit of a combo box, the control itself is meant.
+        auto found = std::find(order.begin(), order.end(), from);
+        for (; found == order.end() && from != window; from = from->parent)
+            found = std::find(order.begin(), order.end(), from);
+        if (found == order.end()) return control;
+        at = static_cast<std::size_t>(found - order.begin());
+    }
+    // A group reaches from a mark to the next one, round the end of the dialog as well.
+    const auto begins = [&](std::size_t i) { return (order[i]->style & WS_GROUP) != 0; };
+    std::size_t first = at;
+    while (!begins(first)) {
+        first = (first + count - 1) % count;
+        if (first == at) break;
+    }
+    std::size_t size = 1;
+    while (size < count && !begins((first + size) % count)) ++size;
+    const std::size_t start = (at + count - first) % count;
+    for (std::size_t i = 1; i <= size; ++i) {
+        const std::size_t place = (start + (previous ? size - i : i)) % size;
+        const Window& candidate = *order[(first + place) % count];
+        if (IsItem(candidate)) return candidate.handle;
     }
     return control;
 }
