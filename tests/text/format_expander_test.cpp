@@ -1,6 +1,6 @@
-#include "text/FormatExpander.h"
-
 #include <gtest/gtest.h>
+
+#include "text/FormatExpander.h"
 
 TEST(FormatExpander, PlainTextStandsForItself) {
     EXPECT_EQ(ExpandWithoutArguments(""), "");

@@ -236,11 +236,8 @@ class Reach:
         self.all = {p: [] for p in programs}
         for program in programs:
             path = os.path.join(WORK, program + ".reach")
-            environment = dict(os.environ, ZX_MUTANT_REACH=path)
-            done = subprocess.run(["nice", "-n", "10", program_path(program), "--gtest_brief=1"],
-                                  capture_output=True, text=True, env=environment, cwd=WORK, errors="replace")
-            if done.returncode != 0:
-                raise SystemExit("mutate: %s fails without a mutant:\n%s" % (program, done.stdout[-3000:]))
+            if not os.path.exists(path) or os.path.getmtime(path) < os.path.getmtime(program_path(program)):
+                self.record(program, path)
             with open(path) as lines:
                 for line in lines:
                     words = line.split()
@@ -252,6 +249,15 @@ class Reach:
                     self.seconds[test] = int(words[1]) / 1000
                     for number in words[2:]:
                         self.tests.setdefault(int(number), []).append(test)
+
+    @staticmethod
+    def record(program, path):
+        done = subprocess.run(["nice", "-n", "10", program_path(program), "--gtest_brief=1"], capture_output=True,
+                              text=True, env=dict(os.environ, ZX_MUTANT_REACH=path + ".new"), cwd=WORK,
+                              errors="replace")
+        if done.returncode != 0:
+            raise SystemExit("mutate: %s fails without a mutant:\n%s" % (program, done.stdout[-3000:]))
+        os.replace(path + ".new", path)
 
     def of(self, number, programs):
         found = list(self.tests.get(number, []))
@@ -329,7 +335,8 @@ def read_equivalents():
 
 def report(folder, mutants, left_out, results, seconds):
     equivalents = read_equivalents()
-    counted = [m for m in mutants if m.number not in left_out]
+    live = [m for m in mutants if m.number not in left_out]
+    counted = [m for m in live if m.key in results]
     killed = [m for m in counted if results[m.key]["state"] == "killed"]
     alive = [m for m in counted if results[m.key]["state"] != "killed"]
     named = [m for m in alive if (m.file, m.line_text, m.what) in equivalents]
@@ -340,6 +347,8 @@ def report(folder, mutants, left_out, results, seconds):
                   folder, len(counted), len(killed), share(killed), len(alive), len(named), share(named),
                   len(left_out), sum(1 for w in left_out.values() if w == "known at compile time"),
                   sum(1 for w in left_out.values() if w == "does not compile"), seconds)
+    if len(counted) < len(live):
+        summary += "; a sample: %d of %d" % (len(counted), len(live))
     with open(os.path.join(WORK, folder + ".txt"), "w") as out:
         out.write(summary + "\n\n")
         for m in alive:
@@ -360,7 +369,7 @@ def prepare_folder(folder, jobs):
     return build
 
 
-def run_folder(build, reach, programs, jobs, fresh):
+def run_folder(build, reach, programs, jobs, fresh, every):
     started = time.time()
     folder, mutants = build.folder, build.mutants
     path = os.path.join(WORK, folder + ".json")
@@ -369,7 +378,7 @@ def run_folder(build, reach, programs, jobs, fresh):
         results = json.load(open(path))
     results = {m.key: results[m.key] for m in mutants if results.get(m.key, {}).get("state") == "killed"}
     runner = Runner(reach, programs)
-    left = [m for m in build.live() if m.key not in results]
+    left = [m for m in build.live()[::every] if m.key not in results]
     print("%s: %d mutants to run" % (folder, len(left)), flush=True)
     saved = time.time()
 
@@ -386,7 +395,9 @@ def run_folder(build, reach, programs, jobs, fresh):
                 save()
                 saved = time.time()
     save()
-    report(folder, mutants, build.left_out, results, time.time() - started)
+    sample = {m.key for m in build.live()[::every]}
+    asked = {key: result for key, result in results.items() if key in sample}
+    report(folder, mutants, build.left_out, asked, time.time() - started)
 
 
 def main():
@@ -394,6 +405,7 @@ def main():
     parser.add_argument("folders", nargs="*", default=["text", "contract", "entry", "analysis", "traceops"])
     parser.add_argument("--fresh", action="store_true", help="run the mutants that were killed as well")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
+    parser.add_argument("--every", type=int, default=1, help="a sample: every n-th mutant")
     parser.add_argument("--programs", help="only these test programs, as in text,store")
     options = parser.parse_args()
     for folder in options.folders:
@@ -415,7 +427,7 @@ def main():
     reach = Reach(every)
     print("reach recorded after %d s" % (time.time() - started), flush=True)
     for build in builds:
-        run_folder(build, reach, programs[build.folder], options.jobs, options.fresh)
+        run_folder(build, reach, programs[build.folder], options.jobs, options.fresh, options.every)
 
 
 main()
