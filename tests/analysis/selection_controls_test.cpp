@@ -186,7 +186,7 @@ TEST_F(SelectionControls, RegionComboOfNoRegionsIsEmptyAndReadsZero) {
 }
 
 TEST_F(SelectionControls, DataSetComboKeepsASelectionThatComesBeforeItsWindow) {
-    source.Sets(4);
+    source.Sets(5);
     CZxDlgDataSetCombo combo;
     combo.SetSelection(2);
     EXPECT_EQ(combo.GetCurSel(), 2);

@@ -88,7 +88,7 @@ TEST_F(DataInformation, SourceIsAskedInThisOrder) {
 }
 
 TEST_F(DataInformation, SheetAsksRegionZeroOfTheCurrentGroupAndXColumn) {
-    source.Kind(2).Sets(3);
+    source.Kind(2).Sets(4);
     source.Region(5, "Rows", 10, 20);
     record.uPairedGroupIndex = 1;
     record.uIndepVarDataSetIndex = 2;

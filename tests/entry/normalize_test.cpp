@@ -26,7 +26,7 @@ using test_support::TestDataSource;
 class Normalize : public testing::Test {
   protected:
     Normalize() {
-        source.Region(0, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
+        source.Region(8, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
         source.Region(4, "Cursors 3..4", 500, 999);
         std::memset(&data, 0, sizeof data);
         data.eDataSet1SelectionMode = 1;
@@ -80,7 +80,7 @@ TEST_F(Normalize, ShowsTheRecordAndHandsBackTheEdits) {
     EXPECT_EQ(Show(script), 1);
     EXPECT_EQ(options.bUseAllPoints, 1);
     EXPECT_EQ(options.eBaselineRegion, 3u);
-    EXPECT_EQ(options.ePeakRegion, 0u);
+    EXPECT_EQ(options.ePeakRegion, 8u);
     EXPECT_EQ(options.common.eDestinationOption, 1);
     EXPECT_EQ(options.common.bDynamicLink, 1);
     EXPECT_EQ(options.common.bWriteRegionInfo, 1);
@@ -104,7 +104,7 @@ TEST_F(Normalize, RegionThatTheDataLackSelectsTheFirstEntry) {
     DialogScript script;
     script.ExpectSelected(IDC_NORMALIZE_BASELINE, "Whole trace").Click(IDOK);
     EXPECT_EQ(Show(script), 1);
-    EXPECT_EQ(options.eBaselineRegion, 0u);
+    EXPECT_EQ(options.eBaselineRegion, 8u);
 }
 
 // Its answers fail in the middle of a dialog, as when the host runs out of memory.

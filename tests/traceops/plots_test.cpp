@@ -104,6 +104,7 @@ TEST_F(CurrentVoltage, AFileWithoutAWaveformIsRefused) {
 
 TEST_F(CurrentVoltage, DeferredModeOpensWithoutAWaveform) {
     source.waveforms.clear();
+    options.uWaveformIndex = 7;
     params.bDeferredRun = 1;
     DialogScript script;
     script.ExpectSelected(IDC_AXES_X_WAVEFORM, "Not a waveform file").Click(IDOK);

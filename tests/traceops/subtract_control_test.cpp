@@ -124,6 +124,7 @@ TEST_F(SubtractControl, NoStoredSignalSelectsTheFirst) {
 
 TEST_F(SubtractControl, AnEmptyControlFileStoresACountOfZero) {
     options.nFileID = 0;
+    options.nNumGroups = 5;
     DialogScript script;
     script.ExpectItems(IDC_SUBTRACT_SIGNALS, {}).ExpectText(IDC_SUBTRACT_PATH, "").Click(IDOK);
     EXPECT_EQ(Show(script), 1);

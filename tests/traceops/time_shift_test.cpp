@@ -256,6 +256,8 @@ TEST_F(TimeShift, SourceWithoutGroupsOrRegionsHasNothingToChoose) {
     source.regions.clear();
     params.bUseDataOptions = 0;
     options.uDataGroupIndex = 3;
+    options.eValueRegion = 8;
+    options.eSearchRegion = 4;
     options.eAlignmentMode = 1;
     DialogScript script;
     script.ExpectItems(IDC_SHIFT_GROUP, {})

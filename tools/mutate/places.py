@@ -43,6 +43,7 @@ class Finder:
         self.text = {}
         self.places = {}
         self.constants = {}  # (file, offset of the word constexpr) -> Constant
+        self.fixed = set()  # names that bounds of arrays and case labels are made of
         self.asserts = set()  # (file, start, end)
         self.seen = set()
 
@@ -112,10 +113,10 @@ class Finder:
             self.expression(cursor, children, span, parent)
         skip_first = kind == K.CASE_STMT
         for i, child in enumerate(children):
-            if skip_first and i == 0:
-                continue
-            if child.kind in (K.INTEGER_LITERAL, K.UNEXPOSED_EXPR, K.BINARY_OPERATOR) and kind in (
-                    K.VAR_DECL, K.FIELD_DECL, K.PARM_DECL) and not self.initialises(child):
+            bound = kind in (K.VAR_DECL, K.FIELD_DECL, K.PARM_DECL) and child.kind.is_expression() \
+                and not self.initialises(child)
+            if bound or (skip_first and i == 0):
+                self.fixed |= {c.spelling for c in child.walk_preorder() if c.kind == K.DECL_REF_EXPR}
                 continue
             self.visit(child, cursor)
 

@@ -14,6 +14,7 @@ import json
 import os
 import re
 import resource
+import shutil
 import subprocess
 import sys
 import threading
@@ -38,7 +39,10 @@ PROGRAMS = {
     "widgets": ["widgets", "framework"],
     "parser": ["parser"],
 }
+# Where the numbers of a folder begin, so that those of one do not move with another's code.
+NUMBERS = {folder: 1 + 10000 * i for i, folder in enumerate(PROGRAMS)}
 FIRST = 3  # seconds that a mutant gets beyond five times what its tests take
+QUICK = 0.03  # seconds of a test that is worth running before the others
 BATCH = 400  # tests of one process, so that a mutant that dies late costs little
 
 
@@ -58,7 +62,7 @@ class Mutant:
         self.key = hashlib.sha1(name.encode()).hexdigest()[:16]
 
 
-def find_mutants(finder):
+def find_mutants(finder, first_number):
     groups, alone = {}, []
     for place in finder.places.values():
         if place.group:
@@ -73,7 +77,7 @@ def find_mutants(finder):
     all_places = [p for p in alone if not twice(p[0])] + [g for g in groups.values() if len(g) == 2]
     all_places.sort(key=lambda g: (g[0].file, min(p.start for p in g), g[0].what))
     mutants, seen = [], {}
-    for number, places in enumerate(all_places, 1):
+    for number, places in enumerate(all_places, first_number):
         probe = Mutant(number, places, finder, 0)
         ordinal = seen[probe.key] = seen.get(probe.key, -1) + 1
         mutants.append(Mutant(number, places, finder, ordinal))
@@ -85,7 +89,7 @@ class Build:
 
     def __init__(self, folder, finder, mutants):
         self.folder, self.finder, self.mutants = folder, finder, mutants
-        self.kept = set()  # names that stay constexpr
+        self.kept = set(finder.fixed)  # names that stay constexpr
         self.left_out = {}  # number -> why
         self.out = os.path.join(WORK, "src", folder)
 
@@ -125,6 +129,35 @@ class Build:
                 learned = True
         return learned
 
+    def stamp(self):
+        """What the outcome of a check depends on."""
+        tools = os.path.dirname(os.path.abspath(__file__))
+        paths = [os.path.join(tools, n) for n in ("places.py", "rewrite.py")]
+        paths += [os.path.join(self.finder.top, n) for n in sorted(os.listdir(self.finder.top))
+                  if n.endswith((".h", ".cpp"))]
+        digest = hashlib.sha1()
+        for path in paths:
+            with open(path, "rb") as file:
+                digest.update(path.encode() + file.read())
+        return digest.hexdigest()
+
+    def remember(self):
+        with open(os.path.join(WORK, self.folder + ".places"), "w") as out:
+            json.dump({"stamp": self.stamp(), "kept": sorted(self.kept),
+                       "left_out": sorted(self.left_out.items())}, out)
+
+    def remembered(self):
+        path = os.path.join(WORK, self.folder + ".places")
+        if not os.path.exists(path):
+            return False
+        with open(path) as file:
+            known = json.load(file)
+        if known["stamp"] != self.stamp():
+            return False
+        self.kept, self.left_out = set(known["kept"]), dict(known["left_out"])
+        self.write()
+        return True
+
     def check(self, jobs):
         """Compiles each file of the folder alone until the compiler takes all of them."""
         names = sorted(n for n in os.listdir(self.finder.top) if n.endswith((".cpp", ".h")))
@@ -136,6 +169,8 @@ class Build:
                        os.path.join(self.out, name)]
             done = subprocess.run(command, capture_output=True, text=True, env=dict(os.environ, LC_ALL="C"))
             return "" if done.returncode == 0 else done.stderr
+        if self.remembered():
+            return
         pending = names
         for _ in range(40):
             self.write()
@@ -144,6 +179,7 @@ class Build:
             wrong = [n for n in pending if said[n]]
             if not wrong:
                 if pending == names:
+                    self.remember()
                     return
                 pending = names
                 continue
@@ -152,19 +188,26 @@ class Build:
             pending = wrong
         raise SystemExit("mutate: the compiler still refuses mutants after 40 rounds")
 
-    def make(self, programs, jobs):
-        targets = ["zx_%s_tests" % p for p in programs]
-        for _ in range(20):
-            run(["cmake", "--preset", "mutate", "-B", WORK + "/build", "-DZX_MUTATED=" + WORK + "/src"])
-            done = subprocess.run(["nice", "-n", "10", "cmake", "--build", WORK + "/build", "-j", str(jobs), "-t"]
-                                  + targets + ["--", "-k", "0"], capture_output=True, text=True, cwd=ROOT,
-                                  env=dict(os.environ, LC_ALL="C"))
-            if done.returncode == 0:
-                return
-            if not self.learn(done.stdout):
-                raise SystemExit("mutate: cannot build:\n" + done.stdout[-4000:])
-            self.write()
-        raise SystemExit("mutate: cannot build")
+
+def make(builds, programs, jobs):
+    """Builds the programs over all the changed folders."""
+    targets = ["zx_%s_tests" % p for p in programs]
+    for _ in range(20):
+        run(["cmake", "--preset", "mutate", "-B", WORK + "/build", "-DZX_MUTATED=" + WORK + "/src"])
+        done = subprocess.run(["nice", "-n", "10", "cmake", "--build", WORK + "/build", "-j", str(jobs), "-t"]
+                              + targets + ["--", "-k", "0"], capture_output=True, text=True, cwd=ROOT,
+                              env=dict(os.environ, LC_ALL="C"))
+        if done.returncode == 0:
+            for build in builds:
+                build.remember()
+            return
+        # Each build looks for what is its own in the messages.
+        learned = [build.learn(done.stdout) for build in builds]
+        if not any(learned):
+            raise SystemExit("mutate: cannot build:\n" + done.stdout[-4000:])
+        for build in builds:
+            build.write()
+    raise SystemExit("mutate: cannot build")
 
 
 def run(command):
@@ -193,11 +236,8 @@ class Reach:
         self.all = {p: [] for p in programs}
         for program in programs:
             path = os.path.join(WORK, program + ".reach")
-            environment = dict(os.environ, ZX_MUTANT_REACH=path)
-            done = subprocess.run(["nice", "-n", "10", program_path(program), "--gtest_brief=1"],
-                                  capture_output=True, text=True, env=environment, cwd=WORK, errors="replace")
-            if done.returncode != 0:
-                raise SystemExit("mutate: %s fails without a mutant:\n%s" % (program, done.stdout[-3000:]))
+            if not os.path.exists(path) or os.path.getmtime(path) < os.path.getmtime(program_path(program)):
+                self.record(program, path)
             with open(path) as lines:
                 for line in lines:
                     words = line.split()
@@ -210,8 +250,18 @@ class Reach:
                     for number in words[2:]:
                         self.tests.setdefault(int(number), []).append(test)
 
+    @staticmethod
+    def record(program, path):
+        done = subprocess.run(["nice", "-n", "10", program_path(program), "--gtest_brief=1"], capture_output=True,
+                              text=True, env=dict(os.environ, ZX_MUTANT_REACH=path + ".new"), cwd=WORK,
+                              errors="replace")
+        if done.returncode != 0:
+            raise SystemExit("mutate: %s fails without a mutant:\n%s" % (program, done.stdout[-3000:]))
+        os.replace(path + ".new", path)
+
     def of(self, number, programs):
         found = list(self.tests.get(number, []))
+        found = [t for t in found if t[0] in programs]
         for program in programs:
             if number in self.always[program]:
                 reached = set(found)
@@ -249,25 +299,26 @@ class Runner:
         tests = self.reach.of(mutant.number, self.programs)
         if not tests:
             return "unreached", None
+        count = len(tests)
         with self.lock:
-            recent = [t for t in self.killers if t in set(tests)][:8]
+            reached = set(tests)
+            recent = {t for t in self.killers if t in reached and self.reach.seconds[t] < QUICK}
+        # The killers of the neighbours, then what is quick, then the rest.
         batches = []
-        for program in self.programs:
-            mine = [t for t in tests if t[0] == program]
-            first = [t for t in recent if t[0] == program]
-            if first:
-                batches.insert(0, (program, first))
-            rest = [t for t in mine if t not in first]
-            batches += [(program, rest[i:i + BATCH]) for i in range(0, len(rest), BATCH)]
+        for pick in (lambda t: t in recent, lambda t: self.reach.seconds[t] < QUICK, lambda t: True):
+            for program in self.programs:
+                chosen = [t for t in tests if t[0] == program and pick(t)]
+                batches += [(program, chosen[i:i + BATCH]) for i in range(0, len(chosen), BATCH)]
+            tests = [t for t in tests if not pick(t)]
         for program, batch in batches:
             killer = self.run_tests(mutant, program, batch, worker)
             if killer:
                 known = (program, killer)
                 if known in self.reach.seconds:
                     with self.lock:
-                        self.killers = [known] + [t for t in self.killers if t != known][:40]
+                        self.killers = [known] + [t for t in self.killers if t != known][:8]
                 return "killed", program + ": " + killer
-        return "alive", "%d tests pass" % len(tests)
+        return "alive", "%d tests pass" % count
 
 
 def read_equivalents():
@@ -284,7 +335,8 @@ def read_equivalents():
 
 def report(folder, mutants, left_out, results, seconds):
     equivalents = read_equivalents()
-    counted = [m for m in mutants if m.number not in left_out]
+    live = [m for m in mutants if m.number not in left_out]
+    counted = [m for m in live if m.key in results]
     killed = [m for m in counted if results[m.key]["state"] == "killed"]
     alive = [m for m in counted if results[m.key]["state"] != "killed"]
     named = [m for m in alive if (m.file, m.line_text, m.what) in equivalents]
@@ -295,6 +347,8 @@ def report(folder, mutants, left_out, results, seconds):
                   folder, len(counted), len(killed), share(killed), len(alive), len(named), share(named),
                   len(left_out), sum(1 for w in left_out.values() if w == "known at compile time"),
                   sum(1 for w in left_out.values() if w == "does not compile"), seconds)
+    if len(counted) < len(live):
+        summary += "; a sample: %d of %d" % (len(counted), len(live))
     with open(os.path.join(WORK, folder + ".txt"), "w") as out:
         out.write(summary + "\n\n")
         for m in alive:
@@ -307,42 +361,43 @@ def report(folder, mutants, left_out, results, seconds):
     print(summary, flush=True)
 
 
-def run_folder(folder, jobs, fresh):
-    started = time.time()
-    programs = [p for p in PROGRAMS[folder] if os.path.isdir(os.path.join(ROOT, "tests", p))]
+def prepare_folder(folder, jobs):
     finder = Finder(ROOT, folder).run()
-    mutants = find_mutants(finder)
-    build = Build(folder, finder, mutants)
-    print("%s: %d places" % (folder, len(mutants)), flush=True)
-    source = os.path.join(WORK, "src")
-    for other in os.listdir(source) if os.path.isdir(source) else []:
-        if other != folder:
-            for name in os.listdir(os.path.join(source, other)):
-                os.remove(os.path.join(source, other, name))
-            os.rmdir(os.path.join(source, other))
+    build = Build(folder, finder, find_mutants(finder, NUMBERS[folder]))
     build.check(jobs)
-    build.make(programs, jobs)
-    print("%s: built after %d s" % (folder, time.time() - started), flush=True)
-    reach = Reach(programs)
+    print("%s: %d places" % (folder, len(build.mutants)), flush=True)
+    return build
+
+
+def run_folder(build, reach, programs, jobs, fresh, every):
+    started = time.time()
+    folder, mutants = build.folder, build.mutants
     path = os.path.join(WORK, folder + ".json")
     results = {}
     if os.path.exists(path) and not fresh:
         results = json.load(open(path))
     results = {m.key: results[m.key] for m in mutants if results.get(m.key, {}).get("state") == "killed"}
     runner = Runner(reach, programs)
-    left = [m for m in build.live() if m.key not in results]
-    print("%s: %d mutants to run, after %d s" % (folder, len(left), time.time() - started), flush=True)
+    left = [m for m in build.live()[::every] if m.key not in results]
+    print("%s: %d mutants to run" % (folder, len(left)), flush=True)
     saved = time.time()
+
+    def save():
+        with open(path + ".new", "w") as out:
+            json.dump(results, out, indent=1)
+        os.replace(path + ".new", path)
+
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
         for mutant, (state, detail) in zip(left, pool.map(runner.judge, left)):
             results[mutant.key] = {"file": mutant.file, "line": mutant.first_line, "change": mutant.what,
                                    "state": state, "detail": detail}
             if time.time() - saved > 10:
-                json.dump(results, open(path + ".new", "w"), indent=1)
-                os.replace(path + ".new", path)
+                save()
                 saved = time.time()
-    json.dump(results, open(path, "w"), indent=1)
-    report(folder, mutants, build.left_out, results, time.time() - started)
+    save()
+    sample = {m.key for m in build.live()[::every]}
+    asked = {key: result for key, result in results.items() if key in sample}
+    report(folder, mutants, build.left_out, asked, time.time() - started)
 
 
 def main():
@@ -350,12 +405,29 @@ def main():
     parser.add_argument("folders", nargs="*", default=["text", "contract", "entry", "analysis", "traceops"])
     parser.add_argument("--fresh", action="store_true", help="run the mutants that were killed as well")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
+    parser.add_argument("--every", type=int, default=1, help="a sample: every n-th mutant")
+    parser.add_argument("--programs", help="only these test programs, as in text,store")
     options = parser.parse_args()
-    os.makedirs(WORK, exist_ok=True)
     for folder in options.folders:
         if folder not in PROGRAMS:
             raise SystemExit("mutate: unknown folder '%s'" % folder)
-        run_folder(folder, options.jobs, options.fresh)
+    source = os.path.join(WORK, "src")
+    os.makedirs(source, exist_ok=True)
+    for other in os.listdir(source):
+        if other not in options.folders:
+            shutil.rmtree(os.path.join(source, other))
+    asked = options.programs.split(",") if options.programs else None
+    programs = {folder: [p for p in PROGRAMS[folder] if os.path.isdir(os.path.join(ROOT, "tests", p))
+                         and (asked is None or p in asked)] for folder in options.folders}
+    started = time.time()
+    builds = [prepare_folder(folder, options.jobs) for folder in options.folders]
+    every = sorted({p for names in programs.values() for p in names})
+    make(builds, every, options.jobs)
+    print("built after %d s" % (time.time() - started), flush=True)
+    reach = Reach(every)
+    print("reach recorded after %d s" % (time.time() - started), flush=True)
+    for build in builds:
+        run_folder(build, reach, programs[build.folder], options.jobs, options.fresh, options.every)
 
 
 main()
