@@ -31,7 +31,9 @@ struct LorentzianTerm {
         : m_dArea(p[0]), m_dCentre(p[1]), m_dWidth(NonZero(p[2])) {}
     double Value(double x) const {
         const double d = 2.0 * (x - m_dCentre) / m_dWidth;
-        return 2.0 * m_dArea / (std::numbers::pi * m_dWidth) / (d * d + 1.0);
+        const double dShape = 1.0 / (d * d + 1.0);
+        // Far away the width may be too small a number to divide by.
+        return dShape == 0.0 ? 0.0 : 2.0 * m_dArea / (std::numbers::pi * m_dWidth) * dShape;
     }
     void Gradient(double x, double* g) const {
         const double d = 2.0 * (x - m_dCentre) / m_dWidth;

@@ -372,6 +372,11 @@ FARPROC GetProcAddress(HMODULE handle, LPCSTR name) {
         library = opened;
     }
     void* found = library == nullptr ? nullptr : dlsym(library, symbol.c_str());
+    // Here a name with an at sign is a name with a version.
+    if (const auto at = symbol.find('@');
+        library != nullptr && found == nullptr && at != std::string::npos && at > 0) {
+        found = dlvsym(library, symbol.substr(0, at).c_str(), symbol.c_str() + at + 1);
+    }
     if (opened != nullptr) dlclose(opened);
     if (found == nullptr) SetLastError(ERROR_PROC_NOT_FOUND);
     return reinterpret_cast<FARPROC>(found);
