@@ -96,6 +96,11 @@ inline Seeds SeedsFrom(const FitOptions& options, const std::vector<std::vector<
     std::vector<const double*> arrays;
     for (const std::vector<double>& column : x) arrays.push_back(column.data());
     arrays.push_back(y.data());
+    // No points are not the same as no array.
+    static constexpr double kNoPoints = 0.0;
+    for (const double*& p : arrays) {
+        if (p == nullptr) p = &kNoPoints;
+    }
     const uint32_t uTerms = props.bMultiTerm ? options.uFitOrder : 1;
     const std::size_t nSeeds = uTerms * props.uParamsPerTerm +
                                static_cast<std::size_t>(props.bHasOffset + props.bHasSlope);

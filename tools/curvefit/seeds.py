@@ -4,8 +4,8 @@
 For each function, each number of terms and each noise, records with realistic parameters are made (records.py).
 A success is a least-squares fit by an independent solver (Levenberg-Marquardt of Debian's scipy, derivatives by
 differences) that starts from the seeds and ends with a residual at most 5 % above the best one known: that reached
-from the true parameters, or theirs. Beside it stand the rates of seeds that are all one, and the median number of
-evaluations that the solver needs from either.
+from the true parameters, or theirs. Beside it stand the rates of seeds that are all one (tried on every fourth
+record), and the median number of evaluations that the solver needs from either.
 
     seeds.py [--records N] [--minutes M] [--only F[,F]] [--conditions] [--output FILE]
 
@@ -101,7 +101,7 @@ def one(lib, function, terms, noise, condition, seed):
     best = min(best, fit(curve, y, truth, limit)[0])
     seeds = curve.seeds(record.x, y)
     results = []
-    for start in (seeds, numpy.ones(len(truth))):
+    for start in (seeds, numpy.ones(len(truth)) if seed % 4 == 0 else None):
         if start is None:
             results.append((False, 0))
             continue
@@ -125,6 +125,10 @@ def cells(conditions):
         for function in functions:
             for noise in (0.02, 0.05):
                 yield function, terms, noise, "plain"
+
+
+def rate(found, k):
+    return 100.0 * sum(f[k] for f in found) / len(found)
 
 
 def main():
@@ -158,9 +162,9 @@ def main():
         found = [f for f in found if f is not None]
         if not found:
             continue
-        rates = [100.0 * sum(f[k] for f in found) / len(found) for k in (0, 1)]
-        counts = [numpy.median([f[k] for f in found]) for k in (2, 3)]
-        line = "%s %.1f %.1f %d %d" % (" ".join(key), rates[0], rates[1], counts[0], counts[1])
+        naive = found[::4]
+        line = "%s %.1f %.1f %d %d" % (" ".join(key), rate(found, 0), rate(naive, 1),
+                                       numpy.median([f[2] for f in found]), numpy.median([f[3] for f in naive]))
         print(line, flush=True)
         with open(options.output, "a", encoding="ascii") as out:
             out.write(line + "\n")

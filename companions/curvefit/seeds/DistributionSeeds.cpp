@@ -88,18 +88,21 @@ bool SeedBinomial(SeedTask& task, double* seeds) {
     constexpr double kMostTried = 400.0;
     const double dStep = std::max(1.0, std::floor((dMost - dFewest) / kMostTried));
     double dBest = std::numeric_limits<double>::infinity();
-    seeds[0] = dFewest;
-    seeds[1] = 0.5;
+    std::vector<double> params = {dFewest, 0.5};
     for (double n = dFewest; n <= dMost; n += dStep) {
         const double p = dMean / n;
         if (p >= 1.0) continue;
         const double dSquares = SquaresOfModel(task, unscaled.model, {n, p});
         if (dSquares < dBest) {
             dBest = dSquares;
-            seeds[0] = n;
-            seeds[1] = p;
+            params = {n, p};
         }
     }
+    // The number of trials stays whole unless the data say otherwise.
+    std::vector<double> refined = params;
+    const double dRefined = RefineModel(task, unscaled.model, refined, kSteps);
+    if (dRefined < 0.9 * dBest && refined[1] < 1.0) params = refined;
+    std::copy(params.begin(), params.end(), seeds);
     return true;
 }
 

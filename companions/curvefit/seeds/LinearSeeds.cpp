@@ -71,7 +71,12 @@ bool SeedReciprocal(SeedTask& task, double* seeds) {
     if (!FitPolynomial(task.Array(0), task.Array(1), task.Points(), 1, c)) return false;
     seeds[0] = 1.0 / c[0];
     seeds[1] = c[1] / c[0];
-    if (c[0] == 0.0 || !std::isfinite(seeds[0])) return task.Fail(kThroughOrigin);
+    // An intercept of a few units of rounding is none.
+    const double* y = task.Array(1);
+    double dLargest = 0.0;
+    for (std::size_t i = 0; i < task.Points(); ++i) dLargest = std::max(dLargest, std::fabs(y[i]));
+    if (std::fabs(c[0]) <= 1e-14 * dLargest || !std::isfinite(seeds[0]))
+        return task.Fail(kThroughOrigin);
     return true;
 }
 
