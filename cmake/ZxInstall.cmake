@@ -4,12 +4,21 @@ set(zx_package lib/cmake/ZxAnalysisDialogs)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/ DESTINATION include COMPONENT ZxAnalysisDialogs)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/hosting.md ${CMAKE_SOURCE_DIR}/docs/automation.md
         DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
+install(FILES ${CMAKE_SOURCE_DIR}/docs/fit-functions.md ${CMAKE_SOURCE_DIR}/docs/seeds.md
+        DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures/equations
+        DESTINATION share/doc/zxanalysisdialogs/pictures COMPONENT ZxAnalysisDialogs)
+# The companions are found beside the module.
+install(TARGETS CURVEFIT
+        RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
+        LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs
+        ARCHIVE DESTINATION lib COMPONENT ZxAnalysisDialogs)
 install(TARGETS ZXANALYSISDIALOGS
         RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
         LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs
         ARCHIVE DESTINATION lib COMPONENT ZxAnalysisDialogs)
 if(WIN32)
-  install(FILES ${ZX_VENDOR_IMPORT_LIBRARY} DESTINATION lib COMPONENT ZxAnalysisDialogs)
+  install(FILES ${ZX_VENDOR_IMPORT_LIBRARY} ${ZX_CURVEFIT_IMPORT_LIBRARY} DESTINATION lib COMPONENT ZxAnalysisDialogs)
 else()
   install(DIRECTORY ${ZX_PLATFORM_HEADERS} DESTINATION include COMPONENT ZxAnalysisDialogs)
   set_target_properties(zxhost PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Sets the formulas of resources/pictures/equations.txt and writes each as a placeable metafile of filled outlines.
+"""Sets the formulas of resources/pictures/equations.txt and writes each as a placeable metafile of filled outlines,
+and as a drawing for the guide.
 
 All pictures have one frame of 6 to 1, in which the formula stands in the middle: a control of that shape shows
 every one undistorted and in the same type size, but for those that must be set smaller to fit. Needs Debian's
@@ -22,6 +23,7 @@ from matplotlib.textpath import text_to_path
 import equations
 
 FOLDER = os.path.join(equations.ROOT, "resources", "pictures")
+GUIDE_FOLDER = os.path.join(equations.ROOT, "docs", "pictures", "equations")
 WIDTH, HEIGHT, INCH = 24000, 4000, 4000  # 6 by 1 inch
 MARGIN = 240
 EM = INCH * 19 / 72  # 19 points
@@ -134,6 +136,21 @@ def metafile(shapes):
     return placeable + struct.pack("<H", checksum) + header + body
 
 
+def drawing(shapes):
+    """The same outlines for the guide, as a scalable drawing of half the frame's height or what is needed."""
+    top = min(p[:, 1].min() for shape in shapes for p in shape) - MARGIN
+    bottom = max(p[:, 1].max() for shape in shapes for p in shape) + MARGIN
+    left = min(p[:, 0].min() for shape in shapes for p in shape) - MARGIN
+    right = max(p[:, 0].max() for shape in shapes for p in shape) + MARGIN
+    scale = 10.0
+    outlines = "".join("M" + "L".join("%d %d" % ((x - left) / scale, (y - top) / scale) for x, y in p) + "Z"
+                       for shape in shapes for p in shape)
+    width, height = (right - left) / scale, (bottom - top) / scale
+    return ('<svg xmlns="http://www.w3.org/2000/svg" width="%d" height="%d" viewBox="0 0 %d %d">'
+            '<rect width="100%%" height="100%%" fill="white"/><path d="%s"/></svg>\n'
+            % (width / 5, height / 5, width, height, outlines))
+
+
 def read_polygons(data):
     """The polygons of a metafile, for the sheet."""
     at, found = 22 + 18, []
@@ -191,6 +208,7 @@ def main():
         shapes, scale = lay_out(picture.lines)
         data = metafile(shapes)
         path = os.path.join(FOLDER, picture.name.lower() + ".wmf")
+        guide_path = os.path.join(GUIDE_FOLDER, picture.name.lower() + ".svg")
         if options.check:
             with open(path, "rb") as old:
                 if old.read() != data:
@@ -199,6 +217,9 @@ def main():
             continue
         with open(path, "wb") as out:
             out.write(data)
+        os.makedirs(GUIDE_FOLDER, exist_ok=True)
+        with open(guide_path, "w", encoding="ascii") as out:
+            out.write(drawing(shapes))
         print("%-14s %6d bytes, type %.0f %%" % (picture.name, len(data), 100 * scale / EM))
     sys.exit(wrong)
 

@@ -8,6 +8,7 @@ from the true parameters, or theirs. Beside it stand the rates of seeds that are
 record), and the median number of evaluations that the solver needs from either.
 
     seeds.py [--records N] [--minutes M] [--only F[,F]] [--conditions] [--output FILE]
+    seeds.py --report PAGE.md [--output FILE]
 
 Each finished cell is a line of FILE (default build/seeds.txt); a line that is there is not computed again."""
 import argparse
@@ -127,6 +128,44 @@ def cells(conditions):
                 yield function, terms, noise, "plain"
 
 
+def report(path, out):
+    """The finished cells as a page."""
+    rows = {}
+    with open(path, encoding="ascii") as done:
+        for line in done:
+            function, terms, noise, condition, count, ours, naive, calls, naive_calls = line.split()
+            rows.setdefault((condition, int(function), int(terms)), {})[noise] = (count, ours, naive, calls,
+                                                                                 naive_calls)
+    with open(out, "w", encoding="utf-8") as page:
+        page.write(PAGE_HEAD)
+        for condition in CONDITIONS:
+            of = sorted(key for key in rows if key[0] == condition)
+            if not of:
+                continue
+            page.write("\n## %s\n\n| function | terms | records | 2 %% | 5 %% | ones, 2 %% | ones, 5 %% | "
+                       "evaluations (ones) |\n|---|---|---|---|---|---|---|---|\n" % TITLES[condition])
+            for key in of:
+                low, high = rows[key].get("0.02"), rows[key].get("0.05")
+                some = low or high
+                page.write("| %d | %d | %s | %s | %s | %s | %s | %s (%s) |\n" % (
+                    key[1], key[2], some[0], low[1] if low else "", high[1] if high else "",
+                    low[2] if low else "", high[2] if high else "", some[3], some[4]))
+
+
+PAGE_HEAD = """# How good the seeds are
+
+Made by `make seeds`, which goes on where it was stopped. For each function and number of terms records with
+realistic parameters and Gaussian noise of 2 and of 5 % of the range are made. A success is a least-squares fit by an
+independent solver that starts from the seeds and ends with a residual at most 5 % above the best one known, in
+percent of the records. Beside it stand seeds that are all one, the solver's own default, and the median number of
+evaluations that the solver needs from the seeds at 2 % (and from ones). Combinations that are not in the table have
+not been run.
+"""
+TITLES = {"plain": "Plain records", "reversed": "Reversed x", "shuffled": "Shuffled points",
+          "uneven": "Uneven spacing", "offset": "An offset of 50 ranges", "outlier": "An outlier of 3 ranges",
+          "leading": "Points before the event"}
+
+
 def rate(found, k):
     return 100.0 * sum(f[k] for f in found) / len(found)
 
@@ -139,7 +178,11 @@ def main():
     parser.add_argument("--conditions", action="store_true")
     parser.add_argument("--library", default=library.DEFAULT)
     parser.add_argument("--output", default=os.path.join(ROOT, "build", "seeds.txt"))
+    parser.add_argument("--report")
     options = parser.parse_args()
+    if options.report:
+        report(options.output, options.report)
+        return
     wanted = {int(f) for f in options.only.split(",") if f}
     lib = library.Library(options.library)
     done = {}

@@ -15,8 +15,11 @@ std::vector<double> Geometric(double dFrom, double dTo, std::size_t nValues) {
 }
 
 std::vector<double> ByFactor(double dFrom, double dTo, double dFactor) {
-    std::vector<double> values;
-    for (double d = dFrom; d <= dTo || values.empty(); d *= dFactor) values.push_back(d);
+    // Data of the strangest sizes end the list as well.
+    constexpr std::size_t kMost = 400;
+    std::vector<double> values = {dFrom};
+    for (double d = dFrom * dFactor; d > dFrom && d <= dTo && values.size() < kMost; d *= dFactor)
+        values.push_back(d);
     return values;
 }
 

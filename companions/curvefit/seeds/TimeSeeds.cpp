@@ -33,8 +33,11 @@ std::vector<double> TimeConstants(const SeedTask& task) {
     std::vector<double> values;
     if (eFunction == kLogDensity) {
         const double dStep = task.Terms() == 1 ? 0.2 : 0.1;
-        for (double d = data.First(); d <= data.Last(); d += dStep)
-            values.push_back(std::pow(10.0, d));
+        // No time has a logarithm beyond these.
+        const double dFirst = std::max(data.First(), -300.0);
+        const double dLast = std::min(data.Last(), 300.0);
+        const auto nSteps = static_cast<int>(std::max(0.0, (dLast - dFirst) / dStep));
+        for (int i = 0; i <= nSteps; ++i) values.push_back(std::pow(10.0, dFirst + i * dStep));
         return values;
     }
     const double dSpan = data.Span();
