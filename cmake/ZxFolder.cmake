@@ -21,7 +21,7 @@ endfunction()
 
 # zx_add_tests(<folder> LINKS <folder>... [RESOURCES <file.rc>...] [DATA <definition>...])
 #
-# One GoogleTest program zx_<folder>_tests of every tests/<folder>/*_test.cpp, with tests/support.
+# One GoogleTest program zx_<folder>_tests of every tests/<folder>/*_test.cpp, with tests/fixtures.
 function(zx_add_tests name)
   cmake_parse_arguments(ARG "" "" "LINKS;RESOURCES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
@@ -34,7 +34,7 @@ function(zx_add_tests name)
   foreach(link IN LISTS ARG_LINKS)
     target_link_libraries(zx_${name}_tests PRIVATE zx_${link})
   endforeach()
-  target_link_libraries(zx_${name}_tests PRIVATE zx_test_support)
+  target_link_libraries(zx_${name}_tests PRIVATE zx_fixtures)
   target_compile_definitions(zx_${name}_tests PRIVATE ZX_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   if(ARG_RESOURCES)
     zx_add_resources(zx_${name}_tests ${ARG_RESOURCES})

@@ -10,7 +10,7 @@ passed=0 failed=0 skipped=0 broken=0
 # The tests in the source tree that a system must run; parameterised ones count once.
 tests_in_tree() {
     local folders
-    folders=$(find tests -mindepth 1 -maxdepth 1 -type d ! -name support)
+    folders=$(find tests -mindepth 1 -maxdepth 1 -type d ! -name fixtures)
     if [ "$1" = native ]; then other='_windows$'; else other='_native$'; fi
     folders=$(printf '%s\n' "$folders" | grep -v "$other")
     # shellcheck disable=SC2086  # a list of folders

@@ -7,8 +7,8 @@
 #include "PairedTiming.h"
 #include "analysis/CUnitaryDataTab.h"
 #include "ids.h"
-#include "support/BoundedText.h"
-#include "support/Framework.h"
+#include "text/BoundedText.h"
+#include "widgets/Framework.h"
 
 namespace {
 

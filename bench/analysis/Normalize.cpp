@@ -7,7 +7,7 @@
 #include "Benchmarks.h"
 #include "PairedTiming.h"
 #include "ids.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 namespace {
 

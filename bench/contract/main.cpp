@@ -7,7 +7,7 @@
 
 #include "PairedTiming.h"
 #include "contract/CDataOptionsInterface.h"
-#include "support/TestDataSource.h"
+#include "fixtures/TestDataSource.h"
 
 namespace {
 

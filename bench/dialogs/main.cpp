@@ -9,7 +9,7 @@
 
 #include "BareDialog.h"
 #include "FrameworkDialog.h"
-#include "support/system.h"
+#include "fixtures/system.h"
 
 // Crash reports of the test start-up name the running test; here there is none.
 const char* test_support::RunningTestName() {

@@ -15,7 +15,7 @@
 #include "framework/ADM_DoubleText.h"
 #include "framework/PrivateMessages.h"
 #include "key_stroke.rh"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 namespace {
 

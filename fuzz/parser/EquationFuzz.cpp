@@ -11,7 +11,7 @@
 #include "parser/CustomFunction.h"
 #include "parser/NameScan.h"
 #include "parser/ParserErrors.h"
-#include "support/FormatExpander.h"
+#include "text/FormatExpander.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "contract/SelectionList.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "contract/CAnalysisOptionsInterfaceBase.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 // --- Controls --------------------------------------------------------------------------------
 

@@ -6,7 +6,7 @@
 #include "analysis/DialogMessages.h"
 #include "framework/UpdateScope.h"
 #include "ids.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 CParentDialogBase::CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData,
                                      ZXADLG_CDlgDataSource* pSource,

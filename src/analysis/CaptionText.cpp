@@ -1,6 +1,6 @@
 #include "analysis/CaptionText.h"
 
-#include "support/BoundedText.h"
+#include "text/BoundedText.h"
 
 void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char* szArgument) {
     BoundedWriter writer(szBuffer, nSize);

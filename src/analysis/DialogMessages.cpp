@@ -2,8 +2,8 @@
 
 #include "analysis/CaptionText.h"
 #include "ids.h"
-#include "support/Framework.h"
-#include "support/MessageDialog.h"
+#include "widgets/Framework.h"
+#include "widgets/MessageDialog.h"
 
 void ShowErrorString(HWND hOwner, UINT nStringId, const char* szArgument) {
     char szTemplate[512];

@@ -8,8 +8,8 @@
 #include "ZXADLG.h"
 #include "framework/ADM_RadioButtons.h"
 #include "ids.h"
-#include "support/BoundedText.h"
-#include "support/Framework.h"
+#include "text/BoundedText.h"
+#include "widgets/Framework.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include "ZXADLG.h"
 #include "contract/SelectionList.h"
 #include "contract/ValueExtent.h"
-#include "support/BoundedText.h"
-#include "support/ListText.h"
+#include "text/BoundedText.h"
+#include "text/ListText.h"
 
 CDataOptionsInterface::CDataOptionsInterface(ZXADLG_DataOptions* pRecord,
                                              ZXADLG_CDlgDataSource* pSource,

@@ -1,7 +1,7 @@
 #include "contract/COptionsInterfaceBase.h"
 
 #include "framework/ADM_Wnd.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 COptionsInterfaceBase::COptionsInterfaceBase() : m_hInstance(GetFrameworkInstance()) {}
 

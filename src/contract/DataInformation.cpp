@@ -7,7 +7,7 @@
 #include "contract/CDataOptionsInterface.h"
 #include "contract/NotificationCodes.h"
 #include "contract/SelectionList.h"
-#include "support/BoundedText.h"
+#include "text/BoundedText.h"
 
 namespace {
 

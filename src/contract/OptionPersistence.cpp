@@ -1,9 +1,9 @@
 #include "contract/OptionPersistence.h"
 
 #include "contract/OptionTables.h"
-#include "support/BoundedText.h"
-#include "support/ProfileStore.h"
-#include "support/StoreBatch.h"
+#include "store/ProfileStore.h"
+#include "store/StoreBatch.h"
+#include "text/BoundedText.h"
 
 // One pair per analysis whose options are one section.
 #define ZX_DEFINE_PERSISTENCE(name, Record)                                   \

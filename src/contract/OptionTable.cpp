@@ -4,9 +4,9 @@
 #include <charconv>
 #include <cstring>
 
-#include "support/BoundedText.h"
-#include "support/ProfileStore.h"
-#include "support/StoreBatch.h"
+#include "store/ProfileStore.h"
+#include "store/StoreBatch.h"
+#include "text/BoundedText.h"
 
 namespace {
 

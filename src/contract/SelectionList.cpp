@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "contract/CDataOptionsInterface.h"
-#include "support/BoundedText.h"
-#include "support/ListText.h"
+#include "text/BoundedText.h"
+#include "text/ListText.h"
 
 std::vector<std::int32_t> ParseSelection(const char* szText, int nOffset) {
     // Most lists are short, and are parsed whenever a tab shows or a key is pressed.

@@ -1,7 +1,7 @@
 #include "entry/ShowSequence.h"
 
 #include "platform/platform.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "framework/NumberItem.h"
 #include "framework/PrivateMessages.h"
-#include "support/BoundedText.h"
+#include "text/BoundedText.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "framework/MessageFilter.h"
 #include "framework/PrivateMessages.h"
 #include "framework/UpdateScope.h"
-#include "support/BoundedText.h"
+#include "text/BoundedText.h"
 
 namespace {
 

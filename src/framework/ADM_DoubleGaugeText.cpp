@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "framework/StepSnap.h"
-#include "support/StepScale.h"
+#include "text/StepScale.h"
 
 void ADM_DoubleGaugeText::SetRange(double dMin, double dMax, double dStep) {
     m_validator.SetRange(dMin, dMax);

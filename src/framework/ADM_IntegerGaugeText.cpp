@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "support/StepScale.h"
+#include "text/StepScale.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "framework/NumberItem.h"
 #include "framework/PrivateMessages.h"
-#include "support/BoundedText.h"
+#include "text/BoundedText.h"
 
 void ADM_ListBox::OnAttach() {
     Send(LB_SETCURSEL, static_cast<WPARAM>(m_nSelected));

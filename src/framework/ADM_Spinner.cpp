@@ -1,7 +1,7 @@
 #include "framework/ADM_Spinner.h"
 
 #include "framework/ADM_Text.h"
-#include "support/Spinner.h"
+#include "widgets/Spinner.h"
 
 using namespace CommonCtls;
 

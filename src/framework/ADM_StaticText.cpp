@@ -4,8 +4,8 @@
 
 #include "framework/AVC_Double.h"
 #include "framework/AVC_Float.h"
-#include "support/NumberFormat.h"
-#include "support/TextFormat.h"
+#include "text/NumberFormat.h"
+#include "widgets/TextFormat.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "framework/ADM_TabControl.h"
 
 #include "framework/Theming.h"
-#include "support/BoundedText.h"
+#include "text/BoundedText.h"
 
 void ADM_TabControl::OnAttach() {
     if (m_hWnd == nullptr) {

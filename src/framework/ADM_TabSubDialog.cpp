@@ -1,8 +1,8 @@
 #include "framework/ADM_TabSubDialog.h"
 
 #include "framework/Theming.h"
-#include "support/BoundedText.h"
-#include "support/MessageDialog.h"
+#include "text/BoundedText.h"
+#include "widgets/MessageDialog.h"
 
 ADM_TabSubDialog::ADM_TabSubDialog(HINSTANCE hInstance, LPCSTR szTemplate, LPCSTR szTitle) {
     m_hInstance = hInstance;

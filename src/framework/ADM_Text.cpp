@@ -1,7 +1,7 @@
 #include "framework/ADM_Text.h"
 
 #include "framework/PrivateMessages.h"
-#include "support/MessageDialog.h"
+#include "widgets/MessageDialog.h"
 
 namespace {
 

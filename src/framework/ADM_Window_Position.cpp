@@ -1,7 +1,7 @@
 #include "framework/ADM_Window_Position.h"
 
-#include "support/BoundedText.h"
-#include "support/ProfileStore.h"
+#include "store/ProfileStore.h"
+#include "text/BoundedText.h"
 
 namespace {
 

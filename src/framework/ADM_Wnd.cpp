@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "framework/ADM_Dialog.h"
-#include "support/MessageDialog.h"
+#include "widgets/MessageDialog.h"
 
 ADM_Wnd::~ADM_Wnd() {
     if (m_pOwner != nullptr) m_pOwner->ForgetControl(this);

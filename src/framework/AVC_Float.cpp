@@ -2,7 +2,7 @@
 
 #include "framework/FloatingRules.h"
 #include "framework/StepSnap.h"
-#include "support/NumberFormat.h"
+#include "text/NumberFormat.h"
 
 template <>
 struct FloatingTraits<AVC_Float> {

@@ -5,8 +5,8 @@
 #include "framework/StepSnap.h"
 #include "framework/ValidationMessages.h"
 #include "framework/ValueList.h"
-#include "support/BoundedText.h"
-#include "support/NumberParse.h"
+#include "text/BoundedText.h"
+#include "text/NumberParse.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 
 #include "framework/ValidationMessages.h"
 #include "framework/ValueList.h"
-#include "support/BoundedText.h"
-#include "support/NumberFormat.h"
+#include "text/BoundedText.h"
+#include "text/NumberFormat.h"
 
 template <class Validator>
 struct FloatingTraits;

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "support/NumberFormat.h"
+#include "text/NumberFormat.h"
 
 NumberItem::NumberItem(double dValue, int nDecimals, UINT nSigDigits) {
     const bool bSignificant = nDecimals == -1;

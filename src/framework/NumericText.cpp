@@ -1,8 +1,8 @@
 #include "framework/NumericText.h"
 
 #include "framework/PrivateMessages.h"
-#include "support/NumberFormat.h"
-#include "support/TextTests.h"
+#include "text/NumberFormat.h"
+#include "text/TextTests.h"
 
 template <class Fields>
 NumericText<Fields>::NumericText() {

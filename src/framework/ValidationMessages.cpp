@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "support/BoundedText.h"
+#include "text/BoundedText.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "parser/Parser.h"
 #include "parser/ParserErrors.h"
-#include "support/FormatExpander.h"
+#include "text/FormatExpander.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "parser/CharacterClass.h"
 #include "parser/ParserErrors.h"
 #include "parser/ZDCParser.h"
-#include "support/FormatExpander.h"
+#include "text/FormatExpander.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "ZXADLG.h"
 #include "contract/NotificationCodes.h"
 #include "ids.h"
-#include "support/TextFormat.h"
+#include "widgets/TextFormat.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "ZXADLG.h"
 #include "analysis/SelectionControls.h"
 #include "ids.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 
 #include "ZXADLG.h"
 #include "ids.h"
-#include "support/BoundedText.h"
-#include "support/Framework.h"
-#include "support/MessageDialog.h"
+#include "text/BoundedText.h"
+#include "widgets/Framework.h"
+#include "widgets/MessageDialog.h"
 
 // --- Record ----------------------------------------------------------------------------------
 

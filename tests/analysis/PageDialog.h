@@ -14,10 +14,10 @@
 #include "analysis/CParentDialogBase.h"
 #include "analysis/CUnitaryDataTab.h"
 #include "contract/CAnalysisOptionsInterfaceBase.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestDataSource.h"
 #include "ids.h"
-#include "support/DialogScript.h"
-#include "support/Framework.h"
-#include "support/TestDataSource.h"
+#include "widgets/Framework.h"
 
 namespace analysis_test {
 

@@ -7,8 +7,8 @@
 #include <cstring>
 
 #include "PageDialog.h"
-#include "support/BoundedText.h"
-#include "support/WindowReading.h"
+#include "fixtures/WindowReading.h"
+#include "text/BoundedText.h"
 
 using test_support::DialogScript;
 using test_support::FindControl;

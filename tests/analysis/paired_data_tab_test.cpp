@@ -6,8 +6,8 @@
 #include <cstring>
 
 #include "PageDialog.h"
-#include "support/BoundedText.h"
-#include "support/WindowReading.h"
+#include "fixtures/WindowReading.h"
+#include "text/BoundedText.h"
 
 namespace {
 

@@ -5,11 +5,11 @@
 #include <string>
 
 #include "analysis/SelectionControls.h"
+#include "fixtures/TestDataSource.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "ids.h"
-#include "support/Framework.h"
-#include "support/TestDataSource.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
+#include "widgets/Framework.h"
 
 namespace {
 

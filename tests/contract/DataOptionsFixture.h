@@ -10,8 +10,8 @@
 
 #include "contract/CDataOptionsInterface.h"
 #include "contract/SelectionList.h"
-#include "support/BoundedText.h"
-#include "support/TestDataSource.h"
+#include "fixtures/TestDataSource.h"
+#include "text/BoundedText.h"
 
 using test_support::TestDataSource;
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "support/ProfileStore.h"
-#include "support/ScratchStore.h"
+#include "fixtures/ScratchStore.h"
+#include "store/ProfileStore.h"
 
 namespace test_support {
 

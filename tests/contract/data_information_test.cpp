@@ -8,9 +8,9 @@
 
 #include "contract/CDataOptionsInterface.h"
 #include "contract/NotificationCodes.h"
+#include "fixtures/TestDataSource.h"
 #include "framework/ADM_Wnd.h"
-#include "support/BoundedText.h"
-#include "support/TestDataSource.h"
+#include "text/BoundedText.h"
 
 namespace {
 

@@ -10,11 +10,11 @@
 
 #include "ZXADLG.h"
 #include "contract/OptionPersistence.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/ScratchStore.h"
+#include "fixtures/TestDataSource.h"
 #include "ids.h"
-#include "support/DialogScript.h"
-#include "support/ProfileStore.h"
-#include "support/ScratchStore.h"
-#include "support/TestDataSource.h"
+#include "store/ProfileStore.h"
 
 namespace {
 

@@ -10,11 +10,11 @@
 #include <string>
 
 #include "entry/ShowSequence.h"
-#include "support/BoundedText.h"
-#include "support/Framework.h"
-#include "support/ProfileStore.h"
-#include "support/ScratchStore.h"
-#include "support/TestDataSource.h"
+#include "fixtures/ScratchStore.h"
+#include "fixtures/TestDataSource.h"
+#include "store/ProfileStore.h"
+#include "text/BoundedText.h"
+#include "widgets/Framework.h"
 
 namespace {
 

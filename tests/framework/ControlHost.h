@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/Beeps.h"
+#include "fixtures/TestWindows.h"
 #include "framework/ADM_Wnd.h"
 #include "framework/PrivateMessages.h"
-#include "support/Beeps.h"
-#include "support/TestWindows.h"
 
 namespace framework_test {
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <utility>
 
+#include "fixtures/Notifications.h"
 #include "framework/ADM_Dialog.h"
 #include "framework/ADM_TabbedDialog.h"
 #include "framework_test.h"
 #include "platform/platform.h"
-#include "support/Notifications.h"
 
 namespace framework_test {
 

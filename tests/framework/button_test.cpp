@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
 #include "framework/ADM_Button.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
 
 namespace framework_test {
 namespace {

@@ -4,14 +4,14 @@
 #include <vector>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
 #include "framework/ADM_DoubleText.h"
 #include "framework/ADM_ListBox.h"
 #include "framework/AppCommand.h"
 #include "framework/MessageFilter.h"
 #include "framework/PrivateMessages.h"
-#include "support/DialogScript.h"
-#include "support/MessageDialog.h"
-#include "support/TestWindows.h"
+#include "widgets/MessageDialog.h"
 
 namespace framework_test {
 namespace {

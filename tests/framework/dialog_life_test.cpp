@@ -4,11 +4,11 @@
 #include <memory>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_DoubleText.h"
 #include "framework/MessageFilter.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace framework_test {
 namespace {

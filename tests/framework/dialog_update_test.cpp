@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
 #include "framework/PrivateMessages.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
 
 namespace framework_test {
 namespace {

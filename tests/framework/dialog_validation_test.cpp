@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
 #include "framework/ADM_DoubleText.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
 
 namespace framework_test {
 namespace {

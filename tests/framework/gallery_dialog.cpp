@@ -20,7 +20,7 @@
 #include "framework/ADM_TabbedDialog.h"
 #include "framework_test.h"
 #include "gallery.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 namespace gallery {
 namespace {

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_ListBox.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace framework_test {
 namespace {

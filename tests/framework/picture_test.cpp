@@ -5,13 +5,13 @@
 #include <string>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/DrawnPictures.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_BitmapPictureWnd.h"
 #include "framework/ADM_MetafileWnd.h"
 #include "framework/ADM_PictureWnd.h"
-#include "support/DialogScript.h"
-#include "support/DrawnPictures.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace framework_test {
 namespace {

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/ScratchStore.h"
 #include "framework/ADM_Window_Position.h"
-#include "support/DialogScript.h"
-#include "support/ProfileStore.h"
-#include "support/ScratchStore.h"
+#include "store/ProfileStore.h"
 
 namespace framework_test {
 namespace {

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "WindowPixels.h"
-#include "support/Framework.h"
-#include "support/KnownGap.h"
-#include "support/ProgressBar.h"
-#include "support/TestWindows.h"
+#include "fixtures/KnownGap.h"
+#include "fixtures/TestWindows.h"
+#include "widgets/Framework.h"
+#include "widgets/ProgressBar.h"
 
 namespace {
 

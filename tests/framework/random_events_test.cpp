@@ -4,14 +4,14 @@
 
 #include <string>
 
+#include "fixtures/HardLimit.h"
+#include "fixtures/LeakCheck.h"
+#include "fixtures/RandomUser.h"
+#include "fixtures/TestWindows.h"
 #include "framework/ADM_TabbedDialog.h"
 #include "framework/MessageFilter.h"
 #include "gallery_dialog.h"
-#include "support/Framework.h"
-#include "support/HardLimit.h"
-#include "support/LeakCheck.h"
-#include "support/RandomUser.h"
-#include "support/TestWindows.h"
+#include "widgets/Framework.h"
 
 namespace framework_test {
 namespace {

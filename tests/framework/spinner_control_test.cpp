@@ -6,13 +6,13 @@
 
 #include "ControlHost.h"
 #include "WindowPixels.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_DoubleGaugeText.h"
 #include "framework/ADM_IntegerGaugeText.h"
 #include "framework/ADM_ListText.h"
 #include "framework/ADM_Spinner.h"
-#include "support/Framework.h"
-#include "support/Spinner.h"
-#include "support/WindowReading.h"
+#include "widgets/Framework.h"
+#include "widgets/Spinner.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 
 #include "ControlHost.h"
 #include "WindowPixels.h"
-#include "support/Framework.h"
-#include "support/KnownGap.h"
-#include "support/Spinner.h"
+#include "fixtures/KnownGap.h"
+#include "widgets/Framework.h"
+#include "widgets/Spinner.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "TestDialogs.h"
+#include "fixtures/DialogScript.h"
 #include "framework/ADM_DoubleText.h"
-#include "support/DialogScript.h"
 
 namespace framework_test {
 namespace {

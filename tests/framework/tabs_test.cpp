@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "TestDialogs.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "framework/AppCommand.h"
 #include "framework/PrivateMessages.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace framework_test {
 namespace {

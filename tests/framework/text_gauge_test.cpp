@@ -7,10 +7,10 @@
 #include <utility>
 
 #include "ControlHost.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_DoubleGaugeText.h"
 #include "framework/ADM_GaugeControl.h"
 #include "framework/ADM_IntegerGaugeText.h"
-#include "support/WindowReading.h"
 
 namespace {
 

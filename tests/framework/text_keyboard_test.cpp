@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "ControlHost.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_DoubleText.h"
 #include "framework/ADM_Text.h"
-#include "support/WindowReading.h"
 
 namespace {
 

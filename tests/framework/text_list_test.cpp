@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "ControlHost.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_ListText.h"
-#include "support/DialogScript.h"
-#include "support/WindowReading.h"
 
 namespace {
 

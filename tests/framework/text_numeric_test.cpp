@@ -7,11 +7,11 @@
 #include <type_traits>
 
 #include "ControlHost.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_DoubleText.h"
 #include "framework/ADM_FloatText.h"
 #include "framework/ADM_IntegerText.h"
-#include "support/DialogScript.h"
-#include "support/WindowReading.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "ControlHost.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_StaticText.h"
-#include "support/WindowReading.h"
 
 namespace {
 

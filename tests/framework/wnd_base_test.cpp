@@ -6,10 +6,10 @@
 #include <string>
 
 #include "ControlHost.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/WindowReading.h"
 #include "framework/ADM_SubClassWnd.h"
 #include "framework/ADM_Wnd.h"
-#include "support/DialogScript.h"
-#include "support/WindowReading.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "framework/ADM_ListText.h"
 #include "framework/ADM_StaticText.h"
 #include "framework/ADM_SubClassWnd.h"
-#include "support/Spinner.h"
+#include "widgets/Spinner.h"
 
 namespace {
 

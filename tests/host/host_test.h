@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "CommandLine.h"
-#include "support/ScratchStore.h"
+#include "fixtures/ScratchStore.h"
 
 namespace host_test {
 

@@ -7,11 +7,11 @@
 #include <string>
 
 #include "ZXADLG.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestDataSource.h"
+#include "fixtures/TestWindows.h"
 #include "ids.h"
 #include "platform/platform.h"
-#include "support/DialogScript.h"
-#include "support/TestDataSource.h"
-#include "support/TestWindows.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <iterator>
 #include <string>
 
-#include "support/ScratchStore.h"
+#include "fixtures/ScratchStore.h"
 
 namespace {
 

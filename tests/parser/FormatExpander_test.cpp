@@ -1,4 +1,4 @@
-#include "support/FormatExpander.h"
+#include "text/FormatExpander.h"
 
 #include <gtest/gtest.h>
 

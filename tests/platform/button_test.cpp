@@ -3,10 +3,10 @@
 
 #include <string>
 
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "platform/platform.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <string>
 
 #include "control_fixture.h"
-#include "support/KnownGap.h"
+#include "fixtures/KnownGap.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 
 #include <string>
 
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "platform/platform.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 class ControlTest : public testing::Test {
   protected:

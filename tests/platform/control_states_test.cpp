@@ -4,9 +4,9 @@
 
 #include <string>
 
+#include "fixtures/KnownGap.h"
+#include "fixtures/TestWindows.h"
 #include "platform/platform.h"
-#include "support/KnownGap.h"
-#include "support/TestWindows.h"
 
 namespace {
 

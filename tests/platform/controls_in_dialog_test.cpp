@@ -4,11 +4,11 @@
 
 #include <string>
 
+#include "fixtures/DialogScript.h"
+#include "fixtures/DialogTemplate.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "platform/platform.h"
-#include "support/DialogScript.h"
-#include "support/DialogTemplate.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace {
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/DialogScript.h"
+#include "fixtures/KnownGap.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "platform/platform.h"
-#include "support/DialogScript.h"
-#include "support/KnownGap.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace {
 

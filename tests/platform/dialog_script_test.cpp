@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "platform/platform.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace {
 

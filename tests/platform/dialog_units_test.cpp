@@ -1,8 +1,8 @@
 // Dialog units: how a template's numbers become pixels in the dialog font.
 #include <gtest/gtest.h>
 
+#include "fixtures/TestWindows.h"
 #include "platform/platform.h"
-#include "support/TestWindows.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <cstring>
 #include <string>
 
+#include "fixtures/TestWindows.h"
 #include "platform/platform.h"
-#include "support/TestWindows.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "control_fixture.h"
-#include "support/KnownGap.h"
+#include "fixtures/KnownGap.h"
 
 class ListBoxTest : public ControlTest {
   protected:

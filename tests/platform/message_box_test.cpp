@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/DialogScript.h"
+#include "fixtures/KnownGap.h"
+#include "fixtures/TestWindows.h"
 #include "platform/platform.h"
-#include "support/DialogScript.h"
-#include "support/KnownGap.h"
-#include "support/TestWindows.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
 #include "platform/platform.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
 
 namespace {
 

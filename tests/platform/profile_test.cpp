@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/KnownGap.h"
+#include "fixtures/ScratchStore.h"
 #include "platform/platform.h"
-#include "support/KnownGap.h"
-#include "support/ScratchStore.h"
 
 namespace {
 

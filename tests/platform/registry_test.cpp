@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/ScratchStore.h"
 #include "platform/platform.h"
-#include "support/ScratchStore.h"
 
 namespace {
 

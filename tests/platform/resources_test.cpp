@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/DialogScript.h"
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "platform/platform.h"
 #include "platform/platform_test.h"
-#include "support/DialogScript.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <cstring>
 #include <string>
 
+#include "fixtures/ScratchStore.h"
 #include "platform/platform.h"
-#include "support/ScratchStore.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/TestWindows.h"
+#include "fixtures/WindowReading.h"
 #include "platform/platform.h"
-#include "support/TestWindows.h"
-#include "support/WindowReading.h"
 
 namespace {
 

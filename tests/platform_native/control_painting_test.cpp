@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/TestWindows.h"
 #include "platform/headless/diagnostics.h"
 #include "platform/headless/recording.h"
 #include "platform/platform.h"
-#include "support/TestWindows.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "fixtures/TestWindows.h"
 #include "platform/headless/monitors.h"
 #include "platform/headless/recording.h"
 #include "platform/platform.h"
-#include "support/TestWindows.h"
 
 namespace {
 

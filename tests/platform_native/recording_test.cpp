@@ -5,10 +5,10 @@
 
 #include <string>
 
+#include "fixtures/TestWindows.h"
 #include "platform/headless/display.h"
 #include "platform/headless/gdi.h"
 #include "platform/platform.h"
-#include "support/TestWindows.h"
 
 namespace {
 

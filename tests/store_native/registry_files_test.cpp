@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
+#include "fixtures/ScratchStore.h"
 #include "platform/headless/registry_store.h"
 #include "platform/platform.h"
-#include "support/ProfileStore.h"
-#include "support/ScratchStore.h"
-#include "support/StoreBatch.h"
+#include "store/ProfileStore.h"
+#include "store/StoreBatch.h"
 
 namespace {
 

@@ -10,12 +10,12 @@
 #include <string>
 
 #include "ZXADLG.h"
+#include "fixtures/DialogScript.h"
+#include "fixtures/ScratchStore.h"
+#include "fixtures/TestDataSource.h"
+#include "fixtures/WindowReading.h"
 #include "ids.h"
-#include "support/DialogScript.h"
-#include "support/ProfileStore.h"
-#include "support/ScratchStore.h"
-#include "support/TestDataSource.h"
-#include "support/WindowReading.h"
+#include "store/ProfileStore.h"
 
 namespace traceops_test {
 

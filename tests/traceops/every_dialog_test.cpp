@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "ZXADLG.h"
-#include "support/HardLimit.h"
-#include "support/LeakCheck.h"
-#include "support/ProfileStore.h"
-#include "support/RandomUser.h"
-#include "support/ScratchStore.h"
-#include "support/TestDataSource.h"
-#include "support/TestWindows.h"
+#include "fixtures/HardLimit.h"
+#include "fixtures/LeakCheck.h"
+#include "fixtures/RandomUser.h"
+#include "fixtures/ScratchStore.h"
+#include "fixtures/TestDataSource.h"
+#include "fixtures/TestWindows.h"
+#include "store/ProfileStore.h"
 
 namespace {
 

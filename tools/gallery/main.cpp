@@ -10,7 +10,7 @@
 
 #include "framework/ADM_TabbedDialog.h"
 #include "gallery_dialog.h"
-#include "support/Framework.h"
+#include "widgets/Framework.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/ProfileText.h"
 #include "platform/headless/diagnostics.h"
 #include "platform/headless/headless.h"
 #include "platform/headless/paths.h"
+#include "text/ProfileText.h"
 
 namespace {
 

@@ -1,0 +1,234 @@
+#include "text/NumberParse.h"
+
+#include <charconv>
+#include <cstddef>
+#include <cstring>
+#include <limits>
+
+#include "text/NumberFormat.h"
+
+namespace {
+
+constexpr int kMostCharacters = 100;
+
+bool IsDigit(char ch) {
+    return ch >= '0' && ch <= '9';
+}
+
+bool IsWhiteSpace(char ch) {
+    return ch == ' ' || (ch >= '\t' && ch <= '\r');
+}
+
+const char* SkipWhiteSpace(const char* p) {
+    while (IsWhiteSpace(*p)) ++p;
+    return p;
+}
+
+// Powers of ten that a double holds exactly.
+constexpr double kExactPower[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                  1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                  1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr int kExactPowers = 22;
+
+// What a number beyond the range of a double becomes: 0 when its first digit that isn't zero stands
+// far behind the point, infinity when it stands far in front of it.
+double OutOfRange(const char* p, const char* pEnd) {
+    std::int64_t nPoint = 0;  // position of the point relative to the first digit that isn't zero
+    bool bPoint = false;
+    bool bDigit = false;
+    for (; p != pEnd && (IsDigit(*p) || *p == '.'); ++p) {
+        if (*p == '.') {
+            bPoint = true;
+        } else {
+            bDigit = bDigit || *p != '0';
+            if (bDigit && !bPoint) ++nPoint;
+            if (!bDigit && bPoint) --nPoint;
+        }
+    }
+    if (p != pEnd) {
+        ++p;
+        const bool bMinus = p != pEnd && *p == '-';
+        if (p != pEnd && (*p == '-' || *p == '+')) ++p;
+        std::int64_t nExponent = 0;
+        for (; p != pEnd; ++p) {
+            if (nExponent < 100000000) nExponent = nExponent * 10 + (*p - '0');
+        }
+        nPoint += bMinus ? -nExponent : nExponent;
+    }
+    return nPoint > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
+double FromChars(const char* p, const char* pEnd) {
+    const bool bNegative = p != pEnd && *p == '-';
+    if (p != pEnd && (*p == '-' || *p == '+')) ++p;
+    // The library function would take a second minus sign.
+    if (p == pEnd || *p == '-') return 0;
+    std::chars_format eFormat = std::chars_format::general;
+    if (pEnd - p > 2 && p[0] == '0' && (p[1] | 0x20) == 'x') {
+        double dHex = 0;
+        if (std::from_chars(p + 2, pEnd, dHex, std::chars_format::hex).ec !=
+                std::errc::invalid_argument &&
+            p[2] != '-') {
+            p += 2;
+            eFormat = std::chars_format::hex;
+        }
+    }
+    double dValue = 0;
+    const auto result = std::from_chars(p, pEnd, dValue, eFormat);
+    if (result.ec == std::errc::invalid_argument) return 0;
+    if (result.ec == std::errc::result_out_of_range) {
+        if (eFormat == std::chars_format::hex) return 0;
+        dValue = OutOfRange(p, result.ptr);
+    }
+    return bNegative ? -dValue : dValue;
+}
+
+// Reads a text that is one number in plain form, of so few digits that exact double arithmetic
+// gives its nearest double; returns false for every other text. One pass judges and converts.
+bool ReadSimple(const char* szText, double* pdValue) {
+    constexpr std::ptrdiff_t kMostDigits = 19;
+    constexpr std::uint64_t kMostMantissa = std::uint64_t{1} << 53;
+    const char* p = szText;
+    const bool bNegative = *p == '-';
+    if (*p == '-' || *p == '+') ++p;
+    std::uint64_t uMantissa = 0;
+    const char* pFirst = p;
+    for (; IsDigit(*p); ++p) uMantissa = uMantissa * 10 + static_cast<unsigned>(*p - '0');
+    std::ptrdiff_t nDigits = p - pFirst;
+    int nExponent = 0;
+    if (*p == '.') {
+        pFirst = ++p;
+        for (; IsDigit(*p); ++p) uMantissa = uMantissa * 10 + static_cast<unsigned>(*p - '0');
+        nDigits += p - pFirst;
+        nExponent = -static_cast<int>(p - pFirst);
+    }
+    // Beyond 19 digits the mantissa has wrapped around.
+    if (nDigits == 0 || nDigits > kMostDigits || uMantissa > kMostMantissa) return false;
+    if ((*p | 0x20) == 'e') {
+        ++p;
+        const bool bMinus = *p == '-';
+        if (*p == '-' || *p == '+') ++p;
+        pFirst = p;
+        int nWritten = 0;
+        for (; IsDigit(*p) && p - pFirst < 3; ++p) nWritten = nWritten * 10 + (*p - '0');
+        if (p == pFirst) return false;
+        nExponent += bMinus ? -nWritten : nWritten;
+    }
+    if (*p != '\0') return false;
+    // One rounding of two exact numbers: the nearest double.
+    double dValue = static_cast<double>(static_cast<std::int64_t>(uMantissa));
+    if (nExponent < 0) {
+        if (nExponent < -kExactPowers) return false;
+        dValue /= kExactPower[-nExponent];
+    } else {
+        if (nExponent > kExactPowers) return false;
+        dValue *= kExactPower[nExponent];
+    }
+    *pdValue = bNegative ? -dValue : dValue;
+    return true;
+}
+
+// The digits of an unsigned number in a base, at most `uMost`; beyond that *pbBeyond is set.
+std::uint64_t ReadDigits(const char** pp, unsigned uBase, std::uint64_t uMost, bool* pbBeyond,
+                         bool* pbAny) {
+    std::uint64_t uValue = 0;
+    for (;; ++*pp) {
+        const char ch = **pp;
+        unsigned uDigit;
+        if (IsDigit(ch)) {
+            uDigit = static_cast<unsigned>(ch - '0');
+        } else if ((ch | 0x20) >= 'a' && (ch | 0x20) <= 'f') {
+            uDigit = static_cast<unsigned>((ch | 0x20) - 'a' + 10);
+        } else {
+            break;
+        }
+        if (uDigit >= uBase) break;
+        *pbAny = true;
+        if (*pbBeyond || uValue > (uMost - uDigit) / uBase) {
+            *pbBeyond = true;
+            uValue = uMost;
+        } else {
+            uValue = uValue * uBase + uDigit;
+        }
+    }
+    return uValue;
+}
+
+std::uint64_t TextToUnsigned(const char* szText, std::uint64_t uMost) {
+    if (szText == nullptr) return 0;
+    const char* p = SkipWhiteSpace(szText);
+    const bool bMinus = *p == '-';
+    if (*p == '-' || *p == '+') ++p;
+    unsigned uBase = 10;
+    if (*p == '0') {
+        uBase = 8;
+        if ((p[1] | 0x20) == 'x') {
+            uBase = 16;
+            p += 2;
+        }
+    }
+    bool bBeyond = false;
+    bool bAny = false;
+    const std::uint64_t uValue = ReadDigits(&p, uBase, uMost, &bBeyond, &bAny);
+    if (bBeyond) return uMost;
+    return bMinus ? (~uValue + 1) & uMost : uValue;
+}
+
+}  // namespace
+
+double TextToDouble(const char* szText) {
+    if (szText == nullptr) return 0;
+    const char* p = SkipWhiteSpace(szText);
+    return FromChars(p, p + std::strlen(p));
+}
+
+std::int32_t TextToInt(const char* szText, const char** ppEnd) {
+    if (szText == nullptr) {
+        if (ppEnd != nullptr) *ppEnd = nullptr;
+        return 0;
+    }
+    const char* p = SkipWhiteSpace(szText);
+    const bool bMinus = *p == '-';
+    if (*p == '-' || *p == '+') ++p;
+    bool bBeyond = false;
+    bool bAny = false;
+    const std::uint64_t uMost = bMinus ? 2147483648u : 2147483647u;
+    const std::int64_t nValue =
+        static_cast<std::int64_t>(ReadDigits(&p, 10, uMost, &bBeyond, &bAny));
+    if (ppEnd != nullptr) *ppEnd = bAny ? p : szText;
+    return static_cast<std::int32_t>(bMinus ? -nValue : nValue);
+}
+
+std::int32_t TextToInt(const char* szText) {
+    return TextToInt(szText, nullptr);
+}
+
+std::uint32_t TextToUInt32(const char* szText) {
+    return static_cast<std::uint32_t>(TextToUnsigned(szText, 0xFFFFFFFFu));
+}
+
+std::uint64_t TextToUInt64(const char* szText) {
+    return TextToUnsigned(szText, ~std::uint64_t{0});
+}
+
+int WriteGeneral(double dValue, char* szBuffer) {
+    const auto result =
+        std::to_chars(szBuffer, szBuffer + 23, dValue, std::chars_format::general, 6);
+    *result.ptr = '\0';
+    return static_cast<int>(result.ptr - szBuffer);
+}
+
+std::int32_t ParseDouble(const char* szText, double* pdValue) {
+    if (szText == nullptr || *szText == '\0') return kNumberBadText;
+    if (ReadSimple(szText, pdValue)) return kNumberOk;
+    const char* p = szText;
+    for (; *p != '\0'; ++p) {
+        const char ch = *p;
+        if (!IsDigit(ch) && ch != '.' && ch != '+' && ch != '-' && ch != 'e' && ch != 'E') {
+            return kNumberBadText;
+        }
+    }
+    if (p - szText > kMostCharacters) return kNumberTooLong;
+    *pdValue = FromChars(szText, p);
+    return kNumberOk;
+}
