@@ -11,6 +11,7 @@
 namespace {
 
 constexpr double kUsualTemperature = 20.0;
+constexpr std::int32_t kStandardExponential = 15;
 constexpr double kEvenTolerance = 0.01;
 constexpr std::uint32_t kMostParams = 24;
 constexpr std::uint32_t kColumns = 4;  // of the grid
@@ -45,6 +46,31 @@ CFitOptionsInterface::CFitOptionsInterface(FitOptions* pOptions, CDataOptionsInt
       m_pData(pData),
       m_pLibrary(pLibrary),
       m_Props(DefaultProperties()) {}
+
+void CFitOptionsInterface::Open() {
+    FitOptions& record = *m_pOptions;
+    // Stored numbers index tables.
+    const auto correct = [](std::int32_t& eField, std::int32_t eLast, std::int32_t eElse) {
+        if (eField < 0 || eField > eLast) eField = eElse;
+    };
+    correct(record.eFunctionType, kCustomFitFunction, kStandardExponential);
+    correct(record.eSearchMethod, kSearchChebyshev, kSearchLM);
+    correct(record.eMinimMethod, kMinimMeanAbs, kMinimSS);
+    correct(record.eWeightingType, kWeightBinWidth, kWeightNone);
+    correct(record.eFunctionGroupID, kParabolic, kAllFunctions);
+    record.szEquation[sizeof record.szEquation - 1] = '\0';
+    for (auto& szEquation : record.szCustomEquations) szEquation[sizeof szEquation - 1] = '\0';
+    record.szFunctionName[sizeof record.szFunctionName - 1] = '\0';
+    // Of each pair one is stored, or survives a function of one term.
+    if (record.bUseChebyFilter != 0) record.bDlgChebyFilter = 1;
+    if (record.bDlgCompareModels != 0) record.bCompareModels = 1;
+    eLastPredefined = FindFitFunction(record.eFunctionType) != nullptr ? record.eFunctionType
+                      : FindFitFunction(record.ePrevFunctionType) != nullptr
+                          ? record.ePrevFunctionType
+                          : kStandardExponential;
+    bChebyshevSelected = record.eSearchMethod == kSearchChebyshev;
+    uSavedOrder = GetDlgOrder();
+}
 
 const char* CFitOptionsInterface::GetParamName(std::uint32_t uParam) const {
     return uParam < kMostParams ? m_szParamNames[uParam] : "";
@@ -306,7 +332,8 @@ EvenXFinding CFitOptionsInterface::IsXUniform() const {
     if (IsLineOrPolynomial() || (!bLikelihood && !bChebyshev)) return {};
     const double* x = m_pData->GetXValues();
     if (x == nullptr) return {false, 0};
-    const std::uint32_t uPoints = m_pData->GetSelectedPointCount();
+    const std::uint32_t uPoints =
+        std::min(m_pData->GetSelectedPointCount(), m_pData->GetPointCount());
     for (std::uint32_t i = 1; i + 1 < uPoints; ++i) {
         const double dChange = (x[i + 1] - x[i]) - (x[i] - x[i - 1]);
         if (std::fabs(dChange) <= kEvenTolerance) continue;

@@ -27,6 +27,11 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     CFitOptionsInterface(FitOptions* pOptions, CDataOptionsInterface* pData,
                          CurveFitLibrary* pLibrary);
 
+    // Once, before a dialog shows the record: brings stored numbers and texts into their ranges,
+    // joins the fields of which only one is stored, and takes the last predefined function from the
+    // record.
+    void Open();
+
     FitOptions& Options() { return *m_pOptions; }
     const FitOptions& Options() const { return *m_pOptions; }
     CDataOptionsInterface& Data() const { return *m_pData; }

@@ -312,6 +312,64 @@ TEST_F(Rules, FinalisationTakesBackWhatDoesNotGoTogether) {
     }
 }
 
+// --- Opening -------------------------------------------------------------------------------------
+
+TEST_F(Rules, OpeningBringsStoredNumbersIntoTheirRanges) {
+    for (const std::int32_t eBad : {-1, 39, INT32_MIN}) {
+        options = fit_test::FreshRecord();
+        options.eFunctionType = options.eSearchMethod = options.eMinimMethod =
+            options.eWeightingType = options.eFunctionGroupID = eBad;
+        options.ePrevFunctionType = 99;
+        fit.Open();
+        EXPECT_EQ(options.eFunctionType, 15);
+        EXPECT_EQ(options.eSearchMethod, 0);
+        EXPECT_EQ(options.eMinimMethod, 0);
+        EXPECT_EQ(options.eWeightingType, 0);
+        EXPECT_EQ(options.eFunctionGroupID, 0);
+        EXPECT_EQ(fit.eLastPredefined, 15);
+    }
+    options.eFunctionType = 38;
+    options.eSearchMethod = options.eMinimMethod = options.eWeightingType = 3;
+    options.eFunctionGroupID = 6;
+    options.ePrevFunctionType = 22;
+    options.uDlgFitOrder = 4;
+    fit.Open();
+    EXPECT_EQ(options.eFunctionType, 38);
+    EXPECT_EQ(options.eSearchMethod, 3);
+    EXPECT_TRUE(fit.bChebyshevSelected);
+    EXPECT_EQ(options.eMinimMethod, 3);
+    EXPECT_EQ(options.eWeightingType, 3);
+    EXPECT_EQ(options.eFunctionGroupID, 6);
+    EXPECT_EQ(fit.eLastPredefined, 22);
+    EXPECT_EQ(fit.uSavedOrder, 4u);
+    options.eFunctionType = 7;
+    fit.Open();
+    EXPECT_EQ(fit.eLastPredefined, 7);
+    options.eFunctionType = 38;
+    options.ePrevFunctionType = 39;
+    fit.Open();
+    EXPECT_EQ(fit.eLastPredefined, 15);
+}
+
+TEST_F(Rules, OpeningEndsTextsAndJoinsPairs) {
+    EXPECT_EQ(fit.eLastPredefined, 39);
+    std::memset(options.szEquation, 'x', sizeof options.szEquation);
+    std::memset(options.szCustomEquations, 'y', sizeof options.szCustomEquations);
+    std::memset(options.szFunctionName, 'z', sizeof options.szFunctionName);
+    options.bUseChebyFilter = 1;
+    options.bDlgCompareModels = 1;
+    fit.Open();
+    EXPECT_EQ(std::strlen(options.szEquation), 255u);
+    EXPECT_EQ(std::strlen(options.szCustomEquations[19]), 255u);
+    EXPECT_EQ(std::strlen(options.szFunctionName), 44u);
+    EXPECT_EQ(options.bDlgChebyFilter, 1);
+    EXPECT_EQ(options.bCompareModels, 1);
+    options = fit_test::FreshRecord();
+    fit.Open();
+    EXPECT_EQ(options.bDlgChebyFilter, 0);
+    EXPECT_EQ(options.bCompareModels, 0);
+}
+
 // --- Checks --------------------------------------------------------------------------------------
 
 TEST_F(Rules, SeedsMustNotBeZero) {
@@ -350,6 +408,72 @@ TEST_F(Rules, SeedsMustNotBeZero) {
     EXPECT_TRUE(fit.AreSeedsUsable(custom, free));
     options.nNumCustomParams = 3;
     EXPECT_FALSE(fit.AreSeedsUsable(custom, free));
+}
+
+// A file whose x are told one by one.
+class SpacedSource : public test_support::TestDataSource {
+  public:
+    explicit SpacedSource(std::vector<double> x) : m_x(std::move(x)) {
+        Kind(0).Groups({"IN 0"}).Sets(1).Points(static_cast<std::uint32_t>(m_x.size()));
+    }
+    const double* GetXValues(std::uint32_t, std::uint32_t, const ZXADLG_DataRange*,
+                             std::uint32_t) override {
+        return m_x.empty() ? nullptr : m_x.data();
+    }
+
+  private:
+    std::vector<double> m_x;
+};
+
+EvenXFinding EvenXOf(FitModel& model, std::vector<double> x) {
+    SpacedSource spaced(std::move(x));
+    CDataOptionsInterface spacedData(&model.dataRecord, &spaced, &model.flags);
+    CFitOptionsInterface onData(&model.options, &spacedData, &model.library);
+    EXPECT_EQ(onData.ReadProperties(), 0);
+    return onData.IsXUniform();
+}
+
+TEST_F(Rules, EvenXIsAskedForByChebyshevAndMaximumLikelihoodAlone) {
+    const std::vector<double> uneven = {0.0, 1.0, 2.5, 3.0};
+    for (const std::int32_t eSearch : {0, 1, 2}) {
+        options.eSearchMethod = eSearch;
+        EXPECT_TRUE(EvenXOf(*this, uneven).bEven);
+    }
+    options.eSearchMethod = kSearchChebyshev;
+    EXPECT_FALSE(EvenXOf(*this, uneven).bEven);
+    EXPECT_EQ(EvenXOf(*this, uneven).nString, 2199);
+    options.bOfferMethodChange = 1;
+    EXPECT_FALSE(EvenXOf(*this, uneven).bEven);
+    EXPECT_EQ(EvenXOf(*this, uneven).nString, 0);
+    options.eFunctionType = 10;
+    options.eSearchMethod = kSearchVM;
+    options.eMinimMethod = kMinimML;
+    EXPECT_EQ(EvenXOf(*this, uneven).nString, 2200);
+    // The stored value decides, also where it will be taken back.
+    options.eFunctionType = 15;
+    EXPECT_EQ(EvenXOf(*this, uneven).nString, 2200);
+    options.eFunctionType = 35;
+    EXPECT_TRUE(EvenXOf(*this, uneven).bEven);
+}
+
+TEST_F(Rules, EvenXToAHundredth) {
+    options.eSearchMethod = kSearchChebyshev;
+    EXPECT_TRUE(EvenXOf(*this, {0.0, 1.0, 2.0078125, 3.015625}).bEven);
+    EXPECT_FALSE(EvenXOf(*this, {0.0, 1.0, 2.015625, 3.03125}).bEven);
+    EXPECT_TRUE(EvenXOf(*this, {0.0, 5.0}).bEven);
+    EXPECT_TRUE(EvenXOf(*this, {3.0}).bEven);
+    const EvenXFinding missing = EvenXOf(*this, {});
+    EXPECT_FALSE(missing.bEven);
+    EXPECT_EQ(missing.nString, 0);
+    char szText[128] = "";
+    LoadStringA(GetModuleHandleA(nullptr), 2199, szText, sizeof szText);
+    EXPECT_STREQ(szText,
+                 "The Chebyshev method requires evenly spaced x axis values.\nSelect another "
+                 "search method.");
+    LoadStringA(GetModuleHandleA(nullptr), 2200, szText, sizeof szText);
+    EXPECT_STREQ(szText,
+                 "Maximum likelihood requires evenly spaced x axis values.\nSelect another "
+                 "minimization method.");
 }
 
 TEST_F(Rules, ExtrapolationLimitsOfConcentrationsAreAboveZeroOnASheet) {
