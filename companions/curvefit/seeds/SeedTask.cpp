@@ -21,6 +21,9 @@ enum Function : int32_t {
     kVarianceParabola = 31,
     kParabola = 32,
     kPoisson = 33,
+    kPolynomial = 34,
+    kLine = 35,
+    kLineOrigin = 36,
 };
 
 bool AllFinite(const double* values, std::size_t n) {
@@ -207,7 +210,12 @@ void SeedTask::MoveOffZero(double* seeds) const {
 
 bool SeedTask::Run(double* seeds) {
     if (!CheckData()) return false;
-    if (m_Row.uVariables == 1) {
+    // A long record of a regression is solved by sums as it stands.
+    constexpr std::size_t kLongRecord = 8192;
+    const bool bRegression = m_Row.eFunction == kPolynomial || m_Row.eFunction == kLine ||
+                             m_Row.eFunction == kLineOrigin || m_Row.eFunction == kParabola ||
+                             m_Row.eFunction == kVarianceParabola;
+    if (m_Row.uVariables == 1 && !(bRegression && m_nPoints > kLongRecord)) {
         ReduceData();
         const std::size_t nParams = GridParams() + m_bOffset + m_bSlope;
         if (m_Data.nPoints < nParams || m_Data.nDistinct < nParams) return Fail(kTooFewPoints);
