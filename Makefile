@@ -1,5 +1,5 @@
 # Each target does all that it needs on a fresh machine; tools/setup.sh installs what is missing.
-.PHONY: demo test test-win64 bench fuzz mutate format lint clean
+.PHONY: demo test test-win64 bench seeds fuzz mutate format lint clean
 
 demo:
 	@tools/demo.sh
@@ -12,6 +12,12 @@ test-win64:
 
 bench:
 	@tools/bench.sh
+
+# How often the seeds of the curve-fit library lead to the best fit; goes on where it was stopped. At most
+# SEED_MINUTES, then the page is written from what there is.
+SEED_MINUTES ?= 40
+seeds:
+	@tools/curvefit/seeds.sh $(SEED_MINUTES)
 
 # Minutes per fuzz target: make fuzz FUZZ_SECONDS=600
 fuzz:

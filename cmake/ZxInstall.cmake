@@ -9,12 +9,21 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/ DESTINATION include COMPONENT ZxA
         FILES_MATCHING PATTERN "*.h" ${zx_other_headers})
 install(FILES ${CMAKE_SOURCE_DIR}/docs/hosting.md ${CMAKE_SOURCE_DIR}/docs/automation.md
         DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
+install(FILES ${CMAKE_SOURCE_DIR}/docs/fit-functions.md ${CMAKE_SOURCE_DIR}/docs/seeds.md
+        DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures/equations
+        DESTINATION share/doc/zxanalysisdialogs/pictures COMPONENT ZxAnalysisDialogs)
+# The companions are found beside the module.
+install(TARGETS CURVEFIT
+        RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
+        LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs
+        ARCHIVE DESTINATION lib COMPONENT ZxAnalysisDialogs)
 install(TARGETS ZXANALYSISDIALOGS
         RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
         LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs
         ARCHIVE DESTINATION lib COMPONENT ZxAnalysisDialogs)
 if(WIN32)
-  install(FILES ${ZX_VENDOR_IMPORT_LIBRARY} DESTINATION lib COMPONENT ZxAnalysisDialogs)
+  install(FILES ${ZX_VENDOR_IMPORT_LIBRARY} ${ZX_CURVEFIT_IMPORT_LIBRARY} DESTINATION lib COMPONENT ZxAnalysisDialogs)
 else()
   # The window system in memory, which the library stands on and which a host may drive it by.
   install(TARGETS zx_headless LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs)

@@ -14,9 +14,9 @@
 #include <mutex>
 
 #include "platform/headless/system/module_table.h"
+#include "platform/headless/system/system_modules.h"
 #include "zxadlg/headless/diagnostics.h"
 #include "zxadlg/headless/functions.h"
-#include "platform/headless/system/system_modules.h"
 
 namespace headless {
 
@@ -370,6 +370,11 @@ FARPROC GetProcAddress(HMODULE handle, LPCSTR name) {
         library = opened;
     }
     void* found = library == nullptr ? nullptr : dlsym(library, symbol.c_str());
+    // Here a name with an at sign is a name with a version.
+    if (const auto at = symbol.find('@');
+        library != nullptr && found == nullptr && at != std::string::npos && at > 0) {
+        found = dlvsym(library, symbol.substr(0, at).c_str(), symbol.c_str() + at + 1);
+    }
     if (opened != nullptr) dlclose(opened);
     if (found == nullptr) SetLastError(ERROR_PROC_NOT_FOUND);
     return reinterpret_cast<FARPROC>(found);

@@ -1,0 +1,51 @@
+// Pieces of formulas, arranged so that they lose no digits and never overflow on the way.
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <numbers>
+
+namespace curvefit {
+
+// A width or time constant of zero means the limit from above.
+inline double NonZero(double d) {
+    return d == 0.0 ? std::numeric_limits<double>::denorm_min() : d;
+}
+
+// 1 / (1 + e^-z).
+inline double Logistic(double z) {
+    const double q = std::exp(-std::fabs(z));
+    return (z >= 0.0 ? 1.0 : q) / (1.0 + q);
+}
+
+// Its derivative by z.
+inline double LogisticSlope(double z) {
+    const double q = std::exp(-std::fabs(z));
+    return q / ((1.0 + q) * (1.0 + q));
+}
+
+// 1 - e^-u.
+inline double Rise(double u) {
+    return -std::expm1(-u);
+}
+
+inline double WholePower(double d, uint32_t uPower) {
+    double dResult = d;
+    for (uint32_t i = 1; i < uPower; ++i) dResult *= d;
+    return dResult;
+}
+
+// --- The gamma function and its relatives, for arguments above zero ------------------------------
+
+// ln of gamma(x) less Stirling's formula; x at least 10.
+double StirlingRest(double x);
+double LogGamma(double x);
+// The derivative of LogGamma.
+double Digamma(double x);
+// ln of gamma(a) gamma(b) / gamma(a + b).
+double LogBeta(double a, double b);
+// x ln(x / m) + m - x, without cancellation where x is near m.
+double Deviance(double x, double m);
+
+}  // namespace curvefit
