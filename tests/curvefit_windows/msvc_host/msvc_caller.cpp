@@ -14,45 +14,70 @@ void operator delete(void*) noexcept {}
 
 namespace {
 
-#define UNUSED(n) virtual int Unused##n() = 0;
+#define UNUSED(n) virtual int Unused##n() = 0
 
 class VendorTable {
   public:
-    virtual ~VendorTable() {}  // 0
-    UNUSED(1)
-    UNUSED(2)
-    UNUSED(3)
-    UNUSED(4) UNUSED(5)
-        UNUSED(6) virtual int Seeds(const double* const* arrays, double* seeds, unsigned a,
-                                    unsigned n) = 0;                                      // 7
-    UNUSED(8) UNUSED(9) UNUSED(10) virtual int ErrorText(char* text, unsigned size) = 0;  // 11
-    UNUSED(12)
-    UNUSED(13)
-    UNUSED(14)
-    UNUSED(15)
-        UNUSED(16) virtual int Evaluate(const double* const* x, double* y, unsigned n) = 0;  // 17
-    virtual unsigned Variables() = 0;                                                        // 18
-    UNUSED(19)
-    UNUSED(20)
-    UNUSED(21)
-    UNUSED(22) UNUSED(23) UNUSED(24) UNUSED(25) UNUSED(26) UNUSED(27) UNUSED(28)
-        UNUSED(29) virtual const char* FunctionText() = 0;  // 30
-    UNUSED(31)
-    UNUSED(32)
-    UNUSED(33)
-    UNUSED(34) UNUSED(35) UNUSED(36) UNUSED(37) UNUSED(38)
-        UNUSED(39) virtual int Properties(FitFunctionProps* props) = 0;  // 40
-    UNUSED(41)
-    UNUSED(42) UNUSED(43) virtual const char* VariableLabel(unsigned a, unsigned b) = 0;  // 44
-    virtual const char* DependentLabel() = 0;                                             // 45
-    virtual const char* ParameterName(unsigned a, unsigned b) = 0;                        // 46
-    virtual const char* OffsetName() = 0;                                                 // 47
-    virtual const char* SlopeName() = 0;                                                  // 48
-    UNUSED(49)
-    UNUSED(50)
-    UNUSED(51)
-    UNUSED(52) UNUSED(53) UNUSED(54) UNUSED(55) UNUSED(56) UNUSED(57)
-        UNUSED(58) virtual int SetUp(const FitDataStats* stats, const double* seeds) = 0;  // 59
+    virtual ~VendorTable() {}
+    UNUSED(1);
+    UNUSED(2);
+    UNUSED(3);
+    UNUSED(4);
+    UNUSED(5);
+    UNUSED(6);
+    virtual int Seeds(const double* const* arrays, double* seeds, unsigned a, unsigned n) = 0;
+    UNUSED(8);
+    UNUSED(9);
+    UNUSED(10);
+    virtual int ErrorText(char* text, unsigned size) = 0;
+    UNUSED(12);
+    UNUSED(13);
+    UNUSED(14);
+    UNUSED(15);
+    UNUSED(16);
+    virtual int Evaluate(const double* const* x, double* y, unsigned n) = 0;
+    virtual unsigned Variables() = 0;
+    UNUSED(19);
+    UNUSED(20);
+    UNUSED(21);
+    UNUSED(22);
+    UNUSED(23);
+    UNUSED(24);
+    UNUSED(25);
+    UNUSED(26);
+    UNUSED(27);
+    UNUSED(28);
+    UNUSED(29);
+    virtual const char* FunctionText() = 0;
+    UNUSED(31);
+    UNUSED(32);
+    UNUSED(33);
+    UNUSED(34);
+    UNUSED(35);
+    UNUSED(36);
+    UNUSED(37);
+    UNUSED(38);
+    UNUSED(39);
+    virtual int Properties(FitFunctionProps* props) = 0;
+    UNUSED(41);
+    UNUSED(42);
+    UNUSED(43);
+    virtual const char* VariableLabel(unsigned a, unsigned b) = 0;
+    virtual const char* DependentLabel() = 0;
+    virtual const char* ParameterName(unsigned a, unsigned b) = 0;
+    virtual const char* OffsetName() = 0;
+    virtual const char* SlopeName() = 0;
+    UNUSED(49);
+    UNUSED(50);
+    UNUSED(51);
+    UNUSED(52);
+    UNUSED(53);
+    UNUSED(54);
+    UNUSED(55);
+    UNUSED(56);
+    UNUSED(57);
+    UNUSED(58);
+    virtual int SetUp(const FitDataStats* stats, const double* seeds) = 0;
 };
 
 #undef UNUSED
