@@ -22,8 +22,7 @@ constexpr char kNoData[] = "No data have been selected. At least one data set mu
 class UnitaryTab : public testing::Test, protected analysis_test::PageSetup {
   protected:
     UnitaryTab() {
-        source.Region(8, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
-        record.eAnalysisRegion = 8;
+        source.Region(0, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
         record.eDataGroup1SelectionMode = 1;
         record.eDataSet1SelectionMode = 3;
         List("0..2");
