@@ -14,7 +14,7 @@ constexpr OptionKey kCurveFitFirstKeys[] = {
     KEY(eWeightingType),
     KEY(eMinimMethod),
     KEY(eFunctionGroupID),
-    KEY(nNumCustomParams),
+    SIGNED_KEY(nNumCustomParams),
     KEY(common.eDestinationOption),
     KEY(dGoldmanTemperature),
     KEY(dNernstTemperature),

@@ -96,6 +96,8 @@ constexpr OptionKey ElementKey(const char* szKey, const char* szArray, const cha
 #define ZX_ELEMENT(array) std::remove_extent_t<ZX_MEMBER(array)>
 #define KEY(field) KEY_NAMED(LastName(#field), field)
 #define KEY_NAMED(key, field) MemberKey<ZX_MEMBER(field)>(key, #field, offsetof(Record, field))
+// An unsigned field whose text is that of a signed number.
+#define SIGNED_KEY(field) WithType(KEY(field), OptionType::kInt32)
 // A double whose text is that of a float.
 #define FLOAT_KEY(field) WithType(KEY(field), OptionType::kFloatInDouble)
 // Bytes that are no text.
