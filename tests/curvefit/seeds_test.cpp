@@ -424,9 +424,9 @@ TEST(Seeds, RegressionsAreExactForAnyNumberOfPoints) {
         EXPECT_NEAR(line[0], 2.0, 1e-12);
         EXPECT_NEAR(line[1], -3.0, 1e-10);
         FitOptions options = OptionsFor(34, 3);
-        const Arrays near = {Even(-3.0, 5.0, n)};
+        const Arrays close = {Even(-3.0, 5.0, n)};
         const std::vector<double> cubic =
-            SeedsFrom(options, near, CurveAt(options, {1.5, -0.5, 0.25, 4.0}, near)).values;
+            SeedsFrom(options, close, CurveAt(options, {1.5, -0.5, 0.25, 4.0}, close)).values;
         EXPECT_NEAR(cubic[0], 1.5, 1e-11);
         EXPECT_NEAR(cubic[1], -0.5, 1e-11);
         EXPECT_NEAR(cubic[2], 0.25, 1e-11);
