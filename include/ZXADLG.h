@@ -19,7 +19,6 @@
 #include "zxadlg/CurrentVoltageOptions.h"
 #include "zxadlg/DataOptions.h"
 #include "zxadlg/DlgParams.h"
-#include "zxadlg/fields.h"
 #include "zxadlg/ForceValuesOptions.h"
 #include "zxadlg/LeakSubtractionOptions.h"
 #include "zxadlg/ModifySampleRateOptions.h"
@@ -28,6 +27,7 @@
 #include "zxadlg/SubtractControlOptions.h"
 #include "zxadlg/TimeShiftOptions.h"
 #include "zxadlg/TraceVsTraceOptions.h"
+#include "zxadlg/fields.h"
 
 struct HWND__;
 
@@ -273,7 +273,6 @@ int32_t ZXADLG_CALL ZXADLG_ShowSubtractControlDialog(HWND__* parent,
 // The fields of a record by the name of its type ("ZXADLG_NormalizeOptions"), in the order of the
 // record. Stores a pointer to the first and returns their number; 0, and a null pointer, for a name
 // that is none. `fields` may be null.
-uint32_t ZXADLG_CALL ZXADLG_GetRecordFields(const char* record,
-                                            const ZXADLG_FieldInfo** fields);
+uint32_t ZXADLG_CALL ZXADLG_GetRecordFields(const char* record, const ZXADLG_FieldInfo** fields);
 
 }  // extern "C"

@@ -97,9 +97,10 @@ TEST_F(ModifySampleRate, FactorsOutsideTheirRangesAreRefusedAtOk) {
     DialogScript script;
     script.Type(IDC_RATE_REDUCE_FACTOR, "1001")
         .Click(IDOK)
-        .Answer(101,
-                "Validation Error\r\n\r\nValue in field 'Reduction factor' must fall within the range "
-                "of 2 to 1000.")
+        .Answer(
+            101,
+            "Validation Error\r\n\r\nValue in field 'Reduction factor' must fall within the range "
+            "of 2 to 1000.")
         .ExpectFocus(IDC_RATE_REDUCE_FACTOR)
         .Type(IDC_RATE_REDUCE_FACTOR, "1000")
         .Click(IDOK);
