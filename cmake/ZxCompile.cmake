@@ -8,9 +8,11 @@ target_compile_options(zx_compile INTERFACE
   -ffp-contract=off -fno-fast-math)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # A cast between function pointer types is how a window procedure travels through a window long.
-  # Version 12 sees overlapping copies in plain std::string operations where there are none.
+  # Version 12 sees overlapping and overlong copies in plain std::string operations where there are none.
   target_compile_options(zx_compile INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-cast-function-type>
-                                              $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
+                                              $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>
+                                              $<$<COMPILE_LANGUAGE:CXX>:-Wno-array-bounds>
+                                              $<$<COMPILE_LANGUAGE:CXX>:-Wno-stringop-overflow>)
 endif()
 if(WIN32)
   target_compile_definitions(zx_compile INTERFACE WINVER=0x0600 _WIN32_WINNT=0x0600 _WIN32_IE=0x0600
