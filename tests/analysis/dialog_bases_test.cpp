@@ -254,12 +254,15 @@ TEST_F(TabbedBase, ReadOnlyOptionsPageUndoesEveryEdit) {
     params.bReadOnly = 1;
     const ZXADLG_AnalysisCommon before = common;
     DialogScript script;
-    script.Click(IDC_DESTINATION_REPLACE)
+    script.Ungrey(IDC_DESTINATION_REPLACE)
+        .Click(IDC_DESTINATION_REPLACE)
         .ExpectChecked(IDC_DESTINATION_APPEND, BST_CHECKED)
         .ExpectChecked(IDC_DESTINATION_REPLACE, BST_UNCHECKED)
         .ExpectFocus(IDCANCEL)
+        .Ungrey(IDC_DYNAMIC_LINK)
         .Click(IDC_DYNAMIC_LINK)
         .ExpectChecked(IDC_DYNAMIC_LINK, BST_UNCHECKED)
+        .Ungrey(IDC_WRITE_REGION_INFO)
         .Click(IDC_WRITE_REGION_INFO)
         .ExpectChecked(IDC_WRITE_REGION_INFO, BST_UNCHECKED)
         .ExpectFocus(IDCANCEL)
@@ -346,8 +349,10 @@ TEST_F(UntabbedBase, ReadOnlyUndoesEveryEdit) {
     script.ExpectTitle("Single page (read only)")
         .ExpectVisible(IDOK, false)
         .ExpectText(IDCANCEL, "Close")
+        .Ungrey(IDC_DESTINATION_REPLACE)
         .Click(IDC_DESTINATION_REPLACE)
         .ExpectChecked(IDC_DESTINATION_APPEND, BST_CHECKED)
+        .Ungrey(IDC_DYNAMIC_LINK)
         .Click(IDC_DYNAMIC_LINK)
         .ExpectChecked(IDC_DYNAMIC_LINK, BST_UNCHECKED)
         .ExpectFocus(IDCANCEL)

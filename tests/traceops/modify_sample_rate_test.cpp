@@ -129,6 +129,7 @@ TEST_F(ModifySampleRate, ReadOnlyUndoesEveryEdit) {
     script.ExpectTitle("Data Reduction/Interpolation (read only)")
         .ExpectVisible(IDOK, false)
         .ExpectText(IDCANCEL, "Close")
+        .Ungrey(IDC_RATE_INTERPOLATION)
         .Click(IDC_RATE_INTERPOLATION)
         .ExpectChecked(IDC_RATE_REDUCTION, BST_CHECKED)
         .ExpectFocus(IDCANCEL)
