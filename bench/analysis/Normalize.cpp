@@ -161,6 +161,6 @@ bool MeasureNormalize() {
     const bool bShow = PrintTiming("Normalize from Show to its first idle moment",
                                    {Median(vShow[0]), Median(vShow[1]), Median(vShowRatio)}, 1.2);
     return PrintTiming("Normalize from OK to the return",
-                       {Median(vEnd[0]), Median(vEnd[1]), Median(vEndRatio)}, 1.2) &&
+                       {Median(vEnd[0]), Median(vEnd[1]), Median(vEndRatio)}, 1.3) &&
            bShow;
 }

@@ -16,6 +16,7 @@ struct Hook {
 
 struct HookList {
     std::list<Hook> hooks;  // the newest first
+    unsigned kinds = 0;  // a bit for each kind that was ever set, so that the others cost nothing
     int running = 0;
     HHOOK current = nullptr;  // the innermost one that runs
     std::size_t Live() const;

@@ -9,6 +9,11 @@ namespace {
 
 std::atomic<std::uintptr_t> nextHook{0x20010};
 
+// Kinds begin at -1.
+unsigned BitOf(int kind) {
+    return 1u << (kind + 1);
+}
+
 // Calls the first hook of a kind at or after `from`; the hook itself passes on with CallNextHookEx.
 LRESULT CallFrom(std::list<Hook>::iterator from, int kind, int code, WPARAM wParam, LPARAM lParam) {
     HookList& list = *ThisWorld().hooks;
@@ -27,7 +32,7 @@ LRESULT CallFrom(std::list<Hook>::iterator from, int kind, int code, WPARAM wPar
 
 LRESULT CallAll(int kind, int code, WPARAM wParam, LPARAM lParam) {
     HookList& list = *ThisWorld().hooks;
-    if (list.hooks.empty()) return 0;
+    if ((list.kinds & BitOf(kind)) == 0) return 0;
     return CallFrom(list.hooks.begin(), kind, code, wParam, lParam);
 }
 
@@ -48,7 +53,7 @@ void CallGetMessageHooks(MSG& msg, UINT remove) {
 }
 
 void CallSendHooks(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (ThisWorld().hooks->hooks.empty()) return;
+    if ((ThisWorld().hooks->kinds & BitOf(WH_CALLWNDPROC)) == 0) return;
     CWPSTRUCT info{lParam, wParam, message, hwnd};
     CallAll(WH_CALLWNDPROC, HC_ACTION, 0, reinterpret_cast<LPARAM>(&info));
 }
@@ -88,6 +93,7 @@ HHOOK SetWindowsHookExA(int id, HOOKPROC proc, HINSTANCE, DWORD thread) {
     hook.kind = id;
     hook.proc = proc;
     world.hooks->hooks.push_front(hook);
+    world.hooks->kinds |= BitOf(id);
     return hook.handle;
 }
 

@@ -99,6 +99,7 @@ struct Window {
 struct World {
     DWORD thread = 0;
     std::unordered_map<HWND, std::unique_ptr<Window>> windows;
+    Window* recent = nullptr;  // the one that was looked up last: most calls come in runs
     Window* desktop = nullptr;
     HWND focus = nullptr;
     HWND active = nullptr;
@@ -118,8 +119,13 @@ struct World {
     World& operator=(const World&) = delete;
 };
 
+extern constinit thread_local World* currentWorld;
+World& MakeWorld();
+
 // The calling thread's world, made on first use.
-World& ThisWorld();
+inline World& ThisWorld() {
+    return currentWorld != nullptr ? *currentWorld : MakeWorld();
+}
 
 // Registers the standard classes and the program's resources, once per process.
 void EnsureInitialized();

@@ -48,10 +48,11 @@ struct WorldHolder {
     }
 };
 
-thread_local World* currentWorld = nullptr;
 thread_local WorldHolder holder;
 
 }  // namespace
+
+constinit thread_local World* currentWorld = nullptr;
 
 Window::Window() = default;
 Window::~Window() = default;
@@ -77,11 +78,9 @@ World::~World() {
     UnregisterQueue(thread);
 }
 
-World& ThisWorld() {
-    if (currentWorld == nullptr) {
-        currentWorld = new World;
-        holder.world = currentWorld;
-    }
+World& MakeWorld() {
+    currentWorld = new World;
+    holder.world = currentWorld;
     return *currentWorld;
 }
 
@@ -117,8 +116,10 @@ Window* Peek(HWND hwnd) {
         world.desktop->client = screen;
         return world.desktop;
     }
+    if (world.recent != nullptr && world.recent->handle == hwnd) return world.recent;
     const auto found = world.windows.find(hwnd);
-    return found == world.windows.end() ? nullptr : found->second.get();
+    if (found == world.windows.end()) return nullptr;
+    return world.recent = found->second.get();
 }
 
 Window* Lookup(HWND hwnd) {
@@ -167,6 +168,7 @@ void RetireWindow(Window& window) {
     }
     const auto found = world.windows.find(window.handle);
     if (found == world.windows.end()) return;
+    world.recent = nullptr;
     world.dead.push_back(std::move(found->second));
     world.windows.erase(found);
 }
