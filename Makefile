@@ -1,8 +1,12 @@
 # Each target does all that it needs on a fresh machine; tools/setup.sh installs what is missing.
-.PHONY: demo test test-win64 bench seeds fuzz mutate format lint clean
+.PHONY: demo pictures test test-win64 bench seeds fuzz mutate format lint clean
 
 demo:
 	@tools/demo.sh
+
+# Pictures of every page, from real windows: docs/pictures/dialogs
+pictures:
+	@tools/pictures.sh
 
 test:
 	@tools/test.sh native win32

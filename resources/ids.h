@@ -225,3 +225,4 @@
 #define IDS_REDUCTION 2335
 // Texts of our own begin at 2700.
 #define IDS_NO_SAMPLING_INTERVAL 2701
+#define IDS_NO_SUCH_SET 2702

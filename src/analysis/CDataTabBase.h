@@ -77,11 +77,13 @@ class CDataTabBase : public CEditPage<ADM_TabSubDialog> {
     ADM_Button m_btnInvert;
     ADM_StaticText m_lblCount;
 
+    // Shows items in the edit, counted from 1, and reads what is typed there, counted from 0.
+    void ShowListText(const std::vector<std::int32_t>& vItems);
+    std::vector<std::int32_t> ParseEdit();
+
   private:
     const char* GetStoredList(int n) const;
     void StoreList(const std::vector<std::int32_t>& vItems);
-    void ShowListText(const std::vector<std::int32_t>& vItems);
-    std::vector<std::int32_t> ParseEdit();
 
     std::uint32_t m_uListedGroup = 0;  // whose sets the lists hold
 };

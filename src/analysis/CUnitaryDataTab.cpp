@@ -80,17 +80,18 @@ bool CUnitaryDataTab::SetUp() {
 
 // Without the group selector the region stands at the top of its column, where that would be.
 void CUnitaryDataTab::CloseGroupGap() {
-    const auto place = [this](const ADM_Wnd& control) {
+    const auto place = [this](HWND hControl) {
         RECT rc;
-        control.GetWindowRect(&rc);
+        ::GetWindowRect(hControl, &rc);
         MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(&rc), 2);
         return rc;
     };
-    const LONG nUp = place(m_lblRegion).top - place(m_lblGroup).top;
+    const LONG nUp =
+        place(m_lblRegion.GetHandle()).top - place(GetDlgItem(m_hWnd, IDC_GROUPS_ACTIVE)).top;
     for (ADM_Wnd* pControl :
          {static_cast<ADM_Wnd*>(&m_lblRegion), static_cast<ADM_Wnd*>(&m_cmbRegion),
           static_cast<ADM_Wnd*>(&m_chkForceToZero)}) {
-        const RECT rc = place(*pControl);
+        const RECT rc = place(pControl->GetHandle());
         SetWindowPos(pControl->GetHandle(), nullptr, rc.left, rc.top - nUp, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
@@ -234,8 +235,10 @@ void CUnitaryDataTab::SelectByMode(int eMode) {
             break;
         default:
             ReadListText();
-            break;
+            return;
     }
+    // What the rule selects can be read in the greyed edit; what was typed there is still stored.
+    ShowListText(list.GetSelection());
 }
 
 void CUnitaryDataTab::ApplySetMode() {
@@ -279,11 +282,20 @@ void CUnitaryDataTab::ReadControls() {
     m_pData->SetSelectedGroupCount(m_nActiveList, static_cast<std::uint32_t>(GetListSelCount()));
 }
 
+// Sets that are not there are no choice of the user's. A deferred run may find them in its data.
+CheckResult CUnitaryDataTab::CheckTypedSets() {
+    if (GetSetMode() != Model::kTypedSets || m_pData->GetFlags().bUseStoredInfo != 0) return {};
+    char szNoun[64];
+    const char* szSet = m_pData->GetDataSource()->GetSetLabel();
+    LowerNoun(szNoun, szSet != nullptr ? szSet : "Set");
+    return CheckSetsExist(ParseEdit(), GetActiveList().GetCount(), szNoun, IDC_SET_LIST_TEXT);
+}
+
 BOOL CUnitaryDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
     const int nWhere =
         GetSetMode() == Model::kTypedSets ? IDC_SET_LIST_TEXT : GetActiveList().GetControlId();
     return Passes(CheckAnySetSelected(GetListSelCount(), nWhere), bSilent, ppFailed) &&
-           CDataTabBase::Validate(bSilent, ppFailed);
+           Passes(CheckTypedSets(), bSilent, ppFailed) && CDataTabBase::Validate(bSilent, ppFailed);
 }
 
 // --- Events ----------------------------------------------------------------------------------

@@ -27,6 +27,7 @@ class CUnitaryDataTab : public CDataTabBase {
     int GetSetMode();
     void ShowRegion(bool bFill);
     void TakeRegion();
+    CheckResult CheckTypedSets();
     void ShowCount();
     void ShowGroupSets();
     void ShowSetCaptions();

@@ -1,5 +1,6 @@
 #include "analysis/DataChecks.h"
 
+#include <algorithm>
 #include <string>
 
 #include "ZXADLG.h"
@@ -44,4 +45,15 @@ CheckResult CheckAnySetSelected(int nSelected, int nListControl) {
 CheckResult CheckRowOrder(int nFirst, int nLast, int nFirstControl) {
     if (nFirst != 0 && nLast != 0 && nFirst < nLast) return {};
     return Finding{.nStringId = IDS_RANGE_ORDER, .nControl = nFirstControl};
+}
+
+CheckResult CheckSetsExist(const std::vector<std::int32_t>& vItems, int nCount, const char* szNoun,
+                           int nListControl) {
+    const bool bAll = std::all_of(vItems.begin(), vItems.end(), [nCount](std::int32_t nItem) {
+        return nItem >= 0 && nItem < nCount;
+    });
+    if (bAll) return {};
+    return Finding{.nStringId = IDS_NO_SUCH_SET,
+                   .vArguments = {szNoun, std::to_string(nCount)},
+                   .nControl = nListControl};
 }

@@ -2,6 +2,7 @@
 // finding or none.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "contract/Finding.h"
@@ -18,3 +19,7 @@ CheckResult CheckAnySetSelected(int nSelected, int nListControl);
 // The first row must lie before the last, and neither be 0; nFirstControl is the field of the
 // first.
 CheckResult CheckRowOrder(int nFirst, int nLast, int nFirstControl);
+
+// Every item, counted from 0, is one of nCount sets.
+CheckResult CheckSetsExist(const std::vector<std::int32_t>& vItems, int nCount, const char* szNoun,
+                           int nListControl);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "framework/ADM_Button.h"
+#include "framework/ADM_Dialog.h"
 #include "framework/ADM_RadioButtons.h"
 #include "framework/ADM_Static.h"
 #include "ids.h"

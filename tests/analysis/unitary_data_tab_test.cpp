@@ -121,7 +121,7 @@ TEST_F(UnitaryTab, RegionTakesThePlaceOfAHiddenGroupSelector) {
     DialogScript hidden;
     hidden
         .Do([&](HWND dialog) {
-            EXPECT_EQ(top(dialog, IDC_REGION_LABEL), top(dialog, IDC_GROUP_LABEL));
+            EXPECT_EQ(top(dialog, IDC_REGION_LABEL), top(dialog, IDC_GROUPS_ACTIVE));
             EXPECT_EQ(top(dialog, IDC_REGION) - top(dialog, IDC_REGION_LABEL), gap);
         })
         .Click(IDCANCEL);
@@ -171,18 +171,24 @@ TEST_F(UnitaryTab, SetModesSelectAndEnable) {
     script.Do([this] { log.Take(); }).Click(IDC_SETS_VISIBLE).Do(Selected(visible));
     EnabledList(script, false).ExpectEnabled(IDC_SET_LIST_TEXT, false);
     script.Do([this] { EXPECT_EQ(record.eDataSet1SelectionMode, 0); })
+        .ExpectText(IDC_SET_LIST_TEXT, "1..3,5..7,9..11")
         .Click(IDC_SETS_ALL)
         .Do(Selected(Upto(12)))
+        .ExpectText(IDC_SET_LIST_TEXT, "1..12")
         .Do([this] { EXPECT_EQ(record.eDataSet1SelectionMode, 1); })
         .Click(IDC_SETS_ACTIVE)
         .Do(Selected({5}))
+        .ExpectText(IDC_SET_LIST_TEXT, "6")
+        .ExpectEnabled(IDC_SET_LIST_TEXT, false)
         .Do([this] { EXPECT_EQ(record.eDataSet1SelectionMode, 2); });
     EnabledList(script, false);
-    script.Click(IDC_SETS_LISTED).Do(Selected({0, 1, 2}));
+    // What the rules showed in the edit has replaced nothing.
+    script.Click(IDC_SETS_LISTED).Do(Selected({0, 1, 2})).ExpectText(IDC_SET_LIST_TEXT, "1..3");
     EnabledList(script, true);
-    script.Click(IDC_SETS_TYPED).ExpectEnabled(IDC_SET_LIST_TEXT, true).Do([this] {
-        EXPECT_EQ(record.eDataSet1SelectionMode, 4);
-    });
+    script.Click(IDC_SETS_TYPED)
+        .ExpectText(IDC_SET_LIST_TEXT, "1..3")
+        .ExpectEnabled(IDC_SET_LIST_TEXT, true)
+        .Do([this] { EXPECT_EQ(record.eDataSet1SelectionMode, 4); });
     EnabledList(script, false);
     script
         .Do([this] {
@@ -265,6 +271,35 @@ TEST_F(UnitaryTab, TypedTextThatCannotBeReadSelectsNothing) {
         .Click(IDOK);
     EXPECT_EQ(ShowUnitary(script), 1);
     EXPECT_STREQ(record.szUnitarySelectionList1, "0");
+}
+
+TEST_F(UnitaryTab, AListThatNamesSetsThatAreNotThereIsRefused) {
+    constexpr char kNoSuchTrace[] =
+        "The list names a trace that the data do not have. They are numbered from 1 to 12.";
+    record.eDataSet1SelectionMode = 4;
+    for (const char* szTyped : {"2,13", "2..40", "0,2"}) {
+        SCOPED_TRACE(szTyped);
+        DialogScript script;
+        script.Type(IDC_SET_LIST_TEXT, szTyped)
+            .Click(IDOK)
+            .Answer(IDOK, kNoSuchTrace)
+            .ExpectFocus(IDC_SET_LIST_TEXT)
+            .ExpectText(IDC_SET_LIST_TEXT, szTyped)
+            .Type(IDC_SET_LIST_TEXT, "2,12")
+            .Click(IDOK);
+        EXPECT_EQ(ShowUnitary(script), 1);
+        EXPECT_STREQ(record.szUnitarySelectionList1, "1,11");
+    }
+}
+
+// A deferred run finds its sets in its own data.
+TEST_F(UnitaryTab, AListWithStoredInfoMayNameAnySets) {
+    flags.bUseStoredInfo = 1;
+    record.eDataSet1SelectionMode = 4;
+    DialogScript script;
+    script.Type(IDC_SET_LIST_TEXT, "2,13").Click(IDOK);
+    EXPECT_EQ(ShowUnitary(script), 1);
+    EXPECT_STREQ(record.szUnitarySelectionList1, "1,12");
 }
 
 TEST_F(UnitaryTab, ToolsSelectAllNoneAndTheOthers) {

@@ -44,6 +44,8 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2384, "%s (read only)"},
         {2395, "Close"},
         {2400, "Could not establish data properties. Select a valid data set."},
+        {2701, "The data file does not tell its sampling interval."},
+        {2702, "The list names a %s that the data do not have. They are numbered from 1 to %s."},
     };
     for (const auto& [id, text] : rows) {
         SCOPED_TRACE(id);
