@@ -1,5 +1,6 @@
 #include "framework/ADM_ComboBox.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,8 @@
 
 namespace {
 
+// Names beyond these are like those before; a list of ten thousand sets opens at once.
+constexpr int kMostItemsMeasured = 1000;
 constexpr char kOldProcProp[] = "ADM_OldWndProc";
 
 // Offers each character typed to the dialog, which answers 0 to drop it. It knows the windows only,
@@ -109,7 +112,32 @@ void ADM_ComboBox::OnCommand(HWND, int nId, HWND, int nCode) {
     const CommandRow& row = kCommands[nCode - CBN_ERRSPACE];
     if (row.eRead == ReadFirst::kReadControl) ReadControl();
     if (row.eRead == ReadFirst::kListChanged) OnListChanged();
+    if (nCode == CBN_DROPDOWN && m_hWnd != nullptr) FitDroppedList();
     Notify(this, nId, row.nNotification, 0);
+}
+
+// The list opens as wide as its widest item, and at least as wide as the field.
+void ADM_ComboBox::FitDroppedList() const {
+    const LONG_PTR nStyle = ::GetWindowLongPtrA(m_hWnd, GWL_STYLE);
+    if ((nStyle & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0) return;
+    const int nItems = std::min(GetCount(), kMostItemsMeasured);
+    const HDC hDC = ::GetDC(m_hWnd);
+    const HGDIOBJ hOld =
+        ::SelectObject(hDC, reinterpret_cast<HGDIOBJ>(::SendMessageA(m_hWnd, WM_GETFONT, 0, 0)));
+    LONG nWidest = 0;
+    for (int i = 0; i < nItems; ++i) {
+        char szText[256];
+        const int nLength = GetLBText(i, szText, sizeof szText);
+        SIZE size = {};
+        if (nLength > 0 && ::GetTextExtentPoint32A(hDC, szText, nLength, &size))
+            nWidest = std::max(nWidest, size.cx);
+    }
+    ::SelectObject(hDC, hOld);
+    ::ReleaseDC(m_hWnd, hDC);
+    RECT rc;
+    ::GetWindowRect(m_hWnd, &rc);
+    const LONG nFrame = ::GetSystemMetrics(SM_CXVSCROLL) + 4 * ::GetSystemMetrics(SM_CXEDGE);
+    Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::max(nWidest + nFrame, rc.right - rc.left)));
 }
 
 int ADM_ComboBox::Send(UINT uMsg, WPARAM wParam, LPARAM lParam) const {

@@ -1,6 +1,6 @@
 // A combo box whose selection is kept in the object. Its items live in the window: they are added
 // again at each opening, then OnAttach selects the kept index. Indices count from 0; -1 is no
-// selection.
+// selection. Its list opens as wide as its widest item.
 //
 // The list operations mean what the platform's messages mean and return 0 with no window; an index
 // out of range is passed on as it is and answered with CB_ERR. A subclass filters typing in OnChar
@@ -61,6 +61,7 @@ class ADM_ComboBox : public ADM_Wnd {
   protected:
     int Send(UINT uMsg, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void HookEdit();
+    void FitDroppedList() const;
 
     BOOL m_bEditHooked = FALSE;
     int m_nSelected = -1;

@@ -60,6 +60,34 @@ class ComboBox : public testing::Test {
     CountingCombo combo, edit;
 };
 
+TEST_F(ComboBox, ListOpensAsWideAsItsWidestItemAndNeverNarrowerThanItsField) {
+    Open();
+    const HWND hCombo = combo.GetHandle();
+    RECT rcField;
+    GetWindowRect(hCombo, &rcField);
+    const int nField = rcField.right - rcField.left;
+    const auto widthOpen = [&] {
+        combo.ShowDropDown(TRUE);
+        const auto nWidth = static_cast<int>(SendMessageA(hCombo, CB_GETDROPPEDWIDTH, 0, 0));
+        combo.ShowDropDown(FALSE);
+        return nWidth;
+    };
+    Fill();
+    EXPECT_EQ(widthOpen(), nField);
+    const std::string sLong(60, 'W');
+    combo.AddString(sLong.c_str());
+    const HDC hDC = GetDC(hCombo);
+    SelectObject(hDC, reinterpret_cast<HGDIOBJ>(SendMessageA(hCombo, WM_GETFONT, 0, 0)));
+    SIZE size;
+    GetTextExtentPoint32A(hDC, sLong.c_str(), 60, &size);
+    ReleaseDC(hCombo, hDC);
+    EXPECT_GT(size.cx, nField);
+    EXPECT_GE(widthOpen(), size.cx + GetSystemMetrics(SM_CXVSCROLL));
+    EXPECT_LE(widthOpen(), size.cx + GetSystemMetrics(SM_CXVSCROLL) + 12);
+    combo.DeleteString(combo.FindStringExact(-1, sLong.c_str()));
+    EXPECT_EQ(widthOpen(), nField);
+}
+
 TEST_F(ComboBox, EverythingAnswersZeroWithNoWindow) {
     char szText[8] = "x";
     EXPECT_EQ(combo.GetCount(), 0);
