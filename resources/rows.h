@@ -9,6 +9,8 @@
 
 // A label starts a group of its own, which ends a radio set before it.
 #define LABEL(text, id, x, y, w, h) CONTROL text, id, "STATIC", SS_LEFT | WS_GROUP | ZX_CHILD, x, y, w, h
+// The name of the field behind it for those who cannot see that the button beside the field labels it.
+#define NAME(text, x, y) CONTROL text, -1, "STATIC", NOT WS_VISIBLE | SS_LEFT | WS_GROUP | WS_CHILD, x, y, 4, 8
 #define GROUP(text, id, x, y, w, h) CONTROL text, id, "BUTTON", BS_GROUPBOX | WS_GROUP | ZX_CHILD, x, y, w, h
 #define PUSH(text, id, x, y, w, h) CONTROL text, id, "BUTTON", BS_PUSHBUTTON | WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h
 #define DEFAULT(text, id, x, y, w, h) CONTROL text, id, "BUTTON", BS_DEFPUSHBUTTON | WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h

@@ -24,6 +24,7 @@ struct TemplateItem {
     DWORD buttonType() const { return kind == "BUTTON" ? style & 0xF : 0xFF; }
     bool isRadio() const { return buttonType() == BS_AUTORADIOBUTTON; }
     bool isGroupBox() const { return buttonType() == BS_GROUPBOX; }
+    bool isVisible() const { return (style & WS_VISIBLE) != 0; }
     bool isTabStop() const { return (style & WS_TABSTOP) != 0; }
 };
 

@@ -157,6 +157,7 @@ TEST_F(TemplateLint, NothingOverlaps) {
             for (std::size_t j = i + 1; j < dialog.items.size(); ++j) {
                 const TemplateItem& a = dialog.items[i];
                 const TemplateItem& b = dialog.items[j];
+                if (!a.isVisible() || !b.isVisible()) continue;
                 const bool meet =
                     a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
                 if (!meet) continue;
@@ -177,7 +178,8 @@ TEST_F(TemplateLint, CaptionsFitTheirControlsWithATenthToSpare) {
     for (const TemplateBytes& dialog : templates) {
         for (const TemplateItem& item : dialog.items) {
             if (item.kind != "BUTTON" && item.kind != "STATIC") continue;
-            if (item.text.empty() || item.text == "%0" || item.text == "%s") continue;
+            if (!item.isVisible() || item.text.empty() || item.text == "%0" || item.text == "%s")
+                continue;
             for (const std::string& text : TextsOf(dialog.id, item)) {
                 int needed = TextWidth(Filled(text)) * 11 / 10;
                 if (item.isRadio() || item.buttonType() == BS_AUTOCHECKBOX) needed += 12;
@@ -364,6 +366,28 @@ TEST_F(TemplateLint, LabelsStandDirectlyBeforeTheirFields) {
                 label.y == field.y + 3 && field.x >= label.right() && field.x - label.right() <= 8;
             EXPECT_TRUE(above || beside)
                 << Where(dialog, label) << " is not at " << Where(dialog, field);
+        }
+    }
+}
+
+// What a screen reader says of a field is the text directly before it: a label, or the button that
+// opens the field; behind a set of buttons, a label that is not shown.
+TEST_F(TemplateLint, EveryFieldHasAName) {
+    for (const TemplateBytes& dialog : templates) {
+        for (std::size_t i = 0; i < dialog.items.size(); ++i) {
+            const TemplateItem& field = dialog.items[i];
+            if (field.kind != "EDIT" && field.kind != "COMBOBOX" && field.kind != "LISTBOX")
+                continue;
+            ASSERT_GT(i, 0u) << Where(dialog, field);
+            const TemplateItem& before = dialog.items[i - 1];
+            const bool names = before.kind == "STATIC" || before.kind == "BUTTON";
+            EXPECT_TRUE(names && !before.isGroupBox() && !before.text.empty())
+                << Where(dialog, field) << " has no name";
+            // The last button of a set names a field that stands beside it or right below.
+            if (!before.isRadio()) continue;
+            const bool beside = before.y < field.bottom() && field.y < before.bottom();
+            EXPECT_TRUE(beside || field.y - before.bottom() <= 5)
+                << Where(dialog, before) << " names " << Where(dialog, field);
         }
     }
 }

@@ -113,8 +113,7 @@ TEST_P(EveryDialogAtTheKeyboard, WhatAComboBoxOffersCanBeReadInItsField) {
                 GetClientRect(combo, &rc);
                 const int nRoom = static_cast<int>(rc.right) - GetSystemMetrics(SM_CXVSCROLL) - 8;
                 const HDC dc = GetDC(combo);
-                SelectObject(dc,
-                             reinterpret_cast<HGDIOBJ>(SendMessageA(combo, WM_GETFONT, 0, 0)));
+                SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageA(combo, WM_GETFONT, 0, 0)));
                 for (const std::string& text : test_support::ItemsOf(combo)) {
                     SIZE size = {};
                     GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(text.size()), &size);
