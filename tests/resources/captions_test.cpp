@@ -81,6 +81,7 @@ const std::map<int, Captions>& GivenCaptions() {
          }},
         {2114,
          {
+             {-1, "Processing"},
              {-1, "&Waveform:"},
              {-1, "&Conversion factor:"},
              {-1, "&Passive resistance (megohms):"},
