@@ -465,15 +465,6 @@ TEST_F(Rules, EvenXToAHundredth) {
     const EvenXFinding missing = EvenXOf(*this, {});
     EXPECT_FALSE(missing.bEven);
     EXPECT_EQ(missing.nString, 0);
-    char szText[128] = "";
-    LoadStringA(GetModuleHandleA(nullptr), 2199, szText, sizeof szText);
-    EXPECT_STREQ(szText,
-                 "The Chebyshev method requires evenly spaced x axis values.\nSelect another "
-                 "search method.");
-    LoadStringA(GetModuleHandleA(nullptr), 2200, szText, sizeof szText);
-    EXPECT_STREQ(szText,
-                 "Maximum likelihood requires evenly spaced x axis values.\nSelect another "
-                 "minimization method.");
 }
 
 TEST_F(Rules, ExtrapolationLimitsOfConcentrationsAreAboveZeroOnASheet) {
