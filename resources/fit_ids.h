@@ -1,4 +1,4 @@
-// String ids of curve fitting.
+// Resource ids of curve fitting.
 #pragma once
 
 // --- The captions of the functions.
@@ -144,3 +144,11 @@
 #define IDS_FIT_GRAPH_NOT_LINE 2313
 #define IDS_FIT_GRAPH_SEED_MISSING 2316
 #define IDS_FIT_GRAPH_CUSTOM_MISSING 2315
+
+// --- Controls that a check points at.
+#define IDC_FIT_FUNCTIONS 2022
+#define IDC_FIT_END_TERM 2056
+#define IDC_FIT_SEED_FIRST 2092
+#define IDC_FIT_EQUATION 2142
+#define IDC_FIT_TO_VALUE 2581
+#define IDC_FIT_FROM_VALUE 2582

@@ -354,8 +354,7 @@ EvenXFinding CFitOptionsInterface::IsXUniform() const {
     if (IsLineOrPolynomial() || (!bLikelihood && !bChebyshev)) return {};
     const double* x = m_pData->GetXValues();
     if (x == nullptr) return {false, 0};
-    const std::uint32_t uPoints =
-        std::min(m_pData->GetSelectedPointCount(), m_pData->GetPointCount());
+    const std::uint32_t uPoints = m_pData->GetFetchedXCount();
     for (std::uint32_t i = 1; i + 1 < uPoints; ++i) {
         const double dChange = (x[i + 1] - x[i]) - (x[i] - x[i - 1]);
         if (std::fabs(dChange) <= kEvenTolerance) continue;
