@@ -85,9 +85,17 @@ bool CParentDialogBase::SetUp() {
         OnCancel();
         return false;
     }
-    // A memory that points past the last tab is of a dialog with more tabs than this one.
-    if (m_nLastTab != 0 && !IsReadOnly() && m_nLastTab < GetPageCount()) SelectPage(m_nLastTab);
     return true;
+}
+
+BOOL CParentDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
+    const BOOL bResult = CEditPage::OnInitDialog(hWnd, hFocus, lParam);
+    // A memory that points past the last tab is of a dialog with more tabs than this one. A page
+    // that refuses to be left would say so before the user has done anything.
+    const bool bRemembered = m_nLastTab != 0 && m_nLastTab < GetPageCount();
+    if (IsReady() && bRemembered && !IsReadOnly() && GetCurrentPage()->CanLeavePage())
+        SelectPage(m_nLastTab);
+    return bResult;
 }
 
 // --- Ending ----------------------------------------------------------------------------------
@@ -128,7 +136,9 @@ bool CParentDialogBase::PassChecks() {
 bool CParentDialogBase::Answer(const Finding& finding) {
     const int nPage =
         finding.nPage == Finding::kCurrentPage ? GetCurrentPageIndex() : finding.nPage;
-    BringUpPage(nPage);
+    // A question stands over the page that the user sees; its answer decides on the page.
+    const bool bAsks = !finding.vAnswers.empty();
+    if (!bAsks) BringUpPage(nPage);
     const UINT nButton = ShowFinding(m_hWnd, finding);
     const Finding::Answer* pAnswer = finding.FindAnswer(nButton);
     if (pAnswer != nullptr && pAnswer->step) pAnswer->step();
@@ -139,6 +149,7 @@ bool CParentDialogBase::Answer(const Finding& finding) {
             EndDialogWith(ZXADLG_CANCEL);
             return false;
         default:
+            if (bAsks) BringUpPage(nPage);
             FocusControl(*GetPage(nPage), finding.nControl);
             return false;
     }

@@ -68,8 +68,7 @@ void CFitAdvancedTab::BindMethods() {
         m_radSearch, [this] { return m_pFit->GetSearchMethod(); },
         [this](int e) { m_pFit->SetSearchMethod(e); })
         .Then([this] { ChangeMethod(); });
-    BindRadios({IDC_FIT_SQUARED_ERRORS, IDC_FIT_LIKELIHOOD, IDC_FIT_MINIMAX,
-                IDC_FIT_MEAN_ABSOLUTE},
+    BindRadios({IDC_FIT_SQUARED_ERRORS, IDC_FIT_LIKELIHOOD, IDC_FIT_MINIMAX, IDC_FIT_MEAN_ABSOLUTE},
                m_radMinim, &FitOptions::eMinimMethod)
         .Then([this] { ChangeMethod(); });
     BindRadios({IDC_FIT_WEIGHT_NONE, IDC_FIT_WEIGHT_FUNCTION, IDC_FIT_WEIGHT_DATA,
@@ -97,8 +96,7 @@ void CFitAdvancedTab::BindMethods() {
 }
 
 void CFitAdvancedTab::BindPrecision(int nField, int nDefault, Precision& precision,
-                                    double FitOptions::*pUser,
-                                    std::int32_t FitOptions::*pDefault) {
+                                    double FitOptions::*pUser, std::int32_t FitOptions::*pDefault) {
     Bind(nField, precision.txt, pUser);
     precision.txt.SetRange(kFitPrecisionRange.dLow, kFitPrecisionRange.dHigh);
     Bind(nDefault, precision.chkDefault, pDefault).Then([this, &precision, pUser] {
@@ -136,8 +134,8 @@ void CFitAdvancedTab::BindRange() {
         [this](bool b) { m_pFit->Data().SetExtrapolate(b); });
     Label(IDC_FIT_CURSOR_PAIR, m_cmbCursorPair);
     OnEvent(m_cmbCursorPair, ADMN_COMBOSELCHANGE, [this] {
-        m_pFit->Data().SetExtrapolationCursor(static_cast<std::uint32_t>(
-            m_cmbCursorPair.GetItemData(m_cmbCursorPair.GetCurSel())));
+        m_pFit->Data().SetExtrapolationCursor(
+            static_cast<std::uint32_t>(m_cmbCursorPair.GetItemData(m_cmbCursorPair.GetCurSel())));
     });
 }
 
@@ -147,8 +145,7 @@ bool CFitAdvancedTab::SetUp() {
                                     static_cast<LPARAM>(pair.uFirst));
     // A number that stands for neither pair shows the first.
     m_cmbCursorPair.SetCurSel(0);
-    m_cmbCursorPair.SelectData(-1,
-                               static_cast<LPARAM>(m_pFit->Data().GetExtrapolationCursor()));
+    m_cmbCursorPair.SelectData(-1, static_cast<LPARAM>(m_pFit->Data().GetExtrapolationCursor()));
     return true;
 }
 
@@ -182,9 +179,9 @@ void CFitAdvancedTab::UpdateControls() {
 void CFitAdvancedTab::ShowMethods() {
     ShowValue(m_chkAutomatic, m_pRecord->bAutoDefaultOptions != 0);
     EnableControls({&m_chkAutomatic}, true);
-    const std::array<bool, 4> search = {
-        m_pFit->IsSearchLMEnabled(), m_pFit->IsSearchVMEnabled(), m_pFit->IsSearchSimplexEnabled(),
-        m_pFit->IsSearchChebyshevEnabled()};
+    const std::array<bool, 4> search = {m_pFit->IsSearchLMEnabled(), m_pFit->IsSearchVMEnabled(),
+                                        m_pFit->IsSearchSimplexEnabled(),
+                                        m_pFit->IsSearchChebyshevEnabled()};
     const std::array<bool, 4> minim = {m_pFit->IsMinimSSEnabled(), m_pFit->IsMinimMLEnabled(),
                                        m_pFit->IsMinimMinimaxEnabled(),
                                        m_pFit->IsMinimMeanAbsEnabled()};

@@ -13,8 +13,7 @@
 
 class CFitAdvancedTab : public CRecordPage<FitOptions, COptionsTabBase> {
   public:
-    CFitAdvancedTab(CFitOptionsInterface* pFit, const ZXADLG_DlgParams* pParams,
-                    bool bHasDataPage);
+    CFitAdvancedTab(CFitOptionsInterface* pFit, const ZXADLG_DlgParams* pParams, bool bHasDataPage);
 
     void UpdateControls() override;
     // Tells that the page is left.

@@ -307,9 +307,8 @@ void CFitFunctionTab::ChangeKind() {
 
 void CFitFunctionTab::ChangeEquation(const std::string& sText) {
     m_pFit->bCustomTextPresent = !sText.empty();
-    m_pFit->bCustomCompiled =
-        m_pFit->bCustomCompiled &&
-        WithoutBlanks(sText.c_str()) == RightSideOf(m_pRecord->szEquation);
+    m_pFit->bCustomCompiled = m_pFit->bCustomCompiled &&
+                              WithoutBlanks(sText.c_str()) == RightSideOf(m_pRecord->szEquation);
     m_pFit->Notify(kNotifyFitRefitChanged);
 }
 

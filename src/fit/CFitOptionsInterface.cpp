@@ -74,8 +74,8 @@ void CFitOptionsInterface::Open() {
                                   &record.uDlgFitOrder, &record.uPolynomTerm})
         *puTerm = InTerms(*puTerm);
     record.uEndCompare = std::clamp<std::uint32_t>(record.uEndCompare, 2, kMaxTerms);
-    record.uNernstValence = static_cast<std::uint32_t>(
-        ClampValence(static_cast<std::int32_t>(record.uNernstValence)));
+    record.uNernstValence =
+        static_cast<std::uint32_t>(ClampValence(static_cast<std::int32_t>(record.uNernstValence)));
     // Of each pair one is stored, or survives a function of one term.
     if (record.bUseChebyFilter != 0) record.bDlgChebyFilter = 1;
     if (record.bDlgCompareModels != 0) record.bCompareModels = 1;

@@ -122,8 +122,8 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     // --- What follows a change of the record.
     // Takes the record as it stands for settled, so that only later changes count.
     void BeginSettled();
-    // Chooses the methods, automatically or by moving selections off what is not open, and reads the
-    // properties where they may have changed. Telling of it is the caller's.
+    // Chooses the methods, automatically or by moving selections off what is not open, and reads
+    // the properties where they may have changed. Telling of it is the caller's.
     FitChanges Settle();
     // Settles, keeps the flags about the seeds, and tells the observers what changed. False where
     // the library refused.

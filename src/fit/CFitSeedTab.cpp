@@ -172,8 +172,7 @@ bool CFitSeedTab::AutoEstimate(bool bReport) {
     const CheckResult fault = CheckDataForFit(*m_pFit, FitDataUse::kEstimate);
     if (fault.has_value() && bReport) {
         ShowFinding(m_hWnd, *fault);
-        if (fault->nStringId == IDS_FIT_CONSTANTS_POSITIVE)
-            m_pFit->Notify(kNotifyFitShowDataPage);
+        if (fault->nStringId == IDS_FIT_CONSTANTS_POSITIVE) m_pFit->Notify(kNotifyFitShowDataPage);
     }
     const bool bDone = !fault.has_value() && !m_pFit->bAutoSeedDeclined && Compute();
     if (bDone) {
@@ -184,8 +183,7 @@ bool CFitSeedTab::AutoEstimate(bool bReport) {
         const bool bTell = bReport && !fault.has_value() && !m_pFit->bAutoSeedDeclined;
         m_pFit->bAutoSeedDeclined = false;
         if (bTell)
-            ShowFinding(m_hWnd,
-                        {.nStringId = IDS_FIT_ESTIMATE_FAILED, .uFlags = MB_ICONINFORMATION});
+            ShowFinding(m_hWnd, {.nStringId = IDS_FIT_ESTIMATE_FAILED, .uFlags = MB_ICONASTERISK});
     }
     m_bTyped = false;
     m_pFit->bSeedsValid = bDone;
@@ -237,7 +235,7 @@ void CFitSeedTab::TakeTyped() {
 void CFitSeedTab::TellOfMended(bool bProportions, bool bOthers) {
     const auto tell = [this](UINT uString) {
         ShowSeeds();
-        ShowFinding(m_hWnd, {.nStringId = uString, .uFlags = MB_ICONINFORMATION});
+        ShowFinding(m_hWnd, {.nStringId = uString, .uFlags = MB_ICONASTERISK});
     };
     if (m_pFit->IsMLEInEffect()) return tell(IDS_FIT_MENDED_LIKELIHOOD);
     if (m_pFit->Properties().bAlwaysPositive != 0) return tell(IDS_FIT_MENDED_ALWAYS_POSITIVE);

@@ -96,8 +96,7 @@ void CFitSeedTab::ShowColumnLabels(bool bShown) {
             const std::uint32_t uLast = std::min(uParams, uFirst + kRows - 1);
             bColumn = uParams >= uFirst;
             char szText[64];
-            FormatCaption(szText,
-                          Text(uLast == uFirst ? IDS_FIT_ONE_PARAMETER : kFrom[c]).c_str(),
+            FormatCaption(szText, Text(uLast == uFirst ? IDS_FIT_ONE_PARAMETER : kFrom[c]).c_str(),
                           std::to_string(uLast).c_str());
             sText = szText;
         }

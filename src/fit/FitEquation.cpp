@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 #include "text/BoundedText.h"
 #include "text/TextTests.h"
@@ -47,7 +48,7 @@ void StoreExampleEquations(FitOptions& options) {
 
 void PutRecentEquation(FitOptions& options, const std::string& sRightSide) {
     auto& list = options.szCustomEquations;
-    constexpr std::size_t kLast = std::size(options.szCustomEquations) - 1;
+    constexpr std::size_t kLast = std::extent_v<decltype(FitOptions::szCustomEquations)> - 1;
     std::size_t nPlace = 0;
     while (nPlace < kLast && !EqualNoCase(list[nPlace], sRightSide)) ++nPlace;
     const bool bThere = EqualNoCase(list[nPlace], sRightSide);

@@ -2,7 +2,7 @@
 #pragma once
 
 struct FitMemory {
-    bool bOpenedBefore = false;      // an OK has succeeded
+    bool bOpenedBefore = false;         // an OK has succeeded
     bool bLastNotColumnSource = false;  // what it was for
 };
 

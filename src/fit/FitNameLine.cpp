@@ -40,13 +40,13 @@ std::array<std::string, kFitNameFields> FitNameLine(const CFitOptionsInterface& 
     };
     const bool bAutoFree = options.bFreeAndRefit != 0 && fit.bSeedsValid &&
                            options.bCompareModels == 0 && IsAnyFixed(seeds);
-    return {Caption(fit, text),
-            where(props.bZeroShiftMandatory != 0 || fit.IsZeroShiftInEffect(),
-                  IDS_FIT_NAME_ZERO_SHIFT),
-            where(props.bIntegralX != 0, IDS_FIT_NAME_INTEGRAL_X),
-            where(props.bNormalizedX != 0, IDS_FIT_NAME_NORMALIZED_X),
-            where(props.bNormalizedY != 0, IDS_FIT_NAME_NORMALIZED_Y),
-            where(fit.IsForcePositiveInEffect(), IDS_FIT_NAME_FORCE_POSITIVE),
-            where(bAutoFree, IDS_FIT_NAME_AUTO_FREE),
-            where(fit.IsComparing(), IDS_FIT_NAME_COMPARE)};
+    return {
+        Caption(fit, text),
+        where(props.bZeroShiftMandatory != 0 || fit.IsZeroShiftInEffect(), IDS_FIT_NAME_ZERO_SHIFT),
+        where(props.bIntegralX != 0, IDS_FIT_NAME_INTEGRAL_X),
+        where(props.bNormalizedX != 0, IDS_FIT_NAME_NORMALIZED_X),
+        where(props.bNormalizedY != 0, IDS_FIT_NAME_NORMALIZED_Y),
+        where(fit.IsForcePositiveInEffect(), IDS_FIT_NAME_FORCE_POSITIVE),
+        where(bAutoFree, IDS_FIT_NAME_AUTO_FREE),
+        where(fit.IsComparing(), IDS_FIT_NAME_COMPARE)};
 }

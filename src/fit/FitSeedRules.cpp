@@ -51,9 +51,8 @@ MendedSeeds MendSigns(const CFitOptionsInterface& fit, CFitSeedInterface& seeds)
     const bool bForceProps = bAlways || fit.Options().bForcePropsPositive != 0;
     const bool bForceOthers = bAlways || fit.Options().bForceTausPositive != 0;
     const std::uint32_t uTerms = fit.EffectiveTermCount();
-    const std::uint32_t uCount =
-        std::min(props.bOnlyProportionsForced != 0 ? uTerms : uTerms * props.uParamsPerTerm,
-                 GridCount(fit));
+    const std::uint32_t uCount = std::min(
+        props.bOnlyProportionsForced != 0 ? uTerms : uTerms * props.uParamsPerTerm, GridCount(fit));
     for (std::uint32_t i = 0; i < uCount; ++i) {
         const bool bProportion = i < uTerms;
         double& dSeed = seeds.dSeeds[seeds.PlaceOfFlat(i)];
