@@ -30,6 +30,10 @@ class CFitDialog : public CParentDialogBase {
     void UpdateControls() override;
     void OnOK() override;
 
+    // What the pages work on.
+    CFitOptionsInterface& Fit() { return *m_pFit; }
+    CFitSeedInterface& Seeds() { return *m_pSeeds; }
+
   protected:
     bool SetUp() override;
     void OnAccepted() override;
