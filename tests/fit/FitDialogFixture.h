@@ -26,6 +26,12 @@ using test_support::DialogScript;
 using test_support::FindControl;
 using test_support::ItemsOf;
 
+// The buttons of a message in their order: OK or Yes, then Cancel or No.
+constexpr int kOkButton = 101;
+constexpr int kYesButton = 101;
+constexpr int kCancelButton = 102;
+constexpr int kNoButton = 102;
+
 enum Page : int { kFunction, kAdvanced, kSeeds, kData };
 
 class FitDialogTest : public testing::Test {

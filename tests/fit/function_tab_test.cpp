@@ -244,7 +244,7 @@ TEST_F(FunctionTab, TemperatureOutOfRangeIsToldAtOk) {
     options.eFunctionType = 30;
     ByHand(kSearchLM);
     DialogScript script;
-    script.Type(IDC_FIT_TEMPERATURE, "-280").Click(IDOK).Answer(IDOK).ExpectFocus(
+    script.Type(IDC_FIT_TEMPERATURE, "-280").Click(IDOK).Answer(kOkButton).ExpectFocus(
         IDC_FIT_TEMPERATURE);
     ShowAndCancel(script);
     ASSERT_EQ(script.Messages().size(), 1u);
@@ -269,7 +269,7 @@ TEST_F(FunctionTab, ComparisonOpensItsFields) {
         .ExpectEnabled(IDC_FIT_CONFIDENCE, false)
         .Click(IDC_FIT_COMPARE)
         .ExpectText(IDC_FIT_TERMS_LABEL, "(Comparing models)")
-        .ExpectText(IDC_FIT_NAME, " Exponential, standard (compare models)")
+        .ExpectText(IDC_FIT_NAME, " Exponential, standard (zero-shift) (compare models)")
         .ExpectEnabled(IDC_FIT_AUTO_COMPARE, true)
         .ExpectEnabled(IDC_FIT_CONFIDENCE, true)
         .ExpectEnabled(IDC_FIT_START_TERM, false)
@@ -293,7 +293,7 @@ TEST_F(FunctionTab, TypedTermsWhileComparingAskOnceAndOkStopsTheComparison) {
     options.uDlgFitOrder = 2;
     DialogScript script;
     script.Type(IDC_FIT_TERMS, "3")
-        .Answer(IDOK, kStopComparing)
+        .Answer(kOkButton, kStopComparing)
         .ExpectText(IDC_FIT_TERMS, "3")
         .ExpectChecked(IDC_FIT_COMPARE, BST_UNCHECKED)
         .ExpectText(IDC_FIT_TERMS_LABEL, "Number of te&rms (n):")
@@ -311,14 +311,14 @@ TEST_F(FunctionTab, TypedTermsWhileComparingAreTakenBackSilentlyBehindACancel) {
     options.uDlgFitOrder = 2;
     DialogScript script;
     script.Type(IDC_FIT_TERMS, "3")
-        .Answer(IDCANCEL, kStopComparing)
+        .Answer(kCancelButton, kStopComparing)
         .ExpectText(IDC_FIT_TERMS, "2")
         .Type(IDC_FIT_TERMS, "4")
         .ExpectText(IDC_FIT_TERMS, "2")
         .SelectTab(kAdvanced)
         .SelectTab(kFunction)
         .Type(IDC_FIT_TERMS, "5")
-        .Answer(IDCANCEL, kStopComparing);
+        .Answer(kCancelButton, kStopComparing);
     ShowAndCancel(script);
     EXPECT_EQ(options.uDlgFitOrder, 2u);
     EXPECT_EQ(options.bCompareModels, 1);
@@ -331,7 +331,7 @@ TEST_F(FunctionTab, EndingTermMustBeAboveTheStartingTerm) {
     options.uEndCompare = 3;
     DialogScript script;
     script.SelectTab(kAdvanced)
-        .Answer(IDOK, "The ending term must be greater than the starting term.")
+        .Answer(kOkButton, "The ending term must be greater than the starting term.")
         .ExpectVisible(IDC_FIT_FUNCTIONS, true)
         .Click(IDC_FIT_AUTO_COMPARE)
         .Type(IDC_FIT_END_TERM, "4")
@@ -347,9 +347,9 @@ TEST_F(FunctionTab, ComparisonOutlivesAFunctionOfOneTerm) {
     script.Choose(IDC_FIT_FUNCTIONS, "Exponential, product")
         .ExpectEnabled(IDC_FIT_COMPARE, false)
         .ExpectChecked(IDC_FIT_COMPARE, BST_CHECKED)
-        .ExpectText(IDC_FIT_NAME, " Exponential, product")
+        .ExpectText(IDC_FIT_NAME, " Exponential, product (zero-shift)")
         .Choose(IDC_FIT_FUNCTIONS, "Exponential, standard")
-        .ExpectText(IDC_FIT_NAME, " Exponential, standard (compare models)");
+        .ExpectText(IDC_FIT_NAME, " Exponential, standard (zero-shift) (compare models)");
     ShowAndCancel(script);
 }
 
