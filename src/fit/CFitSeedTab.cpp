@@ -43,7 +43,9 @@ CFitSeedTab::CFitSeedTab(CFitOptionsInterface* pFit, CFitSeedInterface* pSeeds,
 }
 
 void CFitSeedTab::BindPlaces() {
+    constexpr int kSigDigits = 6;
     for (std::uint32_t i = 0; i < kPlaces; ++i) {
+        m_atxtSeed[i].SetSigDigits(kSigDigits);
         Bind(
             IDC_FIT_SEED_FIRST + static_cast<int>(i), m_atxtSeed[i],
             [this, i] { return m_pSeeds->dSeeds[i]; },

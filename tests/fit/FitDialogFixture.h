@@ -95,7 +95,7 @@ class FitDialogTest : public testing::Test {
     std::string Flags() const {
         const CFitOptionsInterface& fit = dialog->Fit();
         const std::pair<bool, char> flags[] = {
-            {fit.bSeedsValid, 'V'},       {fit.bSeedsStale, 'S'},     {fit.bSeedsAutomatic, 'A'},
+            {fit.bSeedsValid, 'V'},       {fit.bSeedsStale, 'S'},      {fit.bSeedsAutomatic, 'A'},
             {fit.bAutoSeedDeclined, 'D'}, {fit.bSeedsNormalized, 'N'}, {fit.bCustomCompiled, 'C'},
             {fit.bCustomTextPresent, 'T'}};
         std::string on;

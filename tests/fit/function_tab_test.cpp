@@ -19,9 +19,9 @@ TEST_F(FunctionTab, ShowsTheRecord) {
     DialogScript script;
     script.ExpectTitle("Curve Fitting")
         .ExpectChecked(IDC_FIT_PREDEFINED, BST_CHECKED)
-        .ExpectItems(IDC_FIT_GROUP, {"All", "Distributions", "Electrophysiology",
-                                     "Exponential, Growth", "Dose Response", "Linear, Polynomial",
-                                     "Parabolic"})
+        .ExpectItems(IDC_FIT_GROUP,
+                     {"All", "Distributions", "Electrophysiology", "Exponential, Growth",
+                      "Dose Response", "Linear, Polynomial", "Parabolic"})
         .ExpectSelected(IDC_FIT_GROUP, "Exponential, Growth")
         .ExpectItems(IDC_FIT_FUNCTIONS,
                      {"Exponential, power", "Exponential, product", "Exponential, sloping baseline",
@@ -244,8 +244,10 @@ TEST_F(FunctionTab, TemperatureOutOfRangeIsToldAtOk) {
     options.eFunctionType = 30;
     ByHand(kSearchLM);
     DialogScript script;
-    script.Type(IDC_FIT_TEMPERATURE, "-280").Click(IDOK).Answer(kOkButton).ExpectFocus(
-        IDC_FIT_TEMPERATURE);
+    script.Type(IDC_FIT_TEMPERATURE, "-280")
+        .Click(IDOK)
+        .Answer(kOkButton)
+        .ExpectFocus(IDC_FIT_TEMPERATURE);
     ShowAndCancel(script);
     ASSERT_EQ(script.Messages().size(), 1u);
     EXPECT_NE(script.Messages()[0].text.find("-273"), std::string::npos);
