@@ -86,7 +86,12 @@ CheckResult CFitDialog::CheckLengths() {
 }
 
 CheckResult CFitDialog::CheckSeedValues() {
-    if (!IsReadOnly() && AreSeedsOutOfDate(*m_pFit)) m_pSeedTab->ClearSeeds();
+    if (!IsReadOnly() && AreSeedsOutOfDate(*m_pFit)) {
+        // While models are compared nothing is fixed, and what was chosen waits.
+        const CFitSeedInterface::Flags flags = m_pSeeds->uFixed;
+        m_pSeedTab->ClearSeeds();
+        if (m_pFit->IsComparing()) m_pSeeds->uFixed = flags;
+    }
     return CheckSeeds(*m_pFit, *m_pSeeds,
                       {.bReadOnly = IsReadOnly(),
                        .bDeferred = !HasLiveData(),
