@@ -33,6 +33,12 @@ std::vector<HWND> VisibleControls(HWND dialog) {
     return controls;
 }
 
+bool IsInput(HWND control) {
+    const auto type = GetWindowLongPtrA(control, GWL_STYLE) & BS_TYPEMASK;
+    const std::string kind = test_support::ClassOf(control);
+    return kind != "static" && !(kind == "button" && type == BS_GROUPBOX);
+}
+
 std::string PageState(HWND dialog) {
     std::string state;
     for (HWND control : VisibleControls(dialog)) state += StateOf(control);

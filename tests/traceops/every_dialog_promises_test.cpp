@@ -104,6 +104,7 @@ TEST_P(EveryDialogPromises, ReadOnlyShowsTheRecordAndLetsNothingChange) {
             for (HWND control : VisibleControls(dialog)) {
                 SCOPED_TRACE(StateOf(control));
                 ++nControls;
+                EXPECT_FALSE(IsInput(control) && IsWindowEnabled(control));
                 Disturb(control);
                 EXPECT_EQ(PageState(dialog), state);
             }
