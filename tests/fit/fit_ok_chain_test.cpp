@@ -136,7 +136,8 @@ const Fault kFaults[] = {
      kAdvanced, kOkButton},
     {"no iterations", [](FitOk&) {},
      [](DialogScript& script) { script.SelectTab(kAdvanced).Type(IDC_FIT_ITERATIONS, "0"); },
-     "Validation Error\r\n\r\nValue in field 'Maximum iterations' must fall within the range of 1 to "
+     "Validation Error\r\n\r\nValue in field 'Maximum iterations' must fall within the range of 1 "
+     "to "
      "50000.",
      kAdvanced, kOkButton},
 };
