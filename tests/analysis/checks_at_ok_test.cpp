@@ -13,8 +13,8 @@ using test_support::DialogScript;
 
 class CheckedDialog : public PageDialog {
   public:
-    using PageDialog::PageDialog;
     using PageDialog::AddCheck;
+    using PageDialog::PageDialog;
     using PageDialog::SetDataTab;
 };
 
@@ -45,7 +45,8 @@ class ChecksAtOk : public testing::Test, protected analysis_test::PageSetup {
         };
     }
     static Finding Question(std::vector<Finding::Answer> answers) {
-        return {.szText = "Go on?", .uFlags = MB_YESNOCANCEL | MB_ICONQUESTION,
+        return {.szText = "Go on?",
+                .uFlags = MB_YESNOCANCEL | MB_ICONQUESTION,
                 .vAnswers = std::move(answers)};
     }
 
@@ -56,14 +57,15 @@ class ChecksAtOk : public testing::Test, protected analysis_test::PageSetup {
 TEST_F(ChecksAtOk, RunInOrderAndBeforeTheDataAreDescribed) {
     DialogScript script;
     script.Click(IDOK);
-    EXPECT_EQ(Run(script, [this](CheckedDialog& dialog) {
-                  dialog.AddCheck(Step('a'));
-                  dialog.AddCheck([this](const TypedValues&) {
-                      EXPECT_EQ(record.uGroupCount, 0u);
-                      order += 'b';
-                      return CheckResult{};
-                  });
-              }),
+    EXPECT_EQ(Run(script,
+                  [this](CheckedDialog& dialog) {
+                      dialog.AddCheck(Step('a'));
+                      dialog.AddCheck([this](const TypedValues&) {
+                          EXPECT_EQ(record.uGroupCount, 0u);
+                          order += 'b';
+                          return CheckResult{};
+                      });
+                  }),
               1);
     EXPECT_EQ(order, "ab");
     EXPECT_EQ(record.uGroupCount, 2u);
@@ -88,14 +90,15 @@ TEST_F(ChecksAtOk, AFindingKeepsTheDialogOpenOnItsPageWithItsControlFocused) {
         })
         .ExpectFocus(IDC_SET_LIST)
         .Click(IDCANCEL);
-    EXPECT_EQ(Run(script, [this](CheckedDialog& dialog) {
-                  dialog.AddCheck(Step('a', Finding{.szText = "The list of %s sets is too long "
-                                                              "for %s.",
-                                                    .vArguments = {"3", "IN 1"},
-                                                    .nPage = 1,
-                                                    .nControl = IDC_SET_LIST}));
-                  dialog.AddCheck(Step('b'));
-              }),
+    EXPECT_EQ(Run(script,
+                  [this](CheckedDialog& dialog) {
+                      dialog.AddCheck(Step('a', Finding{.szText = "The list of %s sets is too long "
+                                                                  "for %s.",
+                                                        .vArguments = {"3", "IN 1"},
+                                                        .nPage = 1,
+                                                        .nControl = IDC_SET_LIST}));
+                      dialog.AddCheck(Step('b'));
+                  }),
               2);
     EXPECT_EQ(order, "a");
 }
@@ -107,27 +110,27 @@ TEST_F(ChecksAtOk, EachAnswerLeadsWhereItSays) {
         bool bEnds;
         int nResult;
     };
-    const Case cases[] = {
-        {IDYES, "ay b", true, 1},    // goes on with the next check
-        {IDNO, "an", true, 2},       // ends the dialog as by Cancel
-        {IDCANCEL, "a", false, 2}};  // is not named and stays
+    const Case cases[] = {{IDYES, "ay b", true, 1},    // goes on with the next check
+                          {IDNO, "an", true, 2},       // ends the dialog as by Cancel
+                          {IDCANCEL, "a", false, 2}};  // is not named and stays
     for (const Case& c : cases) {
         SCOPED_TRACE(c.nAnswer);
         order.clear();
         DialogScript script;
         script.Click(IDOK).Answer(c.nAnswer, "Go on?");
         if (!c.bEnds) script.ExpectVisible(IDOK, true).Click(IDCANCEL);
-        EXPECT_EQ(Run(script, [this](CheckedDialog& dialog) {
-                      dialog.AddCheck(Step(
-                          'a', Question({{.nButton = IDYES,
-                                          .eNext = Finding::Next::kGoOn,
-                                          .step = [this] { order += "y "; }},
-                                         {.nButton = IDNO,
-                                          .eNext = Finding::Next::kCancel,
-                                          .step = [this] { order += "n"; }}})));
-                      dialog.AddCheck(Step('b'));
-                  }),
-                  c.nResult);
+        EXPECT_EQ(
+            Run(script,
+                [this](CheckedDialog& dialog) {
+                    dialog.AddCheck(Step('a', Question({{.nButton = IDYES,
+                                                         .eNext = Finding::Next::kGoOn,
+                                                         .step = [this] { order += "y "; }},
+                                                        {.nButton = IDNO,
+                                                         .eNext = Finding::Next::kCancel,
+                                                         .step = [this] { order += "n"; }}})));
+                    dialog.AddCheck(Step('b'));
+                }),
+            c.nResult);
         EXPECT_EQ(order, c.szOrder);
     }
 }
@@ -140,15 +143,20 @@ TEST_F(ChecksAtOk, ACheckSeesTheTextsOfAllPagesAsTheyStandThen) {
         return CheckResult{};
     };
     DialogScript script;
-    script.SelectTab("Data").Click(IDC_SETS_TYPED).Type(IDC_SET_LIST_TEXT, "2,3").SelectTab("Options").Click(IDOK);
-    EXPECT_EQ(Run(script, [&](CheckedDialog& dialog) {
-                  dialog.AddCheck(look);
-                  dialog.AddCheck([&dialog](const TypedValues&) {
-                      SetDlgItemTextA(dialog.DataTab()->GetHandle(), IDC_SET_LIST_TEXT, "1");
-                      return CheckResult{};
-                  });
-                  dialog.AddCheck(look);
-              }),
+    script.SelectTab("Data")
+        .Click(IDC_SETS_TYPED)
+        .Type(IDC_SET_LIST_TEXT, "2,3")
+        .SelectTab("Options")
+        .Click(IDOK);
+    EXPECT_EQ(Run(script,
+                  [&](CheckedDialog& dialog) {
+                      dialog.AddCheck(look);
+                      dialog.AddCheck([&dialog](const TypedValues&) {
+                          SetDlgItemTextA(dialog.DataTab()->GetHandle(), IDC_SET_LIST_TEXT, "1");
+                          return CheckResult{};
+                      });
+                      dialog.AddCheck(look);
+                  }),
               1);
     EXPECT_EQ(seen, (std::vector<std::string>{"2,3", "1"}));
 }
@@ -160,8 +168,8 @@ TEST_F(ChecksAtOk, AnotherDataTabTakesThePlaceOfTheOpenOne) {
     script.SelectTab("Data")
         .ExpectVisible(IDC_SELECT_ALL, true)
         .Do([this] {
-            open->SetDataTab(std::make_unique<CPairedDataTab>(&open->Model(), IDD_PAIRED_LIST, true,
-                                                              false));
+            open->SetDataTab(
+                std::make_unique<CPairedDataTab>(&open->Model(), IDD_PAIRED_LIST, true, false));
             EXPECT_EQ(open->GetPageCount(), 2);
             EXPECT_EQ(open->GetCurrentPageIndex(), 1);
         })
