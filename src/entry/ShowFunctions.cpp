@@ -2,7 +2,7 @@
 
 #include "ZXADLG.h"
 #include "entry/ShowSequence.h"
-#include "fit/FitDialog.h"
+#include "fit/CurveFittingDialog.h"
 #include "platform/platform.h"
 #include "traceops/AdjustBaselineDialog.h"
 #include "traceops/ForceValuesDialog.h"

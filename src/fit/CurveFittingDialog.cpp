@@ -1,4 +1,4 @@
-#include "fit/FitDialog.h"
+#include "fit/CurveFittingDialog.h"
 
 #include <algorithm>
 

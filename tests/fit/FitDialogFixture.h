@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "FitFixture.h"
-#include "fit/FitDialog.h"
+#include "fit/CurveFittingDialog.h"
 #include "fit/FitMemory.h"
 #include "fit_control_ids.h"
 #include "fixtures/DialogScript.h"
