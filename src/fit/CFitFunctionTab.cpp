@@ -154,7 +154,7 @@ bool CFitFunctionTab::SetUp() {
         m_cmbGroup.SetItemData(m_cmbGroup.AddString(group.szCaption), group.eGroup);
     m_cmbEquation.LimitText(kEquationLimit);
     StoreExampleEquations(*m_pRecord);
-    if (!IsReadOnly()) m_pFit->Apply();
+    if (!IsReadOnly() && !m_pFit->Apply()) ShowFinding(m_hWnd, LibraryFailure());
     return true;
 }
 

@@ -76,6 +76,22 @@ TEST_F(FitOpening, ALaterRefusalIsToldOnceAndTheFunctionGoesBack) {
     EXPECT_EQ(options.eFunctionType, 15);
 }
 
+TEST_F(FitOpening, ARefusalOfTheAutomaticMethodsIsToldOnceAndTheyGoBack) {
+    library = StandInLibrary::kFile;
+    StandInLibrary standIn;
+    standIn->object = {2, 1};
+    options.bAutoDefaultOptions = 1;
+    options.eFunctionType = 18;
+    options.eSearchMethod = kSearchSimplex;
+    DialogScript script;
+    script.ExpectText(90, kNoLibrary)
+        .Click(kOkButton)
+        .WaitUntil([] { return true; })
+        .Do([this] { EXPECT_EQ(options.eSearchMethod, kSearchSimplex); })
+        .ExpectTitle("Curve Fitting");
+    ShowAndCancel(script);
+}
+
 TEST_F(FitOpening, NumbersOutOfRangeAreCorrected) {
     for (const std::int32_t n : {-1, 39, std::numeric_limits<std::int32_t>::min()}) {
         SCOPED_TRACE(n);
@@ -206,6 +222,64 @@ TEST_F(FitOpening, WithoutDataOptionsThereIsNoDataPage) {
         EXPECT_EQ(SendMessageA(GetDlgItem(hDialog, IDC_TABS), TCM_GETITEMCOUNT, 0, 0), 3);
     });
     ShowAndAccept(script);
+}
+
+// Whatever the library fails at, the dialog opens or says why, and can be left.
+TEST_F(FitOpening, ALibraryThatFailsAtAnyPlaceCrashesNothing) {
+    library = StandInLibrary::kFile;
+    StandInLibrary standIn;
+    for (const int nPlace : {7, 11, 17, 18, 30, 44, 45, 46, 47, 48, 59}) {
+        SCOPED_TRACE(nPlace);
+        standIn.Reset();
+        standIn->places[nPlace] = {1, kAlways};
+        DialogScript script;
+        script.SelectTab(kAdvanced).SelectTab(kSeeds);
+        if (nPlace == 7) {
+            script.Answer(kOkButton,
+                          "The seed values could not be estimated from the data.\nEnter the seed "
+                          "values.");
+        }
+        script.SelectTab(kData).SelectTab(kFunction);
+        ShowAndCancel(script);
+        EXPECT_EQ(standIn->uAlive, 0u);
+        EXPECT_EQ(script.Messages().size(), nPlace == 7 ? 1u : 0u);
+    }
+}
+
+TEST_F(FitOpening, HostileDataHaveAMessageAndCrashNothing) {
+    struct Row {
+        const char* szName;
+        void (*make)(FitSource&);
+        const char* szText;  // at OK
+    };
+    const Row rows[] = {
+        {"no x", [](FitSource& s) { s.bNoX = true; },
+         "No x axis data have been selected. Select a valid data set."},
+        {"no y", [](FitSource& s) { s.bNoY = true; },
+         "No y axis data have been selected. Select a valid data set."},
+        {"one point",
+         [](FitSource& s) {
+             s.x = {1.0};
+             s.y = {2.0};
+         },
+         "The number of data points (1) must not be smaller than the number of parameters (3)."},
+        {"x all zero", [](FitSource& s) { std::fill(s.x.begin(), s.x.end(), 0.0); },
+         "All x axis values are zero. Select a valid data set."},
+    };
+    const FitSource good = source;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.szName);
+        source = good;
+        row.make(source);
+        DialogScript script;
+        script.Click(IDOK).Answer(kOkButton, row.szText);
+        ShowAndCancel(script);
+    }
+    source = good;
+    source.y[3] = std::numeric_limits<double>::quiet_NaN();
+    DialogScript nan;
+    nan.SelectTab(kAdvanced);
+    ShowAndCancel(nan);
 }
 
 // --- Read-only and deferred.
