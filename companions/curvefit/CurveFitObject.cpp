@@ -119,23 +119,7 @@ int32_t CurveFitObject::Evaluate(const double* const* xArrays, double* y, uint32
         const bool bDescends = x[0] == m_dFirstX && x[nPoints - 1] < x[0];
         curve.dOrigin = bDescends ? x[nPoints - 1] : m_dFirstX;
     }
-    if (!m_Props.bSubstitutesZeroX) {
-        m_pRow->pEvaluate(curve, xArrays, nPoints, y);
-        return Succeed();
-    }
-    // Most records have no zero, and looking for one block by block costs next to nothing. What
-    // takes its place depends on all points.
-    constexpr uint32_t kBlock = 2048;
-    bool bKnown = false;
-    for (uint32_t nStart = 0; nStart < nPoints; nStart += kBlock) {
-        const uint32_t n = std::min(kBlock, nPoints - nStart);
-        const double* x = xArrays[0] + nStart;
-        if (!bKnown && std::count_if(x, x + n, [](double d) { return d <= 0.0; }) != 0) {
-            curve.dSubstitute = SubstituteForZero(xArrays[0], nPoints, m_Settings.dSubstZeroFactor);
-            bKnown = true;
-        }
-        m_pRow->pEvaluate(curve, &x, n, y + nStart);
-    }
+    m_pRow->pEvaluate(curve, xArrays, nPoints, y);
     return Succeed();
 }
 

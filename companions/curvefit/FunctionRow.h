@@ -58,8 +58,7 @@ struct Curve {
     const double* pGrid = nullptr;  // flat, parameter-major
     double dOffset = 0.0;
     double dSlope = 0.0;
-    double dOrigin = 0.0;      // subtracted from x
-    double dSubstitute = 0.0;  // takes the place of an x that is not above zero
+    double dOrigin = 0.0;  // subtracted from x
 };
 
 // y at `n` points; `ppX` holds one array for each variable.

@@ -4,6 +4,16 @@
 
 namespace curvefit {
 
+double SubstituteForZero(const double* x, std::size_t n, double dFactor) {
+    constexpr double kNone = std::numeric_limits<double>::infinity();
+    double dSmallest = kNone;
+    for (std::size_t i = 0; i < n; ++i) {
+        const double d = x[i] > 0.0 ? x[i] : kNone;
+        dSmallest = d < dSmallest ? d : dSmallest;
+    }
+    return dSmallest == kNone ? 0.0 : dSmallest / dFactor;
+}
+
 namespace {
 
 constexpr double kSeriesFrom = 10.0;

@@ -1,12 +1,38 @@
 // Pieces of formulas, arranged so that they lose no digits and never overflow on the way.
 #pragma once
 
+#include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <numbers>
 
 namespace curvefit {
+
+// --- Looking through the data. The bits of a number tell in fewer steps than comparisons do, and
+// several at a time.
+
+// Finite only.
+inline bool AllFinite(const double* values, std::size_t n) {
+    constexpr uint64_t kExponent = 0x7FF0000000000000u;
+    constexpr uint64_t kOne = 0x0010000000000000u;
+    uint64_t uCarries = 0;
+    for (std::size_t i = 0; i < n; ++i)
+        uCarries |= (std::bit_cast<uint64_t>(values[i]) & kExponent) + kOne;
+    return uCarries >> 63 == 0;
+}
+
+// What a number adds to the signs of many: the top bit is set where it is zero or below.
+inline uint64_t SignOfNotPositive(double d) {
+    const auto uBits = std::bit_cast<uint64_t>(d);
+    return uBits | (uBits - 1);
+}
+
+// The smallest x above zero divided by the record's factor; 0 where no x is.
+double SubstituteForZero(const double* x, std::size_t n, double dFactor);
+
+// --- Pieces.
 
 // A width or time constant of zero means the limit from above.
 inline double NonZero(double d) {

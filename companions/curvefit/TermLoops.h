@@ -7,6 +7,7 @@
 #pragma once
 
 #include "FunctionRow.h"
+#include "Kernels.h"
 
 namespace curvefit {
 
@@ -23,17 +24,11 @@ struct FromOrigin {
     double operator()(double x) const { return x - m_dOrigin; }
     double m_dOrigin;
 };
-// A concentration: what is not above zero is replaced.
-struct Concentration {
-    explicit Concentration(const Curve& curve) : m_dSubstitute(curve.dSubstitute) {}
-    double operator()(double x) const { return x <= 0.0 ? m_dSubstitute : x; }
-    double m_dSubstitute;
-};
 
-template <class Term, class Variable = FromOrigin>
+template <class Term>
 void EvaluateSum(const Curve& curve, const double* const* ppX, std::size_t n, double* y) {
     const double* x = ppX[0];
-    const Variable variable(curve);
+    const FromOrigin variable(curve);
     const Term first = TermOf<Term>(curve, 0);
     const double dOffset = curve.dOffset;
     if (curve.dSlope != 0.0) {
@@ -51,10 +46,32 @@ void EvaluateSum(const Curve& curve, const double* const* ppX, std::size_t n, do
     }
 }
 
-template <class Term, class Variable = FromOrigin>
+// The same where x is a concentration: what is not above zero is replaced. Few records need it, and
+// what takes the place depends on all points; looking for zeros beside the formula costs next to
+// nothing.
+template <class Term>
+void EvaluateConcentrations(const Curve& curve, const double* const* ppX, std::size_t n,
+                            double* y) {
+    const double* x = ppX[0];
+    const Term term = TermOf<Term>(curve, 0);
+    const double dOffset = curve.dOffset;
+    uint64_t uSigns = 0;
+    for (std::size_t i = 0; i < n; ++i) {
+        uSigns |= SignOfNotPositive(x[i]);
+        y[i] = term.Value(x[i]) + dOffset;
+    }
+    if (uSigns >> 63 == 0) return;
+    const double dSubstitute = SubstituteForZero(x, n, curve.pSettings->dSubstZeroFactor);
+    const double dAtZero = term.Value(dSubstitute) + dOffset;
+    for (std::size_t i = 0; i < n; ++i) {
+        if (x[i] <= 0.0) y[i] = dAtZero;
+    }
+}
+
+template <class Term>
 void GradientSum(const Curve& curve, const double* const* ppX, std::size_t n, double* columns) {
     const double* x = ppX[0];
-    const Variable variable(curve);
+    const FromOrigin variable(curve);
     for (uint32_t k = 0; k < curve.uTerms; ++k) {
         const Term term = TermOf<Term>(curve, k);
         for (std::size_t i = 0; i < n; ++i) {

@@ -42,13 +42,16 @@ class CCheckedDialog : public CEditPage<Base> {
   private:
     // Whether the next check is to run.
     bool Answer(const Finding& finding) {
-        const ADM_Dialog& page = BringUp(finding.nPage);
+        // A question stands over the page that the user sees; its answer decides on the page.
+        const bool bAsks = !finding.vAnswers.empty();
+        if (!bAsks) BringUp(finding.nPage);
         const UINT nButton = ShowFinding(this->m_hWnd, finding);
         const Finding::Answer* pAnswer = finding.FindAnswer(nButton);
         if (pAnswer != nullptr && pAnswer->step) pAnswer->step();
         const Finding::Next eNext = pAnswer != nullptr ? pAnswer->eNext : Finding::Next::kStay;
         if (eNext == Finding::Next::kCancel) this->EndDialogWith(ZXADLG_CANCEL);
-        if (eNext == Finding::Next::kStay) FocusControl(page, finding.nControl);
+        if (eNext == Finding::Next::kStay)
+            FocusControl(BringUp(finding.nPage), finding.nControl);
         return eNext == Finding::Next::kGoOn;
     }
 

@@ -83,9 +83,17 @@ bool CParentDialogBase::SetUp() {
         OnCancel();
         return false;
     }
-    // A memory that points past the last tab is of a dialog with more tabs than this one.
-    if (m_nLastTab != 0 && !IsReadOnly() && m_nLastTab < GetPageCount()) SelectPage(m_nLastTab);
     return true;
+}
+
+BOOL CParentDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
+    const BOOL bResult = CEditPage::OnInitDialog(hWnd, hFocus, lParam);
+    // A memory that points past the last tab is of a dialog with more tabs than this one. A page
+    // that refuses to be left would say so before the user has done anything.
+    const bool bRemembered = m_nLastTab != 0 && m_nLastTab < GetPageCount();
+    if (IsReady() && bRemembered && !IsReadOnly() && GetCurrentPage()->CanLeavePage())
+        SelectPage(m_nLastTab);
+    return bResult;
 }
 
 // --- Ending ----------------------------------------------------------------------------------

@@ -28,6 +28,8 @@ class CParentDialogBase : public CCheckedDialog<ADM_TabbedDialog> {
                       const ZXADLG_DlgParams* pParams, UINT uTemplateId, UINT uTabControlId);
     ~CParentDialogBase() override;
 
+    // The page of the last OK comes up when the dialog is ready, unless the first one has a fault.
+    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
     void OnOK() override;
     void OnCancel() override;
 

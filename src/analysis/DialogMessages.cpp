@@ -28,7 +28,7 @@ UINT ShowFinding(HWND hOwner, const Finding& finding) {
         szText = szTemplate;
     }
     char szMessage[512];
-    FormatCaption(szMessage, sizeof szMessage, szText, finding.vArguments);
+    FormatCaption(szMessage, sizeof szMessage, szText, finding.vArguments, finding.ePlaces);
     return CommonCtls::ShowMessage(hOwner, "%0", finding.uFlags, {szMessage});
 }
 

@@ -121,6 +121,9 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     // Private copies, valid until the next fetch of the same kind.
     const double* GetXValues();
     const double* GetYValues();
+    // How many values a fetch gave that was not null.
+    std::uint32_t GetFetchedXCount() const { return static_cast<std::uint32_t>(m_vdX.size()); }
+    std::uint32_t GetFetchedYCount() const { return static_cast<std::uint32_t>(m_vdY.size()); }
     // First and last x value; false, and both 0, with none or with a single selected point.
     bool GetXRange(double* pdFirst, double* pdLast);
     // Smallest and largest y value over the selection, or over the first set of it that has values;

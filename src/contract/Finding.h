@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "text/TextTemplate.h"
 
 struct Finding {
     // What an answer leads to.
@@ -27,11 +28,13 @@ struct Finding {
         std::function<void()> step = {};  // what the answer does before
     };
 
-    // One of the two: a string of the library, or a text that has no id.
+    // One of the two: a string of the library, or a text that has no id. With neither the dialog
+    // stays without a word.
     UINT nStringId = 0;
     const char* szText = nullptr;
-    // They stand for the "%s" and "%d" of the text, in order.
+    // They stand for the "%s" and "%d" of the text, in order, or for its "%0" to "%9" by number.
     std::vector<std::string> vArguments = {};
+    TemplatePlaces ePlaces = TemplatePlaces::kConversions;
     UINT uFlags = MB_ICONHAND;  // icon and buttons, as for a message box
     int nPage = kCurrentPage;   // counted from 0
     int nControl = 0;           // the id of the control that is to have the focus; 0: none

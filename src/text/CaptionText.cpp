@@ -1,18 +1,19 @@
 #include "text/CaptionText.h"
 
 #include "text/BoundedText.h"
-#include "text/TextTemplate.h"
 
 void FormatCaption(char* szBuffer, int nSize, const char* szTemplate,
-                   const std::vector<std::string>& vArguments) {
+                   const std::vector<std::string>& vArguments, TemplatePlaces ePlaces) {
     BoundedWriter writer(szBuffer, nSize);
     if (szTemplate == nullptr) return;
     std::size_t nUsed = 0;
     ExpandTemplate(
-        szTemplate, TemplatePlaces::kConversions, [&](char ch) { writer.Put(ch); },
-        [&](char chLetter) {
-            const bool bText = chLetter == 's' || chLetter == 'd';
-            if (bText && nUsed < vArguments.size()) writer.Put(vArguments[nUsed++]);
+        szTemplate, ePlaces, [&](char ch) { writer.Put(ch); },
+        [&](char chMark) {
+            const bool bNumber = ePlaces == TemplatePlaces::kNumbers;
+            if (!bNumber && chMark != 's' && chMark != 'd') return;
+            const std::size_t n = bNumber ? static_cast<std::size_t>(chMark - '0') : nUsed++;
+            if (n < vArguments.size()) writer.Put(vArguments[n]);
         });
 }
 

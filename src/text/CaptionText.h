@@ -5,13 +5,17 @@
 #include <string>
 #include <vector>
 
+#include "text/TextTemplate.h"
+
 // Writes szTemplate with the first "%s" or "%d" replaced by szArgument, cut at the buffer's end.
 // "%%" gives "%", any other conversion nothing; the argument stands as it is, whatever it holds.
 // Null texts are empty.
 void FormatCaption(char* szBuffer, int nSize, const char* szTemplate, const char* szArgument);
-// The same for several: each "%s" or "%d" takes the next argument, one too many nothing.
+// The same for several: each "%s" or "%d" takes the next argument, or "%0" to "%9" the one of that
+// number; one too many takes nothing.
 void FormatCaption(char* szBuffer, int nSize, const char* szTemplate,
-                   const std::vector<std::string>& vArguments);
+                   const std::vector<std::string>& vArguments,
+                   TemplatePlaces ePlaces = TemplatePlaces::kConversions);
 
 template <std::size_t N>
 void FormatCaption(char (&szBuffer)[N], const char* szTemplate, const char* szArgument) {

@@ -35,6 +35,34 @@ inline FitOptions FreshRecord() {
     return options;
 }
 
+// Data whose points are told one by one: the same x and y for every set. Where `x` is empty they
+// are the base's.
+class FitSource : public test_support::TestDataSource {
+  public:
+    const double* GetXValues(std::uint32_t group, std::uint32_t set, const ZXADLG_DataRange* range,
+                             std::uint32_t n) override {
+        const double* p = TestDataSource::GetXValues(group, set, range, n);
+        return bNoX ? nullptr : x.empty() ? p : x.data();
+    }
+    const double* GetYValues(std::uint32_t group, std::uint32_t set, const ZXADLG_DataRange* range,
+                             std::uint32_t n) override {
+        const double* p = TestDataSource::GetYValues(group, set, range, n);
+        return bNoY ? nullptr : x.empty() ? p : y.data();
+    }
+    std::uint32_t GetPointCount(std::uint32_t group, std::uint32_t set,
+                                const ZXADLG_DataRange* range, std::uint32_t n) override {
+        const std::uint32_t uCount = TestDataSource::GetPointCount(group, set, range, n);
+        if (set < lengths.size()) return lengths[set];
+        return x.empty() ? uCount : static_cast<std::uint32_t>(x.size());
+    }
+
+    std::vector<double> x;
+    std::vector<double> y;
+    std::vector<std::uint32_t> lengths;  // of the first columns
+    bool bNoX = false;
+    bool bNoY = false;
+};
+
 class FitModel : public ::testing::Test {
   public:
     explicit FitModel(const char* szLibrary = "CURVEFIT.dll")
@@ -53,7 +81,7 @@ class FitModel : public ::testing::Test {
     FitOptions options = FreshRecord();
     ZXADLG_DataOptions dataRecord{};
     ZXADLG_DataTabFlags flags;
-    test_support::TestDataSource source;
+    FitSource source;
     CDataOptionsInterface data{&dataRecord, &source, &flags};
     CurveFitLibrary library;
     CFitOptionsInterface fit{&options, &data, &library};

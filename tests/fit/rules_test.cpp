@@ -410,27 +410,11 @@ TEST_F(Rules, SeedsMustNotBeZero) {
     EXPECT_FALSE(fit.AreSeedsUsable(custom, free));
 }
 
-// A file whose x are told one by one.
-class SpacedSource : public test_support::TestDataSource {
-  public:
-    explicit SpacedSource(std::vector<double> x) : m_x(std::move(x)) {
-        Kind(0).Groups({"IN 0"}).Sets(1).Points(static_cast<std::uint32_t>(m_x.size()));
-    }
-    const double* GetXValues(std::uint32_t, std::uint32_t, const ZXADLG_DataRange*,
-                             std::uint32_t) override {
-        return m_x.empty() ? nullptr : m_x.data();
-    }
-
-  private:
-    std::vector<double> m_x;
-};
-
 EvenXFinding EvenXOf(FitModel& model, std::vector<double> x) {
-    SpacedSource spaced(std::move(x));
-    CDataOptionsInterface spacedData(&model.dataRecord, &spaced, &model.flags);
-    CFitOptionsInterface onData(&model.options, &spacedData, &model.library);
-    EXPECT_EQ(onData.ReadProperties(), 0);
-    return onData.IsXUniform();
+    model.source.bNoX = x.empty();
+    model.source.x = std::move(x);
+    EXPECT_EQ(model.fit.ReadProperties(), 0);
+    return model.fit.IsXUniform();
 }
 
 TEST_F(Rules, EvenXIsAskedForByChebyshevAndMaximumLikelihoodAlone) {
@@ -465,15 +449,6 @@ TEST_F(Rules, EvenXToAHundredth) {
     const EvenXFinding missing = EvenXOf(*this, {});
     EXPECT_FALSE(missing.bEven);
     EXPECT_EQ(missing.nString, 0);
-    char szText[128] = "";
-    LoadStringA(GetModuleHandleA(nullptr), 2199, szText, sizeof szText);
-    EXPECT_STREQ(szText,
-                 "The Chebyshev method requires evenly spaced x axis values.\nSelect another "
-                 "search method.");
-    LoadStringA(GetModuleHandleA(nullptr), 2200, szText, sizeof szText);
-    EXPECT_STREQ(szText,
-                 "Maximum likelihood requires evenly spaced x axis values.\nSelect another "
-                 "minimization method.");
 }
 
 TEST_F(Rules, ExtrapolationLimitsOfConcentrationsAreAboveZeroOnASheet) {

@@ -1,4 +1,4 @@
-// Seeds by place and flat, curves through the library, and libraries that misbehave.
+// Seeds by place and flat, and curves through the library.
 
 #include <gtest/gtest.h>
 
@@ -182,94 +182,6 @@ TEST_F(FitModel, PropertiesNameWhatTheDialogShows) {
     EXPECT_STREQ(fit.PictureName(), "EQ_PDCEXP");
     Choose(12, kSearchVM, kMinimML);
     EXPECT_STREQ(fit.PictureName(), "EQ_PDCEXPNOC");
-}
-
-class NoLibrary : public FitModel, public ::testing::WithParamInterface<const char*> {
-  public:
-    NoLibrary() : FitModel(GetParam()) {}
-};
-
-TEST_P(NoLibrary, EveryStepFailsAndNothingChanges) {
-    const double x[] = {0, 1, 2, 3};
-    double y[] = {5, 7, 9, 11};
-    const double* arrays[] = {x, y};
-    options.eFunctionType = 0;  // a stand-in gives null for it
-    EXPECT_NE(fit.ReadProperties(), 0);
-    EXPECT_EQ(fit.Properties().bAllowLM, 1);
-    EXPECT_EQ(fit.Properties().uParamsPerTerm, 0u);
-    EXPECT_FALSE(seeds.ComputeSeeds(arrays, 2, 4));
-    EXPECT_FALSE(seeds.CurveFromSeeds(x, y, 4, 1));
-    EXPECT_EQ(y[1], 7.0);
-}
-
-INSTANTIATE_TEST_SUITE_P(Files, NoLibrary,
-                         ::testing::Values("CURVEFIT_MISSING.dll", "CURVEFIT_NOEXPORT.dll",
-                                           "CURVEFIT_STANDIN.dll"));
-
-TEST(CurveFitLibraryFile, IsLoadedOnFirstUseAndFreedWithItsOwner) {
-    const FitOptions options = fit_test::FreshRecord();
-    {
-        CurveFitLibrary library(GetModuleHandleA(nullptr));
-        EXPECT_FALSE(library.IsLoaded());
-        EXPECT_TRUE(static_cast<bool>(library.Use(options)));
-        EXPECT_TRUE(library.IsLoaded());
-    }
-    CurveFitLibrary missing(GetModuleHandleA(nullptr), "CURVEFIT_MISSING.dll");
-    EXPECT_FALSE(static_cast<bool>(missing.Use(options)));
-    EXPECT_FALSE(missing.IsLoaded());
-    CurveFitLibrary noExport(GetModuleHandleA(nullptr), "CURVEFIT_NOEXPORT.dll");
-    EXPECT_FALSE(static_cast<bool>(noExport.Use(options)));
-    EXPECT_TRUE(noExport.IsLoaded());
-}
-
-class Misbehaving : public FitModel {
-  public:
-    Misbehaving() : FitModel("CURVEFIT_STANDIN.dll") {}
-};
-
-TEST_F(Misbehaving, AFailedReadingKeepsTheLastGoodOne) {
-    Choose(20);
-    EXPECT_EQ(fit.Properties().uParamsPerTerm, 1u);
-    EXPECT_STREQ(fit.GetParamName(0), "a name that is");
-    // No properties; more parameters than the grid holds.
-    for (const std::int32_t e : {1, 2, 9}) {
-        options.eFunctionType = e;
-        EXPECT_NE(fit.ReadProperties(), 0) << e;
-        EXPECT_EQ(fit.Properties().uParamsPerTerm, 1u) << e;
-    }
-    Choose(10);
-    EXPECT_EQ(fit.Properties().uParamsPerTerm, 5u);
-}
-
-TEST_F(Misbehaving, CountsAndTextsAreBrought) {
-    Choose(3);
-    EXPECT_EQ(data.GetConstantCount(), 1u);
-    Choose(4);
-    EXPECT_EQ(data.GetConstantCount(), 6u);
-    Choose(5);
-    EXPECT_STREQ(fit.GetFunctionText(), " of  5%");
-    Choose(11);
-    EXPECT_STREQ(fit.GetFunctionText(), "");
-    EXPECT_STREQ(fit.GetParamName(0), "");
-    EXPECT_STREQ(fit.GetOffsetName(), "");
-}
-
-TEST_F(Misbehaving, APlaceThatFailsFailsItsStep) {
-    const double x[] = {0, 1};
-    double y[] = {5, 7};
-    const double* arrays[] = {x, y};
-    Choose(20);
-    EXPECT_TRUE(seeds.ComputeSeeds(arrays, 2, 2));
-    EXPECT_EQ(seeds.dSeeds[0], 4.5);
-    EXPECT_TRUE(seeds.CurveFromSeeds(x, y, 2, 1));
-    EXPECT_EQ(y[1], 0.25);
-    Choose(6);
-    EXPECT_FALSE(seeds.ComputeSeeds(arrays, 2, 2));
-    EXPECT_EQ(seeds.dSeeds[0], 0.0);
-    for (const std::int32_t e : {7, 8}) {
-        Choose(e);
-        EXPECT_FALSE(seeds.CurveFromSeeds(x, y, 2, 1)) << e;
-    }
 }
 
 }  // namespace

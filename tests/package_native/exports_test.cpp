@@ -1,4 +1,4 @@
-// What the two shared objects give away: their contract and nothing of their insides.
+// What the three shared objects give away: their contract and nothing of their insides.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -45,6 +45,11 @@ TEST(Exports, OfTheModuleAreTheShowFunctions) {
     const auto listed = Listed("src/entry/module/show_functions.def.in", "ZXADLG_");
     EXPECT_GE(listed.size(), 10u);
     EXPECT_EQ(listed, Exported("ZXANALYSISDIALOGS"));
+}
+
+TEST(Exports, OfTheCurveFitLibraryIsOne) {
+    // With its version, the part of the name behind the at sign.
+    EXPECT_EQ(Exported("CURVEFIT"), (std::set<std::string>{"_CFIT_CreateCurveFit", "4"}));
 }
 
 TEST(Exports, OfTheWindowSystemAreWhatItsHeadersDeclare) {

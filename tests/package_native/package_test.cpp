@@ -16,17 +16,19 @@ std::string Read(const std::string& path) {
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
 }
 
-// The first block of a language in the guide.
-std::string Block(const std::string& language) {
+// A block of a language in the guide, counted from 0.
+std::string Block(const std::string& language, int which) {
     const std::string guide = Read(ZX_SOURCE_DIR "/docs/hosting.md");
     const std::string mark = "```" + language + "\n";
-    const std::size_t begin = guide.find(mark);
+    std::size_t begin = guide.find(mark);
+    for (int i = 0; i < which && begin != std::string::npos; ++i)
+        begin = guide.find(mark, begin + 1);
     if (begin == std::string::npos) return "";
     const std::size_t first = begin + mark.size();
     return guide.substr(first, guide.find("```", first) - first);
 }
 
-TEST(Package, TheGuidesHostBuildsAgainstAnInstallationAndRuns) {
+TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
     const test_support::ScratchStore scratch;
     const std::string root = scratch.File("package");
     const std::string log = scratch.File("log.txt");
@@ -34,8 +36,9 @@ TEST(Package, TheGuidesHostBuildsAgainstAnInstallationAndRuns) {
         return std::system((command + " >" + log + " 2>&1").c_str());
     };
     std::filesystem::create_directories(root + "/src");
-    std::ofstream(root + "/src/CMakeLists.txt") << Block("cmake");
-    std::ofstream(root + "/src/minimal_host.cpp") << Block("cpp");
+    std::ofstream(root + "/src/CMakeLists.txt") << Block("cmake", 0) << Block("cmake", 1);
+    std::ofstream(root + "/src/minimal_host.cpp") << Block("cpp", 0);
+    std::ofstream(root + "/src/curve_seeds.cpp") << Block("cpp", 1);
     ASSERT_EQ(run(ZX_CMAKE " --install " ZX_BINARY_DIR " --component ZxAnalysisDialogs --prefix " +
                   root + "/installed"),
               0)
@@ -43,6 +46,9 @@ TEST(Package, TheGuidesHostBuildsAgainstAnInstallationAndRuns) {
     for (const char* file :
          {"include/ZXADLG.h", "include/zxadlg/DataOptions.h", "include/zxadlg/headless.h",
           "include/zxadlg/headless/names.h", "lib/libZXANALYSISDIALOGS.so", "lib/libZXHEADLESS.so",
+          "include/zxadlg/CurveFit.h", "lib/libCURVEFIT.so",
+          "share/doc/zxanalysisdialogs/fit-functions.md", "share/doc/zxanalysisdialogs/seeds.md",
+          "share/doc/zxanalysisdialogs/pictures/equations/eq_stdexp.svg",
           "share/doc/zxanalysisdialogs/hosting.md"})
         EXPECT_TRUE(std::filesystem::exists(root + "/installed/" + file)) << file;
     ASSERT_EQ(run(ZX_CMAKE " -S " + root + "/src -B " + root + "/build -DCMAKE_PREFIX_PATH=" +
@@ -52,6 +58,8 @@ TEST(Package, TheGuidesHostBuildsAgainstAnInstallationAndRuns) {
     ASSERT_EQ(run(ZX_CMAKE " --build " + root + "/build"), 0) << Read(log);
     ASSERT_EQ(run(root + "/build/minimal_host --ok"), 0) << Read(log);
     EXPECT_EQ(Read(log), "Baseline region 0, peak region 0, in 3 of 3 sweeps.\n");
+    ASSERT_EQ(run(root + "/build/curve_seeds"), 0) << Read(log);
+    EXPECT_EQ(Read(log), "Exponential, standard: 80.0, 7.50 and -12.0\n");
     std::filesystem::remove_all(root);
 }
 

@@ -45,6 +45,15 @@ TEST(FormatCaption, TheResultIsCutToTheBuffer) {
     EXPECT_EQ(szText[5], 'x');
 }
 
+TEST(FormatCaption, PlacesByNumberTakeTheArgumentOfTheirNumber) {
+    char szText[32];
+    FormatCaption(szText, sizeof szText, "%1 of %0, %1%% %s%2", {"ten", "2"},
+                  TemplatePlaces::kNumbers);
+    EXPECT_STREQ(szText, "2 of ten, 2% s");
+    FormatCaption(szText, sizeof szText, "%1 of %d, %s%s", {"ten", "2"});
+    EXPECT_STREQ(szText, " of ten, 2");
+}
+
 TEST(LowerNoun, LettersOfTheCodePageLoseTheirCase) {
     EXPECT_EQ(Lower("Trace X2"), "trace x2");
     EXPECT_EQ(Lower("\xC0\xD6\xDE\xD7\xDF"), "\xE0\xF6\xFE\xD7\xDF");

@@ -8,11 +8,14 @@ from the true parameters, or theirs. Beside it stand the rates of seeds that are
 record), and the median number of evaluations that the solver needs from either.
 
     seeds.py [--records N] [--minutes M] [--only F[,F]] [--conditions] [--output FILE]
-    seeds.py --report PAGE.md [--output FILE]
+    seeds.py --report [--output FILE]
 
-Each finished cell is a line of FILE (default build/seeds.txt); a line that is there is not computed again."""
+Each finished cell is a line of FILE (default build/seeds.txt), and --report puts the lines on the page
+docs/seeds.md. What stands in either with that many records is not computed again, so that a fresh clone goes on
+where the page ends; remove the lines of a function whose seeds have changed from both."""
 import argparse
 import os
+import re
 import time
 import warnings
 
@@ -114,11 +117,9 @@ def one(lib, function, terms, noise, condition, seed):
 
 def cells(conditions):
     if conditions:
-        for condition in CONDITIONS[1:]:
-            for function in SINGLE:
-                yield function, 1, 0.02, condition
-            for function in records.MULTI_TERM:
-                for terms in (1, 2):
+        for terms in (1, 2, 3):
+            for condition in CONDITIONS[1:]:
+                for function in SINGLE + list(records.MULTI_TERM) if terms == 1 else records.MULTI_TERM:
                     yield function, terms, 0.02, condition
         return
     for terms in (1, 2, 3, 4, 5, 6):
@@ -128,14 +129,58 @@ def cells(conditions):
                 yield function, terms, noise, "plain"
 
 
-def report(path, out):
-    """The finished cells as a page."""
-    rows = {}
+class Cell:
+    """One rate: `key` is (function, terms, noise, condition), the others are texts as printed; "-" where a page
+    has not kept the number of evaluations."""
+
+    def __init__(self, key, count, ours, naive, calls="-", naive_calls="-"):
+        self.key, self.count = key, int(count)
+        self.ours, self.naive, self.calls, self.naive_calls = ours, naive, calls, naive_calls
+
+    def line(self):
+        return "%s %s %s %s %d %s %s %s %s\n" % (*self.key, self.count, self.ours, self.naive, self.calls,
+                                                self.naive_calls)
+
+
+def cells_of_file(path):
     with open(path, encoding="ascii") as done:
         for line in done:
-            function, terms, noise, condition, count, ours, naive, calls, naive_calls = line.split()
-            rows.setdefault((condition, int(function), int(terms)), {})[noise] = (count, ours, naive, calls,
-                                                                                 naive_calls)
+            function, terms, noise, condition, *rest = line.split()
+            yield Cell((function, terms, noise, condition), *rest)
+
+
+def cells_of_page(path):
+    """A page that was written earlier, so that a fresh clone goes on from it."""
+    condition = None
+    with open(path, encoding="utf-8") as page:
+        for line in page:
+            if line.startswith("## "):
+                condition = next(c for c in CONDITIONS if TITLES[c] == line[3:].strip())
+            columns = [c.strip() for c in line.strip().strip("|").split("|")]
+            if condition is None or not columns[0].isdigit():
+                continue
+            function, terms, count, low, high, naive_low, naive_high, calls = columns
+            if low:
+                yield Cell((function, terms, "0.02", condition), count, low, naive_low, *re.findall(r"\d+", calls))
+            if high:
+                yield Cell((function, terms, "0.05", condition), count, high, naive_high)
+
+
+def finished(options):
+    """The cells that are there, by key; of two the one with more records, and of equals the later one."""
+    cells = {}
+    for read, path in ((cells_of_page, options.page), (cells_of_file, options.output)):
+        for cell in read(path) if os.path.exists(path) else ():
+            if cell.key not in cells or cells[cell.key].count <= cell.count:
+                cells[cell.key] = cell
+    return cells
+
+
+def report(done, out):
+    """The finished cells as a page."""
+    rows = {}
+    for (function, terms, noise, condition), cell in done.items():
+        rows.setdefault((condition, int(function), int(terms)), {})[noise] = cell
     with open(out, "w", encoding="utf-8") as page:
         page.write(PAGE_HEAD)
         for condition in CONDITIONS:
@@ -147,9 +192,9 @@ def report(path, out):
             for key in of:
                 low, high = rows[key].get("0.02"), rows[key].get("0.05")
                 some = low or high
-                page.write("| %d | %d | %s | %s | %s | %s | %s | %s (%s) |\n" % (
-                    key[1], key[2], some[0], low[1] if low else "", high[1] if high else "",
-                    low[2] if low else "", high[2] if high else "", some[3], some[4]))
+                page.write("| %d | %d | %d | %s | %s | %s | %s | %s (%s) |\n" % (
+                    key[1], key[2], some.count, low.ours if low else "", high.ours if high else "",
+                    low.naive if low else "", high.naive if high else "", some.calls, some.naive_calls))
 
 
 PAGE_HEAD = """# How good the seeds are
@@ -178,25 +223,21 @@ def main():
     parser.add_argument("--conditions", action="store_true")
     parser.add_argument("--library", default=library.DEFAULT)
     parser.add_argument("--output", default=os.path.join(ROOT, "build", "seeds.txt"))
-    parser.add_argument("--report")
+    parser.add_argument("--page", default=os.path.join(ROOT, "docs", "seeds.md"))
+    parser.add_argument("--report", action="store_true")
     options = parser.parse_args()
+    done = finished(options)
     if options.report:
-        report(options.output, options.report)
+        report(done, options.page)
         return
     wanted = {int(f) for f in options.only.split(",") if f}
     lib = library.Library(options.library)
-    done = {}
-    if os.path.exists(options.output):
-        with open(options.output, encoding="ascii") as old:
-            for line in old:
-                words = line.split()
-                done[tuple(words[:5])] = line
     end = time.time() + 60 * options.minutes
     for function, terms, noise, condition in cells(options.conditions):
         if wanted and function not in wanted:
             continue
-        key = (str(function), str(terms), "%g" % noise, condition, str(options.records))
-        if key in done:
+        key = (str(function), str(terms), "%g" % noise, condition)
+        if key in done and done[key].count >= options.records:
             continue
         if time.time() > end:
             print("time is up: run again to go on")
@@ -206,11 +247,11 @@ def main():
         if not found:
             continue
         naive = found[::4]
-        line = "%s %.1f %.1f %d %d" % (" ".join(key), rate(found, 0), rate(naive, 1),
-                                       numpy.median([f[2] for f in found]), numpy.median([f[3] for f in naive]))
-        print(line, flush=True)
+        cell = Cell(key, len(found), "%.1f" % rate(found, 0), "%.1f" % rate(naive, 1),
+                    "%d" % numpy.median([f[2] for f in found]), "%d" % numpy.median([f[3] for f in naive]))
+        print(cell.line(), end="", flush=True)
         with open(options.output, "a", encoding="ascii") as out:
-            out.write(line + "\n")
+            out.write(cell.line())
 
 
 if __name__ == "__main__":

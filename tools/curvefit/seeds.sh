@@ -10,4 +10,4 @@ cmake --build --preset native-release --target CURVEFIT
 python=/usr/bin/python3 # the one that Debian's packages belong to
 nice -n 19 $python -B tools/curvefit/seeds.py --minutes "${1:-40}"
 nice -n 19 $python -B tools/curvefit/seeds.py --minutes "${1:-40}" --conditions --records 25
-$python -B tools/curvefit/seeds.py --report docs/seeds.md
+$python -B tools/curvefit/seeds.py --report

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Kernels.h"
 #include "seeds/PolynomialFit.h"
 #include "seeds/SeedMethods.h"
 #include "seeds/SeedTerms.h"

@@ -76,6 +76,8 @@ bool SeedConstantField(SeedTask& task, double* seeds) {
     data.y = picked[6].data();
     data.n = picked[6].size();
     RefineModel(task, data, params, kSteps);
+    // A ratio that was held at zero is no start for a search: nothing moves with it.
+    for (double& d : params) d = std::max(d, 0.1 * kSmallRatio);
     std::copy(params.begin(), params.end(), seeds);
     return true;
 }
@@ -127,6 +129,9 @@ bool SeedRelaxationTime(SeedTask& task, double* seeds) {
                 0.5 / dPeak * std::exp(dMiddle / dWidth), dWidth};
     }
     RefineModel(task, model, best, kSteps);
+    // Nor is a width beyond all data: its rate is the same everywhere.
+    constexpr double kWidestInSpans = 100.0;
+    for (const std::size_t k : {1u, 3u}) best[k] = std::min(best[k], kWidestInSpans * data.Span());
     seeds[0] = best[0] / data.dScaleY;
     seeds[1] = best[1] * data.dScaleX;
     seeds[2] = best[2] / data.dScaleY;

@@ -39,31 +39,37 @@ void SolveByColumns(const double* x, const double* y, std::size_t n, std::size_t
     SolveLeastSquares(columns, y, chebyshev);
 }
 
+// Four sums at a time, since each addition waits for the one before.
+double SumOf(const double* values, const double* factors, std::size_t n) {
+    double sums[4] = {};
+    std::size_t i = 0;
+    for (; i + 4 <= n; i += 4) {
+        for (std::size_t k = 0; k < 4; ++k) sums[k] += values[i + k] * factors[i + k];
+    }
+    for (; i < n; ++i) sums[0] += values[i] * factors[i];
+    return (sums[0] + sums[1]) + (sums[2] + sums[3]);
+}
+
 // By sums of Chebyshev polynomials, whose products are sums of others again:
 // T_i T_j = (T_(i+j) + T_|i-j|) / 2. The matrix is well conditioned, unlike that of bare powers.
 bool SolveBySums(const double* x, const double* y, std::size_t n, std::size_t nDegree,
                  const Axis& axis, double dScaleY, double* chebyshev) {
     double sums[2 * kMaxDegree + 1] = {};
     double products[kMaxDegree + 1] = {};
-    double s[kBlock], twice[kBlock], before[kBlock], now[kBlock];
+    double s[kBlock], twice[kBlock], before[kBlock], now[kBlock], scaled[kBlock], ones[kBlock];
+    std::fill(std::begin(ones), std::end(ones), 1.0);
     for (std::size_t nStart = 0; nStart < n; nStart += kBlock) {
         const std::size_t m = std::min(kBlock, n - nStart);
-        const double* yBlock = y + nStart;
         for (std::size_t i = 0; i < m; ++i) {
             s[i] = axis.At(x[nStart + i]);
             twice[i] = 2.0 * s[i];
             before[i] = s[i];  // T_-1 is T_1
             now[i] = 1.0;
+            scaled[i] = y[nStart + i] / dScaleY;
         }
         for (std::size_t k = 0; k <= 2 * nDegree; ++k) {
-            double dSum = 0.0;
-            for (std::size_t i = 0; i < m; ++i) dSum += now[i];
-            sums[k] += dSum;
-            if (k <= nDegree) {
-                double dProduct = 0.0;
-                for (std::size_t i = 0; i < m; ++i) dProduct += now[i] * (yBlock[i] / dScaleY);
-                products[k] += dProduct;
-            }
+            sums[k] += SumOf(now, ones, m);
+            if (k <= nDegree) products[k] += SumOf(now, scaled, m);
             for (std::size_t i = 0; i < m; ++i) {
                 const double dNext = twice[i] * now[i] - before[i];
                 before[i] = now[i];
@@ -115,13 +121,19 @@ void ToPowers(const double* chebyshev, std::size_t nDegree, const Axis& axis,
 
 bool FitPolynomial(const double* x, const double* y, std::size_t n, std::size_t nDegree,
                    double* coefficients) {
-    const auto [low, high] = std::minmax_element(x, x + n);
-    const double dLargest = std::fabs(*std::max_element(
-        y, y + n, [](double a, double b) { return std::fabs(a) < std::fabs(b); }));
-    if (n == 0 || !(*high > *low)) return false;
+    if (n == 0) return false;
+    double dLow = x[0];
+    double dHigh = x[0];
+    double dLargest = 0.0;
+    for (std::size_t i = 0; i < n; ++i) {
+        dLow = std::min(dLow, x[i]);
+        dHigh = std::max(dHigh, x[i]);
+        dLargest = std::max(dLargest, std::fabs(y[i]));
+    }
+    if (!(dHigh > dLow)) return false;
     Axis axis;
-    axis.dMiddle = 0.5 * *low + 0.5 * *high;
-    axis.dHalf = 0.5 * *high - 0.5 * *low;
+    axis.dMiddle = 0.5 * dLow + 0.5 * dHigh;
+    axis.dHalf = 0.5 * dHigh - 0.5 * dLow;
     double chebyshev[kMaxDegree + 1] = {};
     if (n <= kColumnsTo) {
         // The columns square y: it is brought to size one first.

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+#include "Kernels.h"
+
 namespace curvefit {
 
 namespace {
@@ -26,19 +28,7 @@ enum Function : int32_t {
     kLineOrigin = 36,
 };
 
-bool AllFinite(const double* values, std::size_t n) {
-    return std::all_of(values, values + n, [](double d) { return std::isfinite(d); });
-}
-
 }  // namespace
-
-double SubstituteForZero(const double* x, std::size_t n, double dFactor) {
-    double dSmallest = 0.0;
-    for (std::size_t i = 0; i < n; ++i) {
-        if (x[i] > 0.0 && (dSmallest == 0.0 || x[i] < dSmallest)) dSmallest = x[i];
-    }
-    return dSmallest / dFactor;
-}
 
 SeedTask::SeedTask(const FunctionRow& row, const Settings& settings, const double* const* arrays,
                    std::size_t nPoints)

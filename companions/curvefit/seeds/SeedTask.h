@@ -68,7 +68,4 @@ class SeedTask {
     const char* m_szError = "";
 };
 
-// The smallest x above zero divided by the record's factor; 0 where no x is.
-double SubstituteForZero(const double* x, std::size_t n, double dFactor);
-
 }  // namespace curvefit

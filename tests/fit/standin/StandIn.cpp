@@ -1,84 +1,116 @@
-// A curve-fit library that misbehaves: the function number of the record says how.
+// A curve-fit library that can be told to misbehave: the real one behind switches.
 
+#include <algorithm>
 #include <cstring>
+#include <new>
 
 #include "CreateCurveFit.h"
+#include "CurveFitObject.h"
+#include "FunctionTable.h"
+#include "StandInControl.h"
 
 namespace {
 
-enum Behaviour {
-    kNoObject = 0,
-    kNoProperties = 1,
-    kFiveParametersManyTerms = 2,
-    kNoVariables = 3,
-    kSevenVariables = 4,
-    kTextIsAFormat = 5,
-    kNoSeeds = 6,
-    kNoSetUp = 7,
-    kNoEvaluation = 8,
-    kTwentyFiveParameters = 9,
-    kFiveParametersOneTerm = 10,
-    kNoTexts = 11,
-};
+fit_test::StandInControl control{};
+
+bool IsOn(const fit_test::FailSwitch& fail, std::uint32_t uCall) {
+    return uCall >= fail.uFirst && uCall - fail.uFirst < fail.uCount;
+}
+
+// Logs a call; false where it is to fail.
+bool Enter(std::uint32_t uPlace) {
+    return !IsOn(control.places[uPlace], ++control.uCalls[uPlace]);
+}
+
+const char* TextOf(std::uint32_t uPlace, const char* szReal) {
+    if (!Enter(uPlace)) return nullptr;
+    const char* szOwn = control.szTexts[uPlace];
+    return szOwn[0] != '\0' ? szOwn : szReal;
+}
 
 class StandIn final : public ZXADLG_CCurveFit {
   public:
-    explicit StandIn(const FitOptions& options) : m_eBehaviour(options.eFunctionType) {}
+    explicit StandIn(ZXADLG_CCurveFit* pReal) : m_pReal(pReal) {
+        control.uMostAlive = std::max(control.uMostAlive, ++control.uAlive);
+    }
     void* DeleteSelf(uint32_t flags) override {
+        Enter(0);
         if ((flags & 1u) != 0) delete this;
         return nullptr;
     }
-    int32_t ComputeSeeds(const double* const*, double* seeds, uint32_t, uint32_t) override {
-        seeds[0] = 4.5;
-        return m_eBehaviour != kNoSeeds;
+    // A failing place leaves half of its work behind.
+    int32_t ComputeSeeds(const double* const* arrays, double* seeds, uint32_t nArrays,
+                         uint32_t nPoints) override {
+        control.uArrays = nArrays;
+        control.uPoints = nPoints;
+        if (!Enter(7)) {
+            seeds[0] = 4.5;
+            return 0;
+        }
+        if (control.bSeeds == 0) return m_pReal->ComputeSeeds(arrays, seeds, nArrays, nPoints);
+        std::copy(std::begin(control.dSeeds), std::end(control.dSeeds), seeds);
+        return 1;
     }
     int32_t GetErrorText(char* text, uint32_t size) override {
-        std::strncpy(text, "stand-in", size);
+        if (!Enter(11)) return 0;
+        if (control.szTexts[11][0] == '\0') return m_pReal->GetErrorText(text, size);
+        std::strncpy(text, control.szTexts[11], size);
         return 1;
     }
-    int32_t Evaluate(const double* const*, double* y, uint32_t n) override {
-        for (uint32_t i = 0; i < n; ++i) y[i] = 0.25;
-        return m_eBehaviour != kNoEvaluation;
+    int32_t Evaluate(const double* const* x, double* y, uint32_t n) override {
+        control.uPoints = n;
+        if (!Enter(17)) {
+            if (n > 0) y[0] = 0.75;
+            return 0;
+        }
+        if (control.bCurve == 0) return m_pReal->Evaluate(x, y, n);
+        std::fill(y, y + n, control.dCurve);
+        return 1;
     }
     uint32_t GetVariableCount() override {
-        return m_eBehaviour == kNoVariables ? 0 : m_eBehaviour == kSevenVariables ? 7 : 1;
+        if (!Enter(18)) return 0;
+        return control.bVariableCount != 0 ? control.uVariableCount : m_pReal->GetVariableCount();
     }
-    const char* GetFunctionText() override {
-        return m_eBehaviour == kNoTexts         ? nullptr
-               : m_eBehaviour == kTextIsAFormat ? "%d of %s 5%%"
-                                                : "Plain";
-    }
+    const char* GetFunctionText() override { return TextOf(30, m_pReal->GetFunctionText()); }
     int32_t GetProperties(FitFunctionProps* props) override {
-        if (m_eBehaviour == kNoProperties) return 0;
-        props->uParamsPerTerm =
-            m_eBehaviour == kFiveParametersManyTerms || m_eBehaviour == kFiveParametersOneTerm ? 5
-            : m_eBehaviour == kTwentyFiveParameters                                            ? 25
-                                                                                               : 1;
-        props->bMultiTerm = m_eBehaviour == kFiveParametersManyTerms;
-        props->uNumDataArrays = 2;
+        if (!Enter(40)) return 0;
+        if (control.bProps == 0) return m_pReal->GetProperties(props);
+        *props = control.props;
         return 1;
     }
-    const char* GetVariableLabel(uint32_t, uint32_t) override { return Text("variable"); }
-    const char* GetDependentLabel() override { return Text("dependent"); }
-    const char* GetParameterName(uint32_t, uint32_t) override {
-        return Text("a name that is longer than its field");
+    const char* GetVariableLabel(uint32_t group, uint32_t index) override {
+        return TextOf(44, m_pReal->GetVariableLabel(group, index));
     }
-    const char* GetOffsetName() override { return Text("offset"); }
-    const char* GetSlopeName() override { return Text("slope"); }
-    int32_t SetUpCurve(const FitDataStats*, const double*) override {
-        return m_eBehaviour != kNoSetUp;
+    const char* GetDependentLabel() override { return TextOf(45, m_pReal->GetDependentLabel()); }
+    const char* GetParameterName(uint32_t group, uint32_t index) override {
+        return TextOf(46, m_pReal->GetParameterName(group, index));
+    }
+    const char* GetOffsetName() override { return TextOf(47, m_pReal->GetOffsetName()); }
+    const char* GetSlopeName() override { return TextOf(48, m_pReal->GetSlopeName()); }
+    int32_t SetUpCurve(const FitDataStats* stats, const double* seeds) override {
+        control.stats = *stats;
+        return Enter(59) ? m_pReal->SetUpCurve(stats, seeds) : 0;
     }
 
   private:
-    ~StandIn() = default;
-    const char* Text(const char* szText) const {
-        return m_eBehaviour == kNoTexts ? nullptr : szText;
+    ~StandIn() {
+        m_pReal->DeleteSelf(1);
+        --control.uAlive;
     }
-    int32_t m_eBehaviour;
+
+    ZXADLG_CCurveFit* m_pReal;
 };
 
 }  // namespace
 
+extern "C" fit_test::StandInControl* StandInControl() {
+    return &control;
+}
+
 ZXADLG_CCurveFit* curvefit::CreateCurveFit(const FitOptions* options) {
-    return options->eFunctionType == kNoObject ? nullptr : new StandIn(*options);
+    if (options != nullptr) control.record = *options;
+    if (IsOn(control.object, ++control.uObjects) || options == nullptr) return nullptr;
+    const FunctionRow* pRow = FindFunction(options->eFunctionType);
+    if (pRow == nullptr && options->eFunctionType != kCustomFunction) return nullptr;
+    return new StandIn(new CurveFitObject(pRow, *options));
 }

@@ -1,0 +1,41 @@
+// The stand-in curve-fit library as a test holds it: a file beside the test program that
+// CurveFitLibrary loads by its name as it does the real one, and its switches, which start from
+// nothing.
+//
+//     StandInLibrary standIn;
+//     CurveFitLibrary library(GetModuleHandleA(nullptr), StandInLibrary::kFile);
+//     standIn->places[7] = {2, 1};      // the second call of place 7 fails
+//     standIn->object = {1, kAlways};   // there never is an object
+//     EXPECT_EQ(standIn->uCalls[7], 0u);
+#pragma once
+
+#include "StandInControl.h"
+#include "platform/platform.h"
+
+namespace fit_test {
+
+class StandInLibrary {
+  public:
+    static constexpr const char* kFile = "CURVEFIT_STANDIN.dll";
+    static constexpr const char* kMissingFile = "CURVEFIT_MISSING.dll";
+    static constexpr const char* kFileWithoutExport = "CURVEFIT_NOEXPORT.dll";
+
+    StandInLibrary() : m_hLibrary(LoadLibraryA(kFile)) {
+        using Give = StandInControl* (*)();
+        m_pControl = reinterpret_cast<Give>(
+            reinterpret_cast<void*>(GetProcAddress(m_hLibrary, STANDIN_CONTROL)))();
+        Reset();
+    }
+    ~StandInLibrary() { FreeLibrary(m_hLibrary); }
+    StandInLibrary(const StandInLibrary&) = delete;
+    StandInLibrary& operator=(const StandInLibrary&) = delete;
+
+    void Reset() { *m_pControl = {}; }
+    StandInControl* operator->() const { return m_pControl; }
+
+  private:
+    HMODULE m_hLibrary;
+    StandInControl* m_pControl;
+};
+
+}  // namespace fit_test
