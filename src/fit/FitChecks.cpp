@@ -11,6 +11,9 @@
 
 namespace {
 
+// The largest size of normalized data, but for rounding.
+constexpr double kOne = 1.00001;
+
 Finding Refusal(UINT nStringId, FitPage ePage, int nControl = 0) {
     return Finding{.nStringId = nStringId, .nPage = ePage, .nControl = nControl};
 }
@@ -34,9 +37,8 @@ bool IsAllZero(const double* pX, std::uint32_t uCount) {
     return std::none_of(pX, pX + uCount, [](double d) { return d != 0.0; });
 }
 
-// Not a number is no larger than one.
+// Not a number is within.
 bool IsWithinOne(const double* pY, std::uint32_t uCount) {
-    constexpr double kOne = 1.00001;
     return std::none_of(pY, pY + uCount, [](double d) { return std::fabs(d) > kOne; });
 }
 
