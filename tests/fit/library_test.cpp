@@ -195,6 +195,9 @@ TEST_F(StandIn, MoreParametersThanTheGridHoldsFailTheReading) {
         return fit.ReadProperties();
     };
     EXPECT_EQ(read(4, 1), 0);
+    standIn->places[40] = {1, kAlways};
+    EXPECT_EQ(fit.ReadProperties(), 1);
+    standIn->places[40] = {};
     EXPECT_EQ(read(5, 1), 1);
     // The last good reading stays.
     EXPECT_EQ(fit.Properties().uParamsPerTerm, 4u);
@@ -314,6 +317,8 @@ TEST_F(StandIn, CurvesAreToldOfTheirData) {
     EXPECT_EQ(standIn->stats.dXStep, 2.0);
     ASSERT_TRUE(seeds.CurveFromSeeds(late, four, 3, 1));
     EXPECT_EQ(standIn->stats.dXStep, 1.0);
+    ASSERT_TRUE(seeds.CurveFromSeeds(falling, four, 2, 1));
+    EXPECT_EQ(standIn->stats.dXStep, 0.5);
     ASSERT_TRUE(seeds.CurveFromSeeds(falling, four, 1, 1));
     EXPECT_EQ(standIn->stats.dXStep, 1.0);
     EXPECT_EQ(standIn->stats.dFirstX, 8.0);
