@@ -54,6 +54,8 @@ class CFitDialog : public CParentDialogBase {
     // --- Events.
     void Settle();
     void HandToPages(int nCode);
+    void ChangeData(NotificationCode eCode);
+    std::string SelectedData() const;
 
     // --- OK, in the order of Checks.
     CheckResult CheckDataPage();
@@ -85,6 +87,7 @@ class CFitDialog : public CParentDialogBase {
     bool m_bRefused = false;  // the library is missing or refuses the function
     bool m_bDataPageWanted = false;
     DataForm m_eDataForm = DataForm::kNone;
+    std::string m_sSelectedData;  // that the pages know of
 
     ADM_StaticText m_lblName;
     ADM_Static m_lblHelp;
