@@ -37,6 +37,8 @@ class CFitDialog : public CParentDialogBase {
   protected:
     bool SetUp() override;
     void OnAccepted() override;
+    // Its checks look at the model alone: what a field tells is stored as it is typed.
+    TypedValues GetTyped() const override { return {}; }
 
   private:
     using CheckStep = CheckResult (CFitDialog::*)();
