@@ -59,7 +59,7 @@ class CFitFunctionTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialo
 
     CFitOptionsInterface* m_pFit;
     std::int32_t m_eListedGroup = -1;  // whose functions the list holds
-    bool m_bAskedToStop = false;  // since the page was shown
+    bool m_bAskedToStop = false;       // since the page was shown
 
     ADM_RadioButtons m_radKind;
     ADM_Static m_lblGroup;
