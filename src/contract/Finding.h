@@ -3,7 +3,8 @@
 //
 // A check is a plain function over the values as typed, the record and the model of the data. It
 // knows no window and changes nothing, so that it can be run and tested without a dialog; the
-// dialog that walks its checks at OK brings the page up, shows the message and gives the focus.
+// dialog that walks its checks at OK brings the page up, shows the message and gives the focus. A
+// question, which has answers, is asked first, and the page comes up where the answer stays.
 #pragma once
 
 #include <functional>

@@ -146,6 +146,7 @@ void CFitFunctionTab::BindComparison() {
 }
 
 bool CFitFunctionTab::SetUp() {
+    m_eListedGroup = -1;
     for (Number* pNumber : {&m_terms, &m_powerA, &m_powerB, &m_start})
         pNumber->txt.SetValueList(std::size(kTermList), kTermList);
     m_end.txt.SetValueList(std::size(kEndTermList), kEndTermList);
@@ -172,8 +173,9 @@ void CFitFunctionTab::ShowFunction() {
     m_radKind.SetSelected(m_pFit->IsCustomFunction() ? 1 : 0);
     if (!IsListed(m_pFit->eLastPredefined)) m_pRecord->eFunctionGroupID = kAllFunctions;
     m_cmbGroup.SelectData(-1, m_pRecord->eFunctionGroupID);
-    FillList();
-    SelectListed(m_pFit->eLastPredefined);
+    // A list that is filled anew would lose its place.
+    if (m_eListedGroup != m_pRecord->eFunctionGroupID) FillList();
+    if (SelectedFunction() != m_pFit->eLastPredefined) SelectListed(m_pFit->eLastPredefined);
 }
 
 void CFitFunctionTab::ShowNumbers() {
@@ -196,6 +198,7 @@ bool CFitFunctionTab::IsListed(std::int32_t eFunction) const {
 }
 
 void CFitFunctionTab::FillList() {
+    m_eListedGroup = m_pRecord->eFunctionGroupID;
     m_lstFunctions.SetRedraw(FALSE);
     m_lstFunctions.ResetContent();
     for (const FitFunctionEntry& entry : FitFunctions()) {
@@ -212,9 +215,8 @@ bool CFitFunctionTab::SelectListed(std::int32_t eFunction) {
     return m_lstFunctions.SelectData(-1, eFunction) >= 0;
 }
 
-std::int32_t CFitFunctionTab::SelectedFunction() const {
-    return static_cast<std::int32_t>(
-        m_lstFunctions.GetItemData(const_cast<ADM_ListBox&>(m_lstFunctions).GetCurSel()));
+std::int32_t CFitFunctionTab::SelectedFunction() {
+    return static_cast<std::int32_t>(m_lstFunctions.GetItemData(m_lstFunctions.GetCurSel()));
 }
 
 void CFitFunctionTab::FillEquations() {

@@ -45,7 +45,7 @@ class CFitFunctionTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialo
     void FillEquations();
     bool IsListed(std::int32_t eFunction) const;
     bool SelectListed(std::int32_t eFunction);
-    std::int32_t SelectedFunction() const;
+    std::int32_t SelectedFunction();
     std::string TypedEquation() const;
     void ChangeGroup();
     void ChangeFunction(std::int32_t eFunction);
@@ -58,7 +58,8 @@ class CFitFunctionTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialo
     void Settle();
 
     CFitOptionsInterface* m_pFit;
-    bool m_bAskedToStop = false;  // since the page was shown
+    std::int32_t m_eListedGroup = -1;  // whose functions the list holds
+    bool m_bAskedToStop = false;       // since the page was shown
 
     ADM_RadioButtons m_radKind;
     ADM_Static m_lblGroup;

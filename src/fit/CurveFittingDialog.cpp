@@ -157,6 +157,7 @@ bool CFitDialog::SetUp() {
     LoadStringA(GetFrameworkInstance(), IDS_FIT_CUSTOM_HELP, szHelp, sizeof szHelp);
     m_lblHelp.SetWindowText(szHelp);
     SetUpSeeds();
+    m_sSelectedData = SelectedData();
     ShowName();
     ShowPicture();
     return true;
@@ -210,11 +211,7 @@ void CFitDialog::BindEvents() {
     OnBroadcast(kNotifyFitAutomaticChanged, settle);
     for (const NotificationCode eCode :
          {kNotifyDataSelectionChanged, kNotifyPairingChanged, kNotifyRegionChanged}) {
-        OnBroadcast(eCode, [this, eCode] {
-            if (m_pFit->bSeedsAutomatic) m_pFit->bSeedsStale = true;
-            HandToPages(eCode);
-            RequestUpdate();
-        });
+        OnBroadcast(eCode, [this, eCode] { ChangeData(eCode); });
     }
     OnBroadcast(kNotifyRegionRecount, [this] { HandToPages(kNotifyRegionRecount); });
 }
@@ -222,6 +219,26 @@ void CFitDialog::BindEvents() {
 void CFitDialog::Settle() {
     m_pFit->Apply();
     RequestUpdate();
+}
+
+// The data page tells of a selection when it is shown, too: then nothing is another one.
+void CFitDialog::ChangeData(NotificationCode eCode) {
+    std::string sSelected = SelectedData();
+    if (sSelected == m_sSelectedData) return;
+    m_sSelectedData = std::move(sSelected);
+    if (m_pFit->bSeedsAutomatic) m_pFit->bSeedsStale = true;
+    HandToPages(eCode);
+    RequestUpdate();
+}
+
+// The bytes of the record that say which points are fitted.
+std::string CFitDialog::SelectedData() const {
+    ZXADLG_DataOptions record = *m_pDataRecord;
+    record.bExtrapolate = 0;
+    record.uExtrapolationCursor = 0;
+    const auto* pBytes = reinterpret_cast<const char*>(&record);
+    return {pBytes + offsetof(ZXADLG_DataOptions, eDataGroup1SelectionMode),
+            pBytes + sizeof record};
 }
 
 // What the data page tells its own observers, for the other pages.

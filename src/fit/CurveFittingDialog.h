@@ -37,6 +37,8 @@ class CFitDialog : public CParentDialogBase {
   protected:
     bool SetUp() override;
     void OnAccepted() override;
+    // Its checks look at the model alone: what a field tells is stored as it is typed.
+    TypedValues GetTyped() const override { return {}; }
 
   private:
     using CheckStep = CheckResult (CFitDialog::*)();
@@ -54,6 +56,8 @@ class CFitDialog : public CParentDialogBase {
     // --- Events.
     void Settle();
     void HandToPages(int nCode);
+    void ChangeData(NotificationCode eCode);
+    std::string SelectedData() const;
 
     // --- OK, in the order of Checks.
     CheckResult CheckDataPage();
@@ -85,6 +89,7 @@ class CFitDialog : public CParentDialogBase {
     bool m_bRefused = false;  // the library is missing or refuses the function
     bool m_bDataPageWanted = false;
     DataForm m_eDataForm = DataForm::kNone;
+    std::string m_sSelectedData;  // that the pages know of
 
     ADM_StaticText m_lblName;
     ADM_Static m_lblHelp;

@@ -103,6 +103,28 @@ TEST_F(ChecksAtOk, AFindingKeepsTheDialogOpenOnItsPageWithItsControlFocused) {
     EXPECT_EQ(order, "a");
 }
 
+TEST_F(ChecksAtOk, AQuestionStandsOverThePageThatTheUserSees) {
+    for (const bool bStays : {false, true}) {
+        SCOPED_TRACE(bStays);
+        int nPageAsked = -1;
+        DialogScript script;
+        script.Click(IDOK).Answer(bStays ? 102 : 101);
+        if (bStays) {
+            script.Do([this] { EXPECT_EQ(open->GetCurrentPageIndex(), 1); }).Click(IDCANCEL);
+        }
+        const int nResult = Run(script, [&](CheckedDialog& dialog) {
+            Finding question = Question({{.nButton = IDYES, .eNext = Finding::Next::kGoOn},
+                                         {.nButton = IDNO, .step = [&nPageAsked, this] {
+                                              nPageAsked = open->GetCurrentPageIndex();
+                                          }}});
+            question.nPage = 1;
+            dialog.AddCheck(Step('a', question));
+        });
+        EXPECT_EQ(nResult, bStays ? 2 : 1);
+        EXPECT_EQ(nPageAsked, bStays ? 0 : -1);
+    }
+}
+
 TEST_F(ChecksAtOk, EachAnswerLeadsWhereItSays) {
     struct Case {
         int nAnswer;

@@ -127,6 +127,22 @@ TEST_F(FitEvents, FlagsOfOtherData) {
     ShowAndCancel(script);
 }
 
+TEST_F(FitEvents, ALookAtTheDataPageKeepsSeedsAndWhatIsFixed) {
+    for (const std::uint32_t uKind : {0u, 1u, 2u}) {
+        SCOPED_TRACE(uKind);
+        source.Kind(uKind);
+        if (uKind == 2) MakeSheet();
+        DialogScript script;
+        script.SelectTab(kSeeds)
+            .Click(IDC_FIT_FIX_FIRST + 1)
+            .SelectTab(kData)
+            .Do(Flagged("VA"))
+            .SelectTab(kSeeds)
+            .ExpectChecked(IDC_FIT_FIX_FIRST + 1, BST_CHECKED);
+        ShowAndCancel(script);
+    }
+}
+
 TEST_F(FitEvents, FlagsOfOtherDataUnderSeedsOfTheUser) {
     DialogScript script;
     script.SelectTab(kSeeds)

@@ -71,6 +71,23 @@ TEST_F(FunctionTab, ChangedGroupThatHasTheFunctionChangesNothingElse) {
     ShowAndCancel(script);
 }
 
+TEST_F(FunctionTab, ListKeepsItsPlaceWhenAFunctionIsChosen) {
+    options.eFunctionGroupID = kAllFunctions;
+    LRESULT nTop = 0;
+    DialogScript script;
+    script.Choose(IDC_FIT_FUNCTIONS, "Voltage-dependent relaxation")
+        .Do([&](HWND hDialog) {
+            nTop = SendMessageA(FindControl(hDialog, IDC_FIT_FUNCTIONS), LB_GETTOPINDEX, 0, 0);
+            EXPECT_GT(nTop, 0);
+        })
+        .Choose(IDC_FIT_FUNCTIONS, "Straight line, standard")
+        .Do([&](HWND hDialog) {
+            HWND hList = FindControl(hDialog, IDC_FIT_FUNCTIONS);
+            EXPECT_EQ(SendMessageA(hList, LB_GETTOPINDEX, 0, 0), nTop);
+        });
+    ShowAndCancel(script);
+}
+
 TEST_F(FunctionTab, OpeningWidensTheGroupAndKeepsTheFunction) {
     options.eFunctionType = 18;
     options.eFunctionGroupID = kExponentialGrowth;
