@@ -19,6 +19,7 @@
 #include "zxadlg/CurrentVoltageOptions.h"
 #include "zxadlg/DataOptions.h"
 #include "zxadlg/DlgParams.h"
+#include "zxadlg/FitOptions.h"
 #include "zxadlg/ForceValuesOptions.h"
 #include "zxadlg/LeakSubtractionOptions.h"
 #include "zxadlg/ModifySampleRateOptions.h"
@@ -269,6 +270,18 @@ int32_t ZXADLG_CALL ZXADLG_ShowSubtractControlDialog(HWND__* parent,
                                                      void* unused, ZXADLG_CDlgDataSource* source,
                                                      ZXADLG_CDlgFileSource* fileSource,
                                                      const ZXADLG_DlgParams* params);
+
+// Curve Fitting: the function and its own numbers, the fitting methods, seeds of the parameters,
+// and the data to be fitted. Needs the library CURVEFIT beside the module; without it, or when it
+// refuses the record's function, there is a message and the result is ZXADLG_CANCEL. Functions 19
+// and 20 need a sheet and bUseDataOptions, and become 15 elsewhere. With bFitSelectRegionOne the
+// analysis region starts as 1, with bFitKeepSeeds the seeds of the last OK stand where the data are
+// of the same kind, and with bFitOptionByte the user may go on with another method where x is not
+// evenly spaced.
+int32_t ZXADLG_CALL ZXADLG_ShowCurveFitDialog(HWND__* parent, FitOptions* options,
+                                              ZXADLG_DataOptions* data,
+                                              ZXADLG_CDlgDataSource* source,
+                                              const ZXADLG_DlgParams* params);
 
 // The fields of a record by the name of its type ("ZXADLG_NormalizeOptions"), in the order of the
 // record. Stores a pointer to the first and returns their number; 0, and a null pointer, for a name

@@ -223,3 +223,5 @@
 #define IDS_INTERPOLATION 2286
 #define IDS_SAMPLING_NOTE 2324
 #define IDS_REDUCTION 2335
+// Texts of our own begin at 2700.
+#define IDS_NO_SAMPLING_INTERVAL 2701

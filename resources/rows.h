@@ -19,6 +19,9 @@
 #define SPINNER(id, x, y, w, h) CONTROL "", id, "ZDC_SpinnerVert", ZX_CHILD, x, y, w, h
 // The height of a combo box is that of its open list.
 #define COMBO(id, x, y, w, h) CONTROL "", id, "COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h
+// The same with an edit part.
+#define COMBO_EDIT(id, x, y, w, h) CONTROL "", id, "COMBOBOX", CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h
+#define SORTED_LIST(id, x, y, w, h) CONTROL "", id, "LISTBOX", LBS_NOTIFY | LBS_SORT | LBS_NOINTEGRALHEIGHT | WS_BORDER | WS_VSCROLL | WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h
 #define SINGLE_LIST(id, x, y, w, h) CONTROL "", id, "LISTBOX", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_BORDER | WS_VSCROLL | WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h
 #define MULTI_LIST(id, x, y, w, h) CONTROL "", id, "LISTBOX", LBS_NOTIFY | LBS_EXTENDEDSEL | LBS_NOINTEGRALHEIGHT | WS_BORDER | WS_VSCROLL | WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h
 #define TABS(id, x, y, w, h) CONTROL "", id, "SysTabControl32", WS_TABSTOP | WS_GROUP | ZX_CHILD, x, y, w, h

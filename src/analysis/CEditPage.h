@@ -3,7 +3,7 @@
 //
 // - before the page is ready nothing that a control tells counts;
 // - while the program shows values or runs the rules, what controls tell is not the user's doing;
-// - in read-only mode what reaches a control is undone;
+// - in read-only mode every input is greyed, and what still reaches a control is undone;
 // - what other pages broadcast is told apart from what controls tell, and reaches its own rows.
 //
 // A page lists its controls as rows in its constructor (Bind, OnEvent, OnBroadcast), fills its
@@ -44,6 +44,7 @@ class CEditPage : public Base {
             if (!SetUp()) return bResult;
         }
         ShowRecord();
+        if (m_bReadOnly) GreyInputs(*this, [this](ADM_Wnd* p) { return m_rows.IsAlive(p); });
         m_bReady = true;
         return bResult;
     }
@@ -164,7 +165,7 @@ class CEditPage : public Base {
     bool IsReadOnly() const { return m_bReadOnly; }
     bool IsUpdating() const { return m_bUpdating != 0 || this->m_bInUpdate != 0; }
     bool IsDisabled() const { return m_bDisabled; }
-    bool CanEdit() const { return !m_bDisabled; }
+    bool CanEdit() const { return !m_bReadOnly && !m_bDisabled; }
 
     BOOL m_bUpdating = 0;
 

@@ -1,9 +1,7 @@
 #include "analysis/CParentDialogBase.h"
 
-#include <algorithm>
 #include <map>
 
-#include "ZXADLG.h"
 #include "analysis/CUnitaryDataTab.h"
 #include "analysis/DataChecks.h"
 #include "analysis/DialogMessages.h"
@@ -14,7 +12,7 @@ CParentDialogBase::CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData,
                                      ZXADLG_CDlgDataSource* pSource,
                                      const ZXADLG_DlgParams* pParams, UINT uTemplateId,
                                      UINT uTabControlId)
-    : CEditPage(pParams->bReadOnly != 0),
+    : CCheckedDialog(pParams->bReadOnly != 0),
       m_pDataRecord(pData),
       m_pFlags(std::make_unique<ZXADLG_DataTabFlags>()),
       m_pSource(pSource),
@@ -85,9 +83,17 @@ bool CParentDialogBase::SetUp() {
         OnCancel();
         return false;
     }
-    // A memory that points past the last tab is of a dialog with more tabs than this one.
-    if (m_nLastTab != 0 && !IsReadOnly() && m_nLastTab < GetPageCount()) SelectPage(m_nLastTab);
     return true;
+}
+
+BOOL CParentDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
+    const BOOL bResult = CEditPage::OnInitDialog(hWnd, hFocus, lParam);
+    // A memory that points past the last tab is of a dialog with more tabs than this one. A page
+    // that refuses to be left would say so before the user has done anything.
+    const bool bRemembered = m_nLastTab != 0 && m_nLastTab < GetPageCount();
+    if (IsReady() && bRemembered && !IsReadOnly() && GetCurrentPage()->CanLeavePage())
+        SelectPage(m_nLastTab);
+    return bResult;
 }
 
 // --- Ending ----------------------------------------------------------------------------------
@@ -113,35 +119,16 @@ void CParentDialogBase::OnCancel() {
     EndDialogWith(ZXADLG_CANCEL);
 }
 
-bool CParentDialogBase::PassChecks() {
-    if (m_vChecks.empty()) return true;
-    ReadControls();
-    return std::all_of(m_vChecks.begin(), m_vChecks.end(), [this](const Check& check) {
-        TypedValues typed = TypedTexts(m_hWnd);
-        for (int i = 0; i < GetPageCount(); ++i) typed.merge(TypedTexts(GetPage(i)->GetHandle()));
-        const CheckResult result = check(typed);
-        return !result.has_value() || Answer(*result);
-    });
+TypedValues CParentDialogBase::GetTyped() const {
+    TypedValues typed = CCheckedDialog::GetTyped();
+    for (int i = 0; i < GetPageCount(); ++i) typed.merge(TypedTexts(GetPage(i)->GetHandle()));
+    return typed;
 }
 
-// Whether the next check is to run.
-bool CParentDialogBase::Answer(const Finding& finding) {
-    const int nPage =
-        finding.nPage == Finding::kCurrentPage ? GetCurrentPageIndex() : finding.nPage;
+const ADM_Dialog& CParentDialogBase::BringUp(int nPage) {
+    if (nPage == Finding::kCurrentPage) nPage = GetCurrentPageIndex();
     BringUpPage(nPage);
-    const UINT nButton = ShowFinding(m_hWnd, finding);
-    const Finding::Answer* pAnswer = finding.FindAnswer(nButton);
-    if (pAnswer != nullptr && pAnswer->step) pAnswer->step();
-    switch (pAnswer != nullptr ? pAnswer->eNext : Finding::Next::kStay) {
-        case Finding::Next::kGoOn:
-            return true;
-        case Finding::Next::kCancel:
-            EndDialogWith(ZXADLG_CANCEL);
-            return false;
-        default:
-            FocusControl(*GetPage(nPage), finding.nControl);
-            return false;
-    }
+    return *GetPage(nPage);
 }
 
 // --- The data of a read-only dialog ----------------------------------------------------------

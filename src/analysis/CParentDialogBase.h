@@ -12,24 +12,24 @@
 // button, whose caption is then "Close". Record, source and parameters outlive the dialog.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
+#include "analysis/CCheckedDialog.h"
 #include "analysis/CDataTabBase.h"
-#include "analysis/CEditPage.h"
 #include "analysis/COptionsTabBase.h"
 #include "contract/CDataOptionsInterface.h"
-#include "contract/Finding.h"
 #include "framework/ADM_TabbedDialog.h"
 #include "zxadlg/DlgParams.h"
 
-class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
+class CParentDialogBase : public CCheckedDialog<ADM_TabbedDialog> {
   public:
     CParentDialogBase(HWND hwndParent, ZXADLG_DataOptions* pData, ZXADLG_CDlgDataSource* pSource,
                       const ZXADLG_DlgParams* pParams, UINT uTemplateId, UINT uTabControlId);
     ~CParentDialogBase() override;
 
+    // The page of the last OK comes up when the dialog is ready, unless the first one has a fault.
+    BOOL OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) override;
     void OnOK() override;
     void OnCancel() override;
 
@@ -40,8 +40,6 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
     static void ForgetTabs();
 
   protected:
-    using Check = std::function<CheckResult(const TypedValues&)>;
-
     // Creates the model of the data selection, which offers what the flags say.
     void OfferData(const ZXADLG_DataTabFlags& flags);
     // Adds a tab behind those that are there.
@@ -49,8 +47,6 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
     // Makes a tab the data tab, behind the options tabs. In an open dialog it takes the place of
     // the one before.
     void SetDataTab(std::unique_ptr<CDataTabBase> pTab);
-    // Adds a check that runs at OK behind those that are there, and at OK alone.
-    void AddCheck(Check check) { m_vChecks.push_back(std::move(check)); }
 
     // The usual dialog: one options tab, and the data tab of one family of sets. Tab::Options is
     // built with (record, source), and Tab with (options, parameters, model).
@@ -68,6 +64,8 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
     void AddUnitaryDataTab();
 
     bool SetUp() override;
+    TypedValues GetTyped() const override;
+    const ADM_Dialog& BringUp(int nPage) override;
     // Checks the data.
     void Undo() override;
     // What the dialog writes when everything has passed, before it ends.
@@ -87,10 +85,7 @@ class CParentDialogBase : public CEditPage<ADM_TabbedDialog> {
     bool m_bUseDataOptions;
 
   private:
-    bool PassChecks();
-    bool Answer(const Finding& finding);
     void CheckData();
 
-    std::vector<Check> m_vChecks;
     int& m_nLastTab;
 };

@@ -1,42 +1,25 @@
 #include "analysis/CUntabbedDialogBase.h"
 
-#include <algorithm>
-
-#include "ZXADLG.h"
 #include "ids.h"
 #include "widgets/FrameworkSetup.h"
 
 // --- A page and a dialog in one --------------------------------------------------------------
 
-CSinglePage::CSinglePage(HWND hwndParent, UINT uTemplateId, bool bReadOnly) : CEditPage(bReadOnly) {
+CSinglePage::CSinglePage(HWND hwndParent, UINT uTemplateId, bool bReadOnly)
+    : CCheckedDialog(bReadOnly) {
     m_hInstance = GetFrameworkInstance();
     m_hParentWnd = hwndParent;
     SetTemplate(MAKEINTRESOURCEA(uTemplateId));
 }
 
 BOOL CSinglePage::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
-    const BOOL bResult = CEditPage::OnInitDialog(hWnd, hFocus, lParam);
+    const BOOL bResult = CCheckedDialog::OnInitDialog(hWnd, hFocus, lParam);
     if (IsReadOnly()) DressReadOnly(hWnd);
     return bResult;
 }
 
 void CSinglePage::OnOK() {
-    const bool bPassed =
-        std::all_of(m_vChecks.begin(), m_vChecks.end(), [this](const Check& check) {
-            const CheckResult result = check(TypedTexts(m_hWnd));
-            return !result.has_value() || Answer(*result);
-        });
-    if (bPassed && PrepareOK()) CEditPage::OnOK();
-}
-
-bool CSinglePage::Answer(const Finding& finding) {
-    const UINT nButton = ShowFinding(m_hWnd, finding);
-    const Finding::Answer* pAnswer = finding.FindAnswer(nButton);
-    if (pAnswer != nullptr && pAnswer->step) pAnswer->step();
-    const Finding::Next eNext = pAnswer != nullptr ? pAnswer->eNext : Finding::Next::kStay;
-    if (eNext == Finding::Next::kCancel) EndDialogWith(IDCANCEL);
-    if (eNext == Finding::Next::kStay) FocusControl(*this, finding.nControl);
-    return eNext == Finding::Next::kGoOn;
+    if (PassChecks() && PrepareOK()) CCheckedDialog::OnOK();
 }
 
 // --- With the shared options and a model of the data -------------------------------------------

@@ -8,18 +8,14 @@
 // Record, source and parameters outlive the dialog.
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <utility>
-#include <vector>
 
-#include "analysis/CEditPage.h"
+#include "analysis/CCheckedDialog.h"
 #include "contract/CDataOptionsInterface.h"
-#include "contract/Finding.h"
 #include "framework/ADM_Dialog.h"
 #include "zxadlg/DlgParams.h"
 
-class CSinglePage : public CEditPage<ADM_Dialog> {
+class CSinglePage : public CCheckedDialog<ADM_Dialog> {
   public:
     CSinglePage(HWND hwndParent, UINT uTemplateId, bool bReadOnly);
 
@@ -28,16 +24,8 @@ class CSinglePage : public CEditPage<ADM_Dialog> {
     void OnOK() override;
 
   protected:
-    using Check = std::function<CheckResult(const TypedValues&)>;
-
-    void AddCheck(Check check) { m_vChecks.push_back(std::move(check)); }
     // What has to be done between the checks and the validation. False keeps the dialog open.
     virtual bool PrepareOK() { return true; }
-
-  private:
-    bool Answer(const Finding& finding);
-
-    std::vector<Check> m_vChecks;
 };
 
 class CUntabbedDialogBase : public CSinglePage {

@@ -17,6 +17,15 @@ bool IsGroupBox(HWND hWnd) {
     return (GetWindowLongPtrA(hWnd, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
+bool IsInput(HWND hWnd) {
+    const int nId = GetDlgCtrlID(hWnd);
+    if (nId == IDOK || nId == IDCANCEL) return false;
+    const std::string sClass = ClassOf(hWnd);
+    if (EqualNoCase(sClass, "Button")) return !IsGroupBox(hWnd);
+    return EqualNoCase(sClass, "Edit") || EqualNoCase(sClass, "ComboBox") ||
+           std::string_view(sClass).starts_with("ZDC_Spinner");
+}
+
 // The caption of the label or button directly before a field, without its access key and colon.
 std::string LabelBefore(HWND hField) {
     HWND hLabel = GetWindow(hField, GW_HWNDPREV);
@@ -44,5 +53,18 @@ void NameFields(const ADM_Dialog& page, const std::vector<ADM_Wnd*>& vControls) 
         if (pControl->GetFieldName() != nullptr || !EqualNoCase(ClassOf(hField), "Edit")) continue;
         const std::string sName = LabelBefore(hField);
         if (!sName.empty()) pControl->SetFieldName(sName.c_str());
+    }
+}
+
+void GreyInputs(ADM_Dialog& page, const std::function<bool(ADM_Wnd*)>& isAlive) {
+    for (HWND hItem = GetWindow(page.GetHandle(), GW_CHILD); hItem != nullptr;
+         hItem = GetWindow(hItem, GW_HWNDNEXT)) {
+        if (!IsInput(hItem)) continue;
+        ADM_Wnd* pControl = page.FindControl(hItem);
+        if (pControl == nullptr) {
+            EnableWindow(hItem, FALSE);
+        } else if (!isAlive(pControl)) {
+            pControl->Enable(FALSE);
+        }
     }
 }

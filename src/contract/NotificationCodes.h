@@ -3,6 +3,19 @@
 #pragma once
 
 enum NotificationCode {
+    // Curve fitting.
+    kNotifyFitFunctionChanged = 2200,       // function or form of it, or the custom one compiled
+    kNotifyFitCustomText = 2201,            // the custom text is to be compiled
+    kNotifyFitMethodChanged = 2203,         // methods or number of terms
+    kNotifyFitCompareChanged = 2204,        // comparison of models, or the seed page was activated
+    kNotifyFitSeedsChanged = 2205,          // seeds
+    kNotifyFitZeroShiftChanged = 2206,      // zero-shift in effect
+    kNotifyFitForcePositiveChanged = 2207,  // what is forced positive
+    kNotifyFitRefitChanged = 2208,          // fixed parameters, auto-free, validity of the seeds
+    kNotifyFitShowDataPage = 2209,          // the data page is to be shown
+    kNotifyFitMethodsLeft = 2224,           // the page of the methods was left
+    kNotifyFitAutomaticChanged = 2225,      // methods are chosen automatically, or no longer
+
     kNotifyDataSelectionChanged = 2212,  // data tabs: the selection of data changed
     kNotifyPairingChanged = 2213,        // paired data tab: the x or y assignment changed
     kNotifyRegionChanged = 2214,         // unitary data tab: the analysis region changed

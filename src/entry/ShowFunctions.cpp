@@ -2,6 +2,7 @@
 
 #include "ZXADLG.h"
 #include "entry/ShowSequence.h"
+#include "fit/CurveFittingDialog.h"
 #include "platform/platform.h"
 #include "traceops/AdjustBaselineDialog.h"
 #include "traceops/ForceValuesDialog.h"
@@ -21,6 +22,14 @@ constexpr ShowRow<Record> TabbedRow(const char* szAnalysis, void (*pLoad)(const 
 
 constexpr auto kAdjustBaseline =
     TabbedRow("AdjustBaseline", &LoadAdjustBaselineOptions, &SaveAdjustBaselineOptions);
+// The host may ask for the region that it numbers 1, whatever is stored.
+void PrepareCurveFit(FitOptions*, ZXADLG_DataOptions* pData, const ZXADLG_DlgParams& params) {
+    if (params.bFitSelectRegionOne != 0) pData->eAnalysisRegion = 1;
+}
+
+constexpr ShowRow<FitOptions> kCurveFit = {"CurveFit",           DataRecord::kCopied,
+                                           kDataOptionsNormal,   &LoadCurveFitOptions,
+                                           &SaveCurveFitOptions, &PrepareCurveFit};
 constexpr auto kForceValues =
     TabbedRow("ForceValues", &LoadForceValuesOptions, &SaveForceValuesOptions);
 constexpr auto kLeakSubtraction =
@@ -48,6 +57,13 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowAdjustBaselineDialog(
     ZXADLG_CDlgDataSource* source, const ZXADLG_DlgParams* params) {
     return ShowTabbed<CAdjustBaselineDialog>(kAdjustBaseline, parent, options, data, source,
                                              params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowCurveFitDialog(HWND parent, FitOptions* options,
+                                                         ZXADLG_DataOptions* data,
+                                                         ZXADLG_CDlgDataSource* source,
+                                                         const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CFitDialog>(kCurveFit, parent, options, data, source, params);
 }
 
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowForceValuesDialog(HWND parent,

@@ -32,6 +32,11 @@ const char* TextOf(const char* szText) {
     return szText == nullptr ? "" : szText;
 }
 
+// A typed valence; none is 1.
+std::int32_t ClampValence(std::int32_t nValence) {
+    return nValence == 0 ? 1 : std::clamp<std::int32_t>(nValence, -4, 4);
+}
+
 std::uint32_t InTerms(std::uint32_t uTerms) {
     return std::clamp<std::uint32_t>(uTerms, 1, CFitOptionsInterface::kMaxTerms);
 }
@@ -61,6 +66,16 @@ void CFitOptionsInterface::Open() {
     record.szEquation[sizeof record.szEquation - 1] = '\0';
     for (auto& szEquation : record.szCustomEquations) szEquation[sizeof szEquation - 1] = '\0';
     record.szFunctionName[sizeof record.szFunctionName - 1] = '\0';
+    // The fields are clamped as what is typed into them is.
+    constexpr std::uint32_t kUsualPower = 3;
+    for (std::uint32_t* puPower : {&record.uCurTimePowerA, &record.uExpPower})
+        *puPower = *puPower == 0 ? kUsualPower : InTerms(*puPower);
+    for (std::uint32_t* puTerm : {&record.uCurTimePowerB, &record.uStartCompare,
+                                  &record.uDlgFitOrder, &record.uPolynomTerm})
+        *puTerm = InTerms(*puTerm);
+    record.uEndCompare = std::clamp<std::uint32_t>(record.uEndCompare, 2, kMaxTerms);
+    record.uNernstValence =
+        static_cast<std::uint32_t>(ClampValence(static_cast<std::int32_t>(record.uNernstValence)));
     // Of each pair one is stored, or survives a function of one term.
     if (record.bUseChebyFilter != 0) record.bDlgChebyFilter = 1;
     if (record.bDlgCompareModels != 0) record.bCompareModels = 1;
@@ -105,6 +120,13 @@ int CFitOptionsInterface::ReadProperties() {
     // The library's text is a format without arguments.
     CopyText(m_szFunctionText, ExpandWithoutArguments(TextOf(use->GetFunctionText())));
     return 0;
+}
+
+void CFitOptionsInterface::DropProperties() {
+    m_Props = DefaultProperties();
+    m_pData->SetConstantCount(1);
+    for (auto& szName : m_szParamNames) szName[0] = '\0';
+    m_szOffsetName[0] = m_szSlopeName[0] = m_szFunctionText[0] = '\0';
 }
 
 // --- The function's own numbers ------------------------------------------------------------------

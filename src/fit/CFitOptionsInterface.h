@@ -6,10 +6,21 @@
 // the slope behind the grid where the function has them.
 #pragma once
 
+#include <functional>
+#include <optional>
+
 #include "contract/CAnalysisOptionsInterfaceBase.h"
 #include "contract/CDataOptionsInterface.h"
 #include "fit/CurveFitLibrary.h"
 #include "fit/FitCatalogue.h"
+
+// What settling the record found different from the last time.
+struct FitChanges {
+    bool bFunction = false;  // or a step to or from Chebyshev that changes the function's form
+    bool bMethods = false;   // search, minimisation or weighting
+    bool bOrder = false;     // the terms in effect
+    bool bFailed = false;    // the library refused, and the function and its methods went back
+};
 
 // What evenly spaced x were asked for and found.
 struct EvenXFinding {
@@ -50,6 +61,11 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     // Reads what the library reports for the record as it stands. 0 on success; on failure what was
     // read before stays.
     int ReadProperties();
+    // What a custom function without an accepted equation has in their place.
+    void DropProperties();
+    // Chooses a function; of the predefined ones the last is remembered. Function 17, chosen by
+    // hand, is for variable metric alone, and the method before it comes back behind it.
+    void SetFunction(std::int32_t eFunction);
     // The METAFILE resource of the current function.
     const char* PictureName() const;
 
@@ -103,6 +119,20 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     bool IsChebyFilterForced() const;
     bool IsChebyFilterWanted() const;
 
+    // --- What follows a change of the record.
+    // Takes the record as it stands for settled, so that only later changes count.
+    void BeginSettled();
+    // Chooses the methods, automatically or by moving selections off what is not open, and reads
+    // the properties where they may have changed. Telling of it is the caller's.
+    FitChanges Settle();
+    // Settles, keeps the flags about the seeds, and tells the observers what changed. False where
+    // the library refused.
+    bool Apply();
+    // Switches the automatic choice, which is then made anew.
+    void SetAutomatic(bool bAutomatic);
+    // The record holds another equation that has been accepted: the function is another one.
+    void TakeEquation();
+
     // --- Who may seed: seeds are entered for all functions but regressions, and under Chebyshev
     // only fixed ones of 14 and 15.
     bool IsSeeded() const;
@@ -132,8 +162,38 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     std::uint32_t uSavedOrder = 0;
     std::int32_t eLastPredefined = kNoFitFunction;
     double dProportionScale = 1.0;  // between absolute and normalised proportions
+    bool bKeepsSeeds = false;       // the host wants stored seeds to be kept where they can be
+    bool bDeferred = false;         // nothing is read through the data source
+    std::function<void()> onSeedsDropped;  // seeds of another function are to be cleared
 
   private:
+    // What the automatic choice looks at.
+    struct AutomaticInput {
+        std::int32_t eFunction;
+        std::uint32_t uOrder;
+        bool bComparing;
+        std::int32_t bForceProps, bForceTaus, bAutoZeroShift, bDoZeroShift;
+        bool bFirstXIsZero;
+        bool operator==(const AutomaticInput&) const = default;
+    };
+    struct Settled {
+        std::int32_t eFunction = kNoFitFunction;
+        std::int32_t eLast = kNoFitFunction;
+        std::int32_t eSearch = 0;
+        std::int32_t eMinim = 0;
+        std::int32_t eWeighting = 0;
+        std::uint32_t uTerms = 0;
+        bool bCompiled = false;
+        bool operator==(const Settled&) const = default;
+    };
+    Settled Now() const;
+    bool IsFirstXZero() const;
+    bool ChooseAutomatically();
+    bool MoveSelections();
+    bool MoveSearch();
+    bool MoveMinim();
+    bool MoveWeighting();
+    bool ReadFor(const Settled& now);
     bool IsAutomaticallyOther(std::int32_t eStands, std::int32_t eThis) const;
     bool IsWeightEnabled(std::int32_t eWeighting) const;
 
@@ -141,6 +201,10 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     CDataOptionsInterface* m_pData;
     CurveFitLibrary* m_pLibrary;
     FitFunctionProps m_Props;
+    std::optional<AutomaticInput> m_lastAutomatic;
+    std::optional<std::int32_t> m_eSearchBefore17;
+    Settled m_settled;
+    Settled m_read;  // that the properties were read for
     FitDataStats m_Stats{};
     char m_szParamNames[24][15] = {};
     char m_szOffsetName[15] = "";

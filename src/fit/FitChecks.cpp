@@ -7,6 +7,7 @@
 
 #include "ZXADLG.h"
 #include "contract/SelectionList.h"
+#include "fit_control_ids.h"
 #include "fit_ids.h"
 #include "ids.h"
 

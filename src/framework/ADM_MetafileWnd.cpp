@@ -1,6 +1,8 @@
 #include "framework/ADM_MetafileWnd.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 
 namespace {
 
@@ -12,6 +14,12 @@ int ReadInt16(const BYTE* pBytes) {
 DWORD ReadUInt32(const BYTE* pBytes) {
     return static_cast<DWORD>(pBytes[0]) | static_cast<DWORD>(pBytes[1]) << 8 |
            static_cast<DWORD>(pBytes[2]) << 16 | static_cast<DWORD>(pBytes[3]) << 24;
+}
+
+// A scale that takes the extent out of range gives the largest one.
+LONG Scaled(int nExtent, int nScale) {
+    constexpr std::int64_t kLargest = std::numeric_limits<LONG>::max();
+    return static_cast<LONG>(std::clamp(std::int64_t{nExtent} * nScale, -kLargest, kLargest));
 }
 
 }  // namespace
@@ -47,8 +55,8 @@ void ADM_MetafileWnd::SetScale(int nScale) {
 METAFILEPICT ADM_MetafileWnd::GetPicture() const {
     METAFILEPICT picture = {};
     picture.mm = m_nMapMode;
-    picture.xExt = m_nWidth * m_nScale;
-    picture.yExt = m_nHeight * m_nScale;
+    picture.xExt = Scaled(m_nWidth, m_nScale);
+    picture.yExt = Scaled(m_nHeight, m_nScale);
     return picture;
 }
 

@@ -62,7 +62,13 @@ void ADM_TabSubDialog::OnAppCommand(WPARAM wParam, LPARAM lParam) {
 BOOL ADM_TabSubDialog::OnPageShow() {
     Show(SW_SHOW);
     Enable(TRUE);
-    SetFocus();
+    // A page in which nothing can have the focus leaves it on the tabs.
+    const HWND hFirst = GetNextDlgTabItem(m_hWnd, nullptr, FALSE);
+    if (hFirst != nullptr && ::IsChild(m_hWnd, hFirst)) {
+        SetFocus();
+    } else {
+        ::SetFocus(m_hParentWnd);
+    }
     // What the rules of the page depend on may have changed on another one.
     RequestUpdate();
     return 1;

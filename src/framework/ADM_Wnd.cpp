@@ -127,7 +127,12 @@ void ADM_Wnd::Show(int nCmdShow) {
 }
 
 void ADM_Wnd::Enable(BOOL bEnable) {
-    if (m_hWnd != nullptr) ::EnableWindow(m_hWnd, bEnable);
+    if (m_hWnd == nullptr) return;
+    // A greyed window would take the focus with it, and the keyboard would be dead.
+    if (!bEnable && HasFocus() && (::GetWindowLongPtrA(m_hWnd, GWL_STYLE) & WS_CHILD) != 0) {
+        ::SendMessageA(::GetAncestor(m_hWnd, GA_ROOT), WM_NEXTDLGCTL, 0, FALSE);
+    }
+    ::EnableWindow(m_hWnd, bEnable);
 }
 
 void ADM_Wnd::SetFocus() const {

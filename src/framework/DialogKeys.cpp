@@ -18,6 +18,25 @@ ADM_TabbedDialog* TabbedDialogOf(HWND hWnd) {
     return nullptr;
 }
 
+bool IsKey(UINT uMessage) {
+    return uMessage >= WM_KEYFIRST && uMessage <= WM_KEYLAST;
+}
+
+// Whether the dialog manager finds the window on its walk over the controls: it passes over what
+// stands in a hidden or greyed page, and from a window in there it would walk for ever.
+bool IsOnTheWalk(HWND hWnd) {
+    for (;;) {
+        const LONG_PTR nStyle = GetWindowLongPtrA(hWnd, GWL_STYLE);
+        const HWND hParent = GetParent(hWnd);
+        if ((nStyle & WS_CHILD) == 0 || hParent == nullptr) return true;
+        const LONG_PTR nParentStyle = GetWindowLongPtrA(hParent, GWL_STYLE);
+        if ((nParentStyle & WS_CHILD) != 0 &&
+            (nParentStyle & (WS_VISIBLE | WS_DISABLED)) != WS_VISIBLE)
+            return false;
+        hWnd = hParent;
+    }
+}
+
 bool ChangePage(HWND hWnd, bool bForward) {
     ADM_TabbedDialog* const pTabbed = TabbedDialogOf(hWnd);
     return pTabbed != nullptr && pTabbed->ChoosePageBeside(bForward);
@@ -47,6 +66,7 @@ bool PressPageButton(HWND hWnd) {
 }  // namespace
 
 bool ServeDialogKey(const MSG& msg) {
+    if (IsKey(msg.message) && !IsOnTheWalk(msg.hwnd)) return true;
     if (msg.message != WM_KEYDOWN) return false;
     const bool bControl = IsDown(VK_CONTROL);
     const bool bShift = IsDown(VK_SHIFT);

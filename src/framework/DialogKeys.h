@@ -5,6 +5,9 @@
 //     Ctrl+Shift+Tab, Ctrl+PageUp          the page before
 //     Tab on the tabs themselves           into the page that shows
 //     Enter on a push button of a page     presses it; the manager asks the dialog around the page
+//
+// A key for a window in a page that has been hidden or greyed since has nowhere to go and is
+// dropped: the manager of a real window system hangs over it.
 #pragma once
 
 #include "platform/platform.h"

@@ -44,10 +44,11 @@ CModifySampleRateDialog::CModifySampleRateDialog(HWND hwndParent, Record* pOptio
 
 void CModifySampleRateDialog::ShowNote() {
     const double dFrequency = m_pSource->GetSamplingFrequency();
-    if (!(dFrequency > 0.0)) {
-        m_lblNote.SetFormat("The data file does not tell its sampling interval.");
-        return;
-    }
+    const UINT nNote = dFrequency > 0.0 ? IDS_SAMPLING_NOTE : IDS_NO_SAMPLING_INTERVAL;
+    char szNote[256];
+    if (LoadStringA(m_hInstance, nNote, szNote, sizeof szNote) <= 0) return;
+    m_lblNote.SetFormat(szNote);
+    if (nNote == IDS_NO_SAMPLING_INTERVAL) return;
     const double dInterval = 1000000.0 / dFrequency;
     double dNewInterval;
     UINT nWord;
@@ -60,9 +61,6 @@ void CModifySampleRateDialog::ShowNote() {
         dNewInterval = dInterval / std::max<double>(m_txtInterpolFactor.GetValue(), 1.0);
         nWord = IDS_INTERPOLATION;
     }
-    char szNote[256];
-    if (LoadStringA(m_hInstance, IDS_SAMPLING_NOTE, szNote, sizeof szNote) <= 0) return;
-    m_lblNote.SetFormat(szNote);
     m_lblNote.SetArgDouble(0, dInterval, kNoteDecimals, kNoteDigits);
     m_lblNote.SetArg(1, kMicroseconds);
     m_lblNote.SetArgString(2, m_hInstance, nWord);

@@ -74,6 +74,42 @@ TEST_F(TabbedBase, ReadOnlyDressHidesOkAndRenamesCancel) {
     EXPECT_TRUE(messages.empty());
 }
 
+// The dress of the button that Enter presses, and its focus.
+void ExpectCloseIsTheDefault(HWND dialog) {
+    EXPECT_EQ(LOWORD(SendMessageA(dialog, DM_GETDEFID, 0, 0)), IDCANCEL);
+    const auto typeOf = [dialog](int id) {
+        return GetWindowLongPtrA(GetDlgItem(dialog, id), GWL_STYLE) & BS_TYPEMASK;
+    };
+    EXPECT_EQ(typeOf(IDCANCEL), BS_DEFPUSHBUTTON);
+    EXPECT_EQ(typeOf(IDOK), BS_PUSHBUTTON);
+}
+
+TEST_F(TabbedBase, CloseOfAReadOnlyDialogIsTheDefaultButtonWithTheFocus) {
+    params.bReadOnly = 1;
+    DialogScript script;
+    script.ExpectFocus(IDCANCEL).Do(ExpectCloseIsTheDefault).Press(VK_RETURN);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
+// A change of page is two events, the tab is about to change and it has; one more when the last tab
+// is left.
+TEST_F(TabbedBase, EveryEventOfAReadOnlyDialogChecksTheDataOnce) {
+    params.bReadOnly = 1;
+    source.Groups({"IN 0"}).Points(0);
+    DialogScript script;
+    script.SelectTab("Data")
+        .Answer(IDOK, kEmptySets)
+        .Answer(IDOK, kEmptySets)
+        .SelectTab("Options")
+        .Answer(IDOK, kEmptySets)
+        .Answer(IDOK, kEmptySets)
+        .Answer(IDOK, kEmptySets)
+        .Click(IDCANCEL)
+        .Answer(IDOK, kEmptySets)
+        .Answer(IDOK, kInitFailed);
+    EXPECT_EQ(ShowUnitary(script), 2);
+}
+
 TEST_F(TabbedBase, OkOfAReadOnlyDialogEndsWithOneAndDescribesNothing) {
     params.bReadOnly = 1;
     DialogScript script;
@@ -254,12 +290,15 @@ TEST_F(TabbedBase, ReadOnlyOptionsPageUndoesEveryEdit) {
     params.bReadOnly = 1;
     const ZXADLG_AnalysisCommon before = common;
     DialogScript script;
-    script.Click(IDC_DESTINATION_REPLACE)
+    script.Ungrey(IDC_DESTINATION_REPLACE)
+        .Click(IDC_DESTINATION_REPLACE)
         .ExpectChecked(IDC_DESTINATION_APPEND, BST_CHECKED)
         .ExpectChecked(IDC_DESTINATION_REPLACE, BST_UNCHECKED)
         .ExpectFocus(IDCANCEL)
+        .Ungrey(IDC_DYNAMIC_LINK)
         .Click(IDC_DYNAMIC_LINK)
         .ExpectChecked(IDC_DYNAMIC_LINK, BST_UNCHECKED)
+        .Ungrey(IDC_WRITE_REGION_INFO)
         .Click(IDC_WRITE_REGION_INFO)
         .ExpectChecked(IDC_WRITE_REGION_INFO, BST_UNCHECKED)
         .ExpectFocus(IDCANCEL)
@@ -346,8 +385,10 @@ TEST_F(UntabbedBase, ReadOnlyUndoesEveryEdit) {
     script.ExpectTitle("Single page (read only)")
         .ExpectVisible(IDOK, false)
         .ExpectText(IDCANCEL, "Close")
+        .Ungrey(IDC_DESTINATION_REPLACE)
         .Click(IDC_DESTINATION_REPLACE)
         .ExpectChecked(IDC_DESTINATION_APPEND, BST_CHECKED)
+        .Ungrey(IDC_DYNAMIC_LINK)
         .Click(IDC_DYNAMIC_LINK)
         .ExpectChecked(IDC_DYNAMIC_LINK, BST_UNCHECKED)
         .ExpectFocus(IDCANCEL)
@@ -355,6 +396,13 @@ TEST_F(UntabbedBase, ReadOnlyUndoesEveryEdit) {
     EXPECT_EQ(Run(script), 2);
     EXPECT_EQ(common.eDestinationOption, 0);
     EXPECT_EQ(record.uGroupCount, 0u);
+}
+
+TEST_F(UntabbedBase, CloseInReadOnlyModeIsTheDefaultButtonWithTheFocus) {
+    params.bReadOnly = 1;
+    DialogScript script;
+    script.ExpectFocus(IDCANCEL).Do(ExpectCloseIsTheDefault).Press(VK_RETURN);
+    EXPECT_EQ(Run(script), 2);
 }
 
 TEST_F(UntabbedBase, FailedValidationStaysInTheDialog) {

@@ -280,15 +280,18 @@ TEST_F(SixVariables, ReadOnlyUndoesEveryEdit) {
     params.bReadOnly = 1;
     DialogScript script;
     script.Choose(IDC_SET_LIST, 6)
+        .Ungrey(IDC_VARIABLE_FIRST + 3)
         .Click(IDC_VARIABLE_FIRST + 3)
         .ExpectText(IDC_VARIABLE_NAME_FIRST, "Column 1")
         .ExpectText(IDC_VARIABLE_NAME_FIRST + 3, "Constant")
+        .Ungrey(IDC_RANGE_ALL)
         .Click(IDC_RANGE_ALL)
         .ExpectChecked(IDC_RANGE_ALL, BST_UNCHECKED)
         .Do([](HWND dialog) {
             SetWindowTextA(FindControl(dialog, IDC_RANGE_FROM), "33");
             EXPECT_EQ(TextOf(FindControl(dialog, IDC_RANGE_FROM)), "10");
         })
+        .Ungrey(IDC_GROUP)
         .Choose(IDC_GROUP, "Sheet 2")
         .ExpectSelected(IDC_GROUP, "Sheet 1")
         .ExpectFocus(IDCANCEL)

@@ -63,17 +63,23 @@ TEST_F(UnitaryTab, ReadOnlyUndoesEveryEdit) {
     script.ClickItem(IDC_SET_LIST, 8)
         .Do(Selected({0, 1, 2}))
         .ExpectFocus(IDCANCEL)
+        .Ungrey(IDC_SETS_ALL)
         .Click(IDC_SETS_ALL)
         .ExpectChecked(IDC_SETS_LISTED, BST_CHECKED)
+        .Ungrey(IDC_SELECT_ALL)
         .Click(IDC_SELECT_ALL)
         .Do(Selected({0, 1, 2}))
+        .Ungrey(IDC_GROUP)
         .Choose(IDC_GROUP, "IN 1")
         .ExpectSelected(IDC_GROUP, "IN 0")
+        .Ungrey(IDC_GROUPS_ALL)
         .Click(IDC_GROUPS_ALL)
         .ExpectChecked(IDC_GROUPS_ONE, BST_CHECKED)
         .ExpectChecked(IDC_GROUPS_ALL, BST_UNCHECKED)
+        .Ungrey(IDC_REGION)
         .Choose(IDC_REGION, "Cursors 1..2")
         .ExpectSelected(IDC_REGION, "Whole trace")
+        .Ungrey(IDC_FORCE_TO_ZERO)
         .Click(IDC_FORCE_TO_ZERO)
         .ExpectChecked(IDC_FORCE_TO_ZERO, BST_UNCHECKED)
         .ExpectFocus(IDCANCEL)
@@ -170,7 +176,8 @@ TEST_F(DualTab, EachSelectionHasModesAndAGroupOfItsOwn) {
 TEST_F(DualTab, ReadOnlyKeepsTheFirstSelection) {
     params.bReadOnly = 1;
     DialogScript script;
-    script.Click(IDC_DATA_SET_2)
+    script.Ungrey(IDC_DATA_SET_2)
+        .Click(IDC_DATA_SET_2)
         .ExpectChecked(IDC_DATA_SET_1, BST_CHECKED)
         .ExpectEnabled(IDC_SET_LIST_2, false)
         .Click(IDCANCEL);

@@ -259,6 +259,7 @@ TEST_F(Normalize, ReadOnlyShowsItsDressAndChangesNothing) {
     script.ExpectTitle("Normalize (read only)")
         .ExpectVisible(IDOK, false)
         .ExpectText(IDCANCEL, "Close")
+        .Ungrey(IDC_NORMALIZE_REGIONS)
         .Click(IDC_NORMALIZE_REGIONS)
         .ExpectChecked(IDC_NORMALIZE_ALL_POINTS, BST_CHECKED)
         .ExpectFocus(IDCANCEL)

@@ -309,6 +309,11 @@ TEST(Metafile, ScaleMultipliesBothExtents) {
     picture.SetScale(2);
     EXPECT_EQ(picture.GetPicture().xExt, 5760);
     EXPECT_EQ(picture.GetPicture().yExt, 2880);
+    picture.SetScale(1000000);
+    EXPECT_EQ(picture.GetPicture().xExt, 2147483647);
+    EXPECT_EQ(picture.GetPicture().yExt, 1440000000);
+    picture.SetScale(-1000000);
+    EXPECT_EQ(picture.GetPicture().xExt, -2147483647);
 }
 
 TEST_F(Picture, MetafileFillsItsControl) {

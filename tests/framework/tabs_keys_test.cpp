@@ -172,6 +172,70 @@ TEST_F(TabKeys, EnterOnAButtonOfAPagePressesIt) {
     EXPECT_EQ(Run(script), IDCANCEL);
 }
 
+TEST_F(TabKeys, AKeyForAFieldOfAPageThatIsHiddenByNowIsDropped) {
+    for (const UINT uMessage : {WM_SYSCHAR, WM_KEYDOWN}) {
+        SCOPED_TRACE(uMessage);
+        DialogScript script;
+        script.SelectTab("Two")
+            .ExpectFocus(IDC_TWO_A)
+            .Do([&] {
+                const WPARAM nKey = uMessage == WM_KEYDOWN ? VK_TAB : 'q';
+                PostMessageA(GetDlgItem(one.GetHandle(), IDC_ONE_A), uMessage, nKey, 1 << 29);
+            })
+            .Do(Shows(1))
+            .ExpectFocus(IDC_TWO_A)
+            .Click(IDCANCEL);
+        EXPECT_EQ(Run(script), IDCANCEL);
+    }
+}
+
+TEST_F(TabKeys, AKeyForAFieldOfAPageThatIsGreyedByNowIsDropped) {
+    DialogScript script;
+    script.Focus(IDC_OWN)
+        .Do([&] {
+            EnableWindow(one.GetHandle(), FALSE);
+            PostMessageA(GetDlgItem(one.GetHandle(), IDC_ONE_A), WM_SYSCHAR, 'q', 1 << 29);
+            PostMessageA(GetDlgItem(one.GetHandle(), IDC_ONE_A), WM_KEYDOWN, VK_TAB, 1);
+        })
+        .ExpectFocus(IDC_OWN)
+        .Click(IDCANCEL);
+    EXPECT_EQ(Run(script), IDCANCEL);
+}
+
+TEST_F(TabKeys, APageInWhichNothingCanHaveTheFocusLeavesItOnTheTabs) {
+    DialogScript script;
+    script.SelectTab("Two")
+        .Do([this] {
+            for (HWND hItem = GetWindow(two.GetHandle(), GW_CHILD); hItem != nullptr;
+                 hItem = GetWindow(hItem, GW_HWNDNEXT))
+                EnableWindow(hItem, FALSE);
+        })
+        .SelectTab("One")
+        .Focus(IDC_ONE_B)
+        .Press(VK_TAB, kControl)
+        .Do(Shows(1))
+        .ExpectFocus(IDC_TABS)
+        .Press(VK_TAB, kControl)
+        .Do(Shows(2))
+        .ExpectFocus(IDC_THREE_A)
+        .Click(IDCANCEL);
+    EXPECT_EQ(Run(script), IDCANCEL);
+}
+
+TEST_F(TabKeys, AFieldThatIsGreyedHandsTheFocusOn) {
+    DialogScript script;
+    script.ExpectFocus(IDC_ONE_A)
+        .Do([this] { a1.Enable(FALSE); })
+        .ExpectEnabled(IDC_ONE_A, false)
+        .ExpectFocus(IDC_ONE_B)
+        // One without the focus leaves it where it is.
+        .Do([this] { a1.Enable(TRUE); })
+        .Do([this] { a1.Enable(FALSE); })
+        .ExpectFocus(IDC_ONE_B)
+        .Click(IDCANCEL);
+    EXPECT_EQ(Run(script), IDCANCEL);
+}
+
 TEST_F(TabKeys, EnterInAFieldOfAPageIsStillOk) {
     DialogScript script;
     script.ExpectFocus(IDC_ONE_A).Press(VK_RETURN);

@@ -185,12 +185,20 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
         const char* name;
         std::size_t padding;
     };
+    // Of curve fitting: what is reserved, the ends of its texts, padding, and what has no key.
+    constexpr std::size_t kFitUnseen = 2220 + (255 + 20 * 255 + 44) + 8 + 163;
     // A common block has two bytes of padding; texts show what stands before their end alone.
-    const Row kRows[] = {{"normalize", 5},        {"time-shift", 2},
-                         {"force-values", 2},     {"adjust-baseline", 2},
-                         {"leak-subtraction", 6}, {"resistance", 2},
-                         {"sampling-rate", 2},    {"current-voltage", 3},
-                         {"trace-vs-trace", 4},   {"subtract-control", 511 + 12 + 1}};
+    const Row kRows[] = {{"normalize", 5},
+                         {"time-shift", 2},
+                         {"curve-fit", kFitUnseen},
+                         {"force-values", 2},
+                         {"adjust-baseline", 2},
+                         {"leak-subtraction", 6},
+                         {"resistance", 2},
+                         {"sampling-rate", 2},
+                         {"current-voltage", 3},
+                         {"trace-vs-trace", 4},
+                         {"subtract-control", 511 + 12 + 1}};
     EXPECT_EQ(std::size(kRows), zxhost::kAnalyses.size());
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.name);

@@ -23,6 +23,18 @@ TEST_F(HostRun, GivesTheSameRecordsAndTheSameStoreOnEverySystem) {
               ReadFile(std::string(kSource) + "/tests/host/normalize_store.txt"));
 }
 
+TEST_F(HostRun, PreparesACurveFitAsItsExampleSays) {
+    ASSERT_EQ(Run({"run", "curve-fit", "--script",
+                   std::string(kSource) + "/host/examples/curve-fit.script", "--store", Store()}),
+              zxhost::kDone)
+        << err;
+    EXPECT_TRUE(OutHas("result: 1 (OK)\n"));
+    EXPECT_TRUE(OutHas("  uDlgFitOrder: 1 -> 2\n"));
+    EXPECT_TRUE(OutHas("  eSearchMethod: 3 -> 0\n"));
+    EXPECT_TRUE(OutHas("  uConstraints[0]: 0 -> 1\n"));
+    EXPECT_NE(ReadFile(Store()).find("DlgConstraint0=1"), std::string::npos);
+}
+
 TEST_F(HostRun, FindsTheSettingsOfTheLastRun) {
     ASSERT_EQ(Play("click \"Use specified regions\"\nchoose 2364 \"Cursors 3..4\"\nok\n"), 0)
         << err;

@@ -61,6 +61,25 @@ class TemplateLint : public testing::Test {
         return text;
     }
 
+    // Of these items of curve fitting one is hidden whenever the other is shown.
+    static bool StandInTurn(int dialog, int a, int b) {
+        const std::set<int> pair = {a, b};
+        switch (dialog) {
+            case 2104:  // the help of the custom function, the equation's picture
+                return pair == std::set<int>{2016, 2048};
+            case 2107:  // what to enter, that nothing need be entered
+                return pair == std::set<int>{2120, 2295};
+            case 2133: {  // a cursor pair, limits
+                const std::set<int> cursors = {2177, 2570};
+                const std::set<int> limits = {2579, 2580, 2581, 2582, 2585, 2586};
+                return (cursors.count(a) != 0 && limits.count(b) != 0) ||
+                       (cursors.count(b) != 0 && limits.count(a) != 0);
+            }
+            default:
+                return false;
+        }
+    }
+
     static char Mnemonic(const std::string& text) {
         for (std::size_t i = 0; i + 1 < text.size(); ++i) {
             if (text[i] != '&') continue;
@@ -69,6 +88,12 @@ class TemplateLint : public testing::Test {
             ++i;
         }
         return 0;
+    }
+
+    // The option pages of curve fitting, whose dialog shows the data pages in more room than they
+    // need.
+    static bool IsFitPage(const TemplateBytes& dialog) {
+        return dialog.id == 2105 || dialog.id == 2107 || dialog.id == 2133;
     }
 
     std::vector<TemplateBytes> templates;
@@ -135,6 +160,7 @@ TEST_F(TemplateLint, NothingOverlaps) {
                 const bool meet =
                     a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
                 if (!meet) continue;
+                if (StandInTurn(dialog.id, a.id, b.id)) continue;
                 // A group box holds its items whole.
                 const TemplateItem* box = a.isGroupBox() ? &a : b.isGroupBox() ? &b : nullptr;
                 const TemplateItem* inner = box == &a ? &b : &a;
@@ -234,7 +260,7 @@ TEST_F(TemplateLint, TabOrderFollowsTheEye) {
         const TemplateItem* last = nullptr;
         for (const TemplateItem& item : dialog.items) {
             if (!item.isTabStop() && !item.isRadio()) continue;
-            if (last != nullptr) {
+            if (last != nullptr && !StandInTurn(dialog.id, item.id, last->id)) {
                 const bool backUp = item.bottom() <= last->y && item.x <= last->x;
                 const bool backLeft =
                     item.y < last->bottom() && last->y < item.bottom() && item.x < last->x;
@@ -267,11 +293,85 @@ TEST_F(TemplateLint, LabelsStandDirectlyBeforeTheirFields) {
 
 TEST_F(TemplateLint, PagesOfOneSizeForAllDataTabs) {
     for (const TemplateBytes& dialog : templates) {
-        if ((dialog.style & WS_CHILD) == 0) continue;
+        if ((dialog.style & WS_CHILD) == 0 || IsFitPage(dialog)) continue;
         SCOPED_TRACE(dialog.id);
         EXPECT_EQ(dialog.cx, 341);
         EXPECT_EQ(dialog.cy, 196);
     }
+}
+
+TEST_F(TemplateLint, PagesOfCurveFittingShareOneSize) {
+    int pages = 0;
+    for (const TemplateBytes& dialog : templates) {
+        if (!IsFitPage(dialog)) continue;
+        SCOPED_TRACE(dialog.id);
+        EXPECT_EQ(dialog.cx, 398);
+        EXPECT_EQ(dialog.cy, 206);
+        ++pages;
+    }
+    EXPECT_EQ(pages, 3);
+}
+
+// With its frame and title bar.
+TEST_F(TemplateLint, CurveFittingFitsTheSmallestScreen) {
+    for (const TemplateBytes& dialog : templates) {
+        if (dialog.id != 2104) continue;
+        EXPECT_LE(dialog.cx * 6 / 4 + 6, 640);
+        EXPECT_LE(dialog.cy * 13 / 8 + 25 + 5, 480);
+        return;
+    }
+    FAIL() << "no template 2104";
+}
+
+std::vector<int> Range(int first, int last) {
+    std::vector<int> ids;
+    for (int id = first; id <= last; ++id) ids.push_back(id);
+    return ids;
+}
+
+TEST_F(TemplateLint, CurveFittingHasExactlyItsControls) {
+    const auto join = [](std::initializer_list<std::vector<int>> ranges) {
+        std::set<int> ids;
+        for (const std::vector<int>& range : ranges) ids.insert(range.begin(), range.end());
+        return ids;
+    };
+    const std::map<int, std::set<int>> given = {
+        {2104, {1, 2, 2016, 2017, 2048, 2049}},
+        {2105, join({{2022},
+                     Range(2028, 2031),
+                     {2034, 2035},
+                     Range(2050, 2061),
+                     Range(2125, 2128),
+                     Range(2130, 2132),
+                     {2142, 2157},
+                     Range(2164, 2166),
+                     {2171},
+                     Range(2560, 2562)})},
+        {2107, join({Range(2062, 2124),
+                     Range(2133, 2138),
+                     Range(2160, 2162),
+                     {2167, 2172, 2173, 2176, 2295}})},
+        {2133, join({Range(2018, 2021),
+                     Range(2024, 2027),
+                     {2032, 2033},
+                     Range(2036, 2047),
+                     {2129, 2141, 2159, 2170, 2174, 2175, 2177, 2246, 2248, 2503, 2526, 2565},
+                     Range(2568, 2570),
+                     Range(2578, 2582),
+                     {2585, 2586},
+                     Range(2600, 2606)})},
+    };
+    std::size_t seen = 0;
+    for (const TemplateBytes& dialog : templates) {
+        const auto row = given.find(dialog.id);
+        if (row == given.end()) continue;
+        SCOPED_TRACE(dialog.id);
+        std::set<int> ids;
+        for (const TemplateItem& item : dialog.items) ids.insert(item.id);
+        EXPECT_EQ(ids, row->second);
+        ++seen;
+    }
+    EXPECT_EQ(seen, given.size());
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "fit_control_ids.h"
+
 namespace traceops_test {
 namespace {
 
@@ -30,9 +32,21 @@ DialogRow Row(const char* szName, TabbedShow<Record> pShow, bool bWritesDataDire
             }};
 }
 
+// Another function or more terms would need other seeds, and a custom one seeds of the user's.
+DialogRow FitRow() {
+    DialogRow row = Row("Curve Fitting", &ZXADLG_ShowCurveFitDialog);
+    row.prepare = [](std::vector<unsigned char>& options) {
+        reinterpret_cast<FitOptions*>(options.data())->eFunctionType = 15;
+    };
+    row.szFromData = "Parameter";
+    row.delicate = {IDC_FIT_CUSTOM, IDC_FIT_GROUP, IDC_FIT_TERMS, IDC_FIT_COMPARE};
+    return row;
+}
+
 }  // namespace
 
 Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
+    if (dialog.prepare != nullptr) dialog.prepare(options);
     source.Region(8, "Whole trace", 0, 999).Region(3, "Cursors 1..2", 100, 199);
     source.Waveform(5, "Analog OUT #0");
     data.eDataSet1SelectionMode = 3;
@@ -49,6 +63,7 @@ const std::vector<DialogRow>& Rows() {
     static const std::vector<DialogRow> rows = {
         Row("Normalize", &ZXADLG_ShowNormalizeDialog),
         Row("Time Shift", &ZXADLG_ShowTimeShiftDialog),
+        FitRow(),
         Row("Force Values", &ZXADLG_ShowForceValuesDialog),
         Row("Adjust Baseline", &ZXADLG_ShowAdjustBaselineDialog),
         Row("Leak Subtraction", &ZXADLG_ShowLeakSubtractionDialog),

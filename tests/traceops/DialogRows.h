@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,12 @@ struct DialogRow {
     bool bWritesDataDirectly;  // the host's data record itself, also on Cancel
     bool bHasDataTab;
     std::function<int(Opening&)> show;
+    // Makes a record of it that OK accepts; null: a record of zeros.
+    void (*prepare)(std::vector<unsigned char>& options) = nullptr;
+    // How the keys begin that follow the data at each opening; null: none do.
+    const char* szFromData = nullptr;
+    // What a user leaves alone who wants OK to be accepted.
+    std::set<int> delicate = {};
 };
 
 // What one opening works on: the bytes of the option record, the data record, the host. Two regions

@@ -28,9 +28,17 @@ std::vector<HWND> VisibleControls(HWND dialog) {
         const std::string kind = test_support::ClassOf(control);
         const bool own = kind == "combobox" || kind == "edit" || kind == "static" ||
                          (kind == "button" && !IsPush(control));
-        if (own && IsWindowVisible(control)) controls.push_back(control);
+        // The edit part of a combo box does not tell of a text that it is given.
+        const bool part = test_support::ClassOf(GetParent(control)) == "combobox";
+        if (own && !part && IsWindowVisible(control)) controls.push_back(control);
     }
     return controls;
+}
+
+bool IsInput(HWND control) {
+    const auto type = GetWindowLongPtrA(control, GWL_STYLE) & BS_TYPEMASK;
+    const std::string kind = test_support::ClassOf(control);
+    return kind != "static" && !(kind == "button" && type == BS_GROUPBOX);
 }
 
 std::string PageState(HWND dialog) {

@@ -11,6 +11,8 @@ namespace traceops_test {
 
 // The controls of the page that shows, but for push buttons.
 std::vector<HWND> VisibleControls(HWND dialog);
+// What a user can change: no label and no frame.
+bool IsInput(HWND control);
 std::string StateOf(HWND control);
 // The states of all of them, a line each.
 std::string PageState(HWND dialog);

@@ -28,6 +28,18 @@ class ModifySampleRate : public testing::Test {
     ZXADLG_DlgParams params = {};
 };
 
+TEST_F(ModifySampleRate, ANoteOnAFileWithoutASamplingFrequencySaysSo) {
+    for (const double dFrequency : {0.0, -5.0}) {
+        source.samplingFrequency = dFrequency;
+        DialogScript script;
+        script.ExpectText(IDC_RATE_NOTE, "The data file does not tell its sampling interval.")
+            .Click(IDC_RATE_INTERPOLATION)
+            .ExpectText(IDC_RATE_NOTE, "The data file does not tell its sampling interval.")
+            .Click(IDCANCEL);
+        EXPECT_EQ(Show(script), IDCANCEL);
+    }
+}
+
 TEST_F(ModifySampleRate, ReductionByFourWithDecimateTurns100Into400Microseconds) {
     DialogScript script;
     script.ExpectTitle("Data Reduction/Interpolation")
@@ -129,6 +141,7 @@ TEST_F(ModifySampleRate, ReadOnlyUndoesEveryEdit) {
     script.ExpectTitle("Data Reduction/Interpolation (read only)")
         .ExpectVisible(IDOK, false)
         .ExpectText(IDCANCEL, "Close")
+        .Ungrey(IDC_RATE_INTERPOLATION)
         .Click(IDC_RATE_INTERPOLATION)
         .ExpectChecked(IDC_RATE_REDUCTION, BST_CHECKED)
         .ExpectFocus(IDCANCEL)

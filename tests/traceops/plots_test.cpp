@@ -265,6 +265,7 @@ TEST_F(TraceVsTrace, ReadOnlyUndoesEveryEdit) {
     const ZXADLG_TraceVsTraceOptions before = options;
     DialogScript script;
     script.ExpectTitle("Trace vs. Trace (read only)")
+        .Ungrey(IDC_TVT_X_FROM_GROUP)
         .Click(IDC_TVT_X_FROM_GROUP)
         .ExpectChecked(IDC_TVT_X_FROM_WAVEFORM, BST_CHECKED)
         .ExpectFocus(IDCANCEL);

@@ -61,6 +61,7 @@ TEST_F(Resistance, ReadOnlyAddsTheExperimentTypesWithEveryEvent) {
     DialogScript script;
     script
         .Do([&](HWND dialog) { before = ItemsOf(FindControl(dialog, IDC_EXPERIMENT_TYPE)).size(); })
+        .Ungrey(IDC_DYNAMIC_LINK)
         .Click(IDC_DYNAMIC_LINK)
         .Do([&](HWND dialog) {
             const auto items = ItemsOf(FindControl(dialog, IDC_EXPERIMENT_TYPE));

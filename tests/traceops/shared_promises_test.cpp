@@ -262,10 +262,12 @@ TYPED_TEST(TraceDialogs, ReadOnlyUndoesEveryChangeAndTouchesNothing) {
             for (HWND control : VisibleControls(dialog)) {
                 SCOPED_TRACE(StateOf(control));
                 ++controls;
+                EXPECT_FALSE(IsInput(control) && IsWindowEnabled(control));
                 Disturb(control);
                 EXPECT_EQ(PageState(dialog), before);
             }
         })
+        .Ungrey(IDC_DYNAMIC_LINK)
         .Click(IDC_DYNAMIC_LINK)
         .ExpectFocus(IDCANCEL);
     this->ShowAndCancel(script);

@@ -221,10 +221,12 @@ TEST_F(SubtractControl, ReadOnlyUndoesEveryEdit) {
     const ZXADLG_SubtractControlOptions before = options;
     DialogScript script;
     script.ExpectVisible(IDOK, false)
+        .Ungrey(IDC_SUBTRACT_SELECT_ALL)
         .Click(IDC_SUBTRACT_SELECT_ALL)
         .Do([](HWND dialog) {
             EXPECT_EQ(Selected(dialog), (std::vector<int>{0, 2}));
         })
+        .Ungrey(IDC_SUBTRACT_SELECT_FILE)
         .Click(IDC_SUBTRACT_SELECT_FILE)
         .ExpectFocus(IDCANCEL)
         .Click(IDCANCEL);

@@ -220,7 +220,8 @@ TEST_F(TimeShift, ReadOnlyShowsTheFirstButtonOfAWrongModeAgainAfterAClick) {
     options.ePeakPolarity = 99;
     options.eAlignmentMode = 1;
     DialogScript script;
-    script.Click(IDC_SHIFT_NEGATIVE)
+    script.Ungrey(IDC_SHIFT_NEGATIVE)
+        .Click(IDC_SHIFT_NEGATIVE)
         .ExpectChecked(IDC_SHIFT_NEGATIVE, BST_UNCHECKED)
         .ExpectChecked(IDC_SHIFT_POSITIVE, BST_CHECKED);
     ShowAndCancel(script);

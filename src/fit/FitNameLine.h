@@ -1,0 +1,13 @@
+// The line under the pages of curve fitting that names the function and what is special about the
+// fit: eight texts, empty where nothing is to be said. No window.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "fit/CFitSeedInterface.h"
+
+constexpr int kFitNameFields = 8;
+
+std::array<std::string, kFitNameFields> FitNameLine(const CFitOptionsInterface& fit,
+                                                    const CFitSeedInterface& seeds);
