@@ -13,6 +13,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
                                               $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>
                                               $<$<COMPILE_LANGUAGE:CXX>:-Wno-array-bounds>
                                               $<$<COMPILE_LANGUAGE:CXX>:-Wno-stringop-overflow>)
+else()
+  # An operation of a control may take the name of one of windows with other arguments.
+  target_compile_options(zx_compile INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-overloaded-virtual>)
 endif()
 if(WIN32)
   target_compile_definitions(zx_compile INTERFACE WINVER=0x0600 _WIN32_WINNT=0x0600 _WIN32_IE=0x0600

@@ -57,6 +57,9 @@ inline double Rise(double u) {
 }
 
 inline double WholePower(double d, uint32_t uPower) {
+    // No dialog asks for more, but a record may hold anything.
+    constexpr uint32_t kMostProducts = 16;
+    if (uPower > kMostProducts) return std::pow(d, uPower);
     double dResult = d;
     for (uint32_t i = 1; i < uPower; ++i) dResult *= d;
     return dResult;

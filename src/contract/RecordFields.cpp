@@ -65,9 +65,11 @@ std::vector<ZXADLG_FieldInfo> ListFields(std::string_view sRecord) {
     const auto place = [](const ZXADLG_FieldInfo& field) {
         return std::pair(field.offset, field.key == nullptr);
     };
-    std::ranges::stable_sort(vFields, {}, place);
-    const auto [itEnd, itLast] = std::ranges::unique(vFields, {}, &ZXADLG_FieldInfo::offset);
-    vFields.erase(itEnd, itLast);
+    using Field = ZXADLG_FieldInfo;
+    std::stable_sort(vFields.begin(), vFields.end(),
+                     [&](const Field& a, const Field& b) { return place(a) < place(b); });
+    const auto shares = [](const Field& a, const Field& b) { return a.offset == b.offset; };
+    vFields.erase(std::unique(vFields.begin(), vFields.end(), shares), vFields.end());
     return vFields;
 }
 

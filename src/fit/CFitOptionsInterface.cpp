@@ -177,9 +177,8 @@ std::uint32_t CFitOptionsInterface::GetDlgOrder() const {
 
 void CFitOptionsInterface::SetDlgOrder(std::uint32_t uOrder) {
     constexpr std::int32_t kPolynomial = 34;
-    if ((m_Props.bMultiTerm == 0 && m_pOptions->uFitOrder > 1) || m_Props.bStraightLine != 0)
-        m_pOptions->uFitOrder = 1;
     (GetFunction() == kPolynomial ? m_pOptions->uPolynomTerm : m_pOptions->uDlgFitOrder) = uOrder;
+    // One for a function without a number of terms.
     m_pOptions->uFitOrder = EffectiveTermCount();
 }
 

@@ -12,7 +12,6 @@ constexpr std::uint32_t kGridPlaces = 24;
 FitDataStats StatsOf(const double* pX, const double* pY, std::uint32_t uCount) {
     FitDataStats stats{};
     stats.uNumPoints = uCount;
-    stats.uOrder = 1;
     stats.dXStep = 1.0;
     if (uCount == 0) return stats;
     const double dStep = uCount > 1 ? std::fabs(pX[1] - pX[0]) : 0.0;

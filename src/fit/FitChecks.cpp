@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <string>
 
 #include "ZXADLG.h"
@@ -12,33 +13,38 @@
 
 namespace {
 
+// The largest size of normalized data, but for rounding.
+constexpr double kOne = 1.00001;
+
 Finding Refusal(UINT nStringId, FitPage ePage, int nControl = 0) {
     return Finding{.nStringId = nStringId, .nPage = ePage, .nControl = nControl};
 }
 
-// What the host gave of the selected points; fewer than the selection names where it is out of
-// date.
+// What the source gave of the selected points: fewer than the selection names where it is of other
+// data.
 struct Points {
-    const double* pX;
-    const double* pY;
-    std::uint32_t uCount;
+    std::span<const double> x;
+    std::span<const double> y;
+    std::size_t nCount;  // as selected where there are none
 };
 
 Points FetchPoints(CDataOptionsInterface& data) {
-    Points points = {data.GetXValues(), data.GetYValues(), data.GetSelectedPointCount()};
-    if (points.pX != nullptr) points.uCount = std::min(points.uCount, data.GetFetchedXCount());
-    if (points.pY != nullptr) points.uCount = std::min(points.uCount, data.GetFetchedYCount());
+    Points points;
+    if (const double* pX = data.GetXValues()) points.x = {pX, data.GetFetchedXCount()};
+    if (const double* pY = data.GetYValues()) points.y = {pY, data.GetFetchedYCount()};
+    points.nCount = !points.x.empty()   ? points.x.size()
+                    : !points.y.empty() ? points.y.size()
+                                        : data.GetSelectedPointCount();
     return points;
 }
 
-bool IsAllZero(const double* pX, std::uint32_t uCount) {
-    return std::none_of(pX, pX + uCount, [](double d) { return d != 0.0; });
+bool IsAllZero(std::span<const double> x) {
+    return std::none_of(x.begin(), x.end(), [](double d) { return d != 0.0; });
 }
 
-// Not a number is no larger than one.
-bool IsWithinOne(const double* pY, std::uint32_t uCount) {
-    constexpr double kOne = 1.00001;
-    return std::none_of(pY, pY + uCount, [](double d) { return std::fabs(d) > kOne; });
+// Not a number is within.
+bool IsWithinOne(std::span<const double> y) {
+    return std::none_of(y.begin(), y.end(), [](double d) { return std::fabs(d) > kOne; });
 }
 
 }  // namespace
@@ -89,22 +95,22 @@ CheckResult CheckDataForFit(const CFitOptionsInterface& fit, FitDataUse eUse) {
     CDataOptionsInterface& data = fit.Data();
     const Points points = FetchPoints(data);
     const std::uint32_t uParameters = fit.TotalParameterCount();
-    if (points.uCount < uParameters) {
+    if (points.nCount < uParameters) {
         Finding finding = Refusal(eUse == FitDataUse::kEstimate ? IDS_FIT_TOO_FEW_POINTS_TO_ESTIMATE
                                                                 : IDS_FIT_TOO_FEW_POINTS,
                                   kFitAdvancedPage);
-        finding.vArguments = {std::to_string(points.uCount), std::to_string(uParameters)};
+        finding.vArguments = {std::to_string(points.nCount), std::to_string(uParameters)};
         finding.ePlaces = TemplatePlaces::kNumbers;
         return finding;
     }
-    if (data.IsSheetData() && (points.pX == nullptr || points.pY == nullptr))
+    if (data.IsSheetData() && (points.x.empty() || points.y.empty()))
         return Refusal(IDS_FIT_COLUMNS_EMPTY, kFitAdvancedPage);
-    if (points.pX == nullptr) return Refusal(IDS_FIT_NO_X, kFitAdvancedPage);
-    if (points.pY == nullptr) return Refusal(IDS_FIT_NO_Y, kFitAdvancedPage);
-    if (IsAllZero(points.pX, points.uCount)) return Refusal(IDS_FIT_X_ALL_ZERO, kFitAdvancedPage);
+    if (points.x.empty()) return Refusal(IDS_FIT_NO_X, kFitAdvancedPage);
+    if (points.y.empty()) return Refusal(IDS_FIT_NO_Y, kFitAdvancedPage);
+    if (IsAllZero(points.x)) return Refusal(IDS_FIT_X_ALL_ZERO, kFitAdvancedPage);
     // A comparison that needs the number of observations can't be made of their proportions.
     if (fit.IsComparing() && fit.Properties().bNeedsObservationCount != 0 &&
-        IsWithinOne(points.pY, points.uCount)) {
+        IsWithinOne(points.y)) {
         return Refusal(IDS_FIT_COMPARE_NORMALIZED, kFitAdvancedPage);
     }
     return {};
@@ -124,10 +130,7 @@ CheckResult CheckEvenX(const CFitOptionsInterface& fit, std::function<void()> us
 CheckResult CheckNegativeData(const CFitOptionsInterface& fit) {
     if (fit.Properties().bRejectsNegativeData == 0) return {};
     const Points points = FetchPoints(fit.Data());
-    if (points.pY == nullptr ||
-        std::none_of(points.pY, points.pY + points.uCount, [](double d) { return d < 0.0; })) {
-        return {};
-    }
+    if (std::none_of(points.y.begin(), points.y.end(), [](double d) { return d < 0.0; })) return {};
     const bool bLikelihood = fit.GetFunction() == 12 && fit.Options().eMinimMethod == kMinimML;
     return Refusal(bLikelihood ? IDS_FIT_NEGATIVE_DATA_LIKELIHOOD : IDS_FIT_NEGATIVE_DATA,
                    kFitFunctionPage, IDC_FIT_FUNCTIONS);

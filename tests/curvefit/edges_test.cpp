@@ -245,6 +245,23 @@ TEST(Powers, AreTheFunctionsOwnAndZeroIsOne) {
                      2.0 * r * r * 0.125);
 }
 
+TEST(Powers, OfAnyRecordTakeNoTime) {
+    FitOptions options = OptionsFor(11);
+    const auto risenAt = [&](double t) { return CurveAt(options, {1.0, 1.0, 0.0}, {{0.0, t}})[1]; };
+    options.uExpPower = UINT32_MAX;
+    EXPECT_NEAR(risenAt(30.0), std::exp(UINT32_MAX * std::log1p(-std::exp(-30.0))), 1e-6);
+    // Products and the function meet.
+    for (const uint32_t u : {16u, 17u}) {
+        options.uExpPower = u;
+        EXPECT_NEAR(risenAt(2.0), std::pow(1.0 - std::exp(-2.0), u), 1e-15);
+    }
+    options = OptionsFor(7);
+    options.uCurTimePowerA = options.uCurTimePowerB = UINT32_MAX;
+    std::vector<double> t(2000, 3.0);
+    t[0] = 0.0;
+    EXPECT_EQ(CurveAt(options, {1.0, 1.0, 0.5, 1.0, 0.25}, {t})[1999], 0.25);
+}
+
 TEST(Distributions, AreZeroOutsideTheirDomain) {
     EXPECT_EQ(ValueAt(OptionsFor(0), {2.0, 3.0}, -0.5), 0.0);
     EXPECT_EQ(ValueAt(OptionsFor(0), {2.0, 3.0}, 1.5), 0.0);

@@ -153,6 +153,9 @@ TEST_F(AutomaticMethods, PowerExponentialIsFittedByChebyshevWithOneTerm) {
     input.uTerms = 1;
     input.bComparing = true;
     EXPECT_EQ(For(11), "000");
+    // What decides for other exponentials does not for it.
+    options.bAutoZeroShift = 1;
+    EXPECT_EQ(For(11), "000");
 }
 
 TEST_F(AutomaticMethods, ExponentialsAreFittedByChebyshevFromZeroOnWhenNothingIsForced) {

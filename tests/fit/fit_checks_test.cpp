@@ -155,6 +155,14 @@ TEST_F(FitChecks, AllVariablesButOneAreConstants) {
     // The value comes before the count.
     data.SetConstant(5, 0.0);
     EXPECT_EQ(Told(CheckConstants(fit)), "2247 page 3 control 2183");
+    // Of two variables one is a constant; what an earlier function has left behind them does not
+    // count.
+    data.SetConstantCount(2);
+    data.SetConstant(1, 4.0);
+    for (std::uint32_t i = 0; i < 6; ++i) data.SetIsConstant(i, i != 0);
+    EXPECT_FALSE(CheckConstants(fit));
+    data.SetIsConstant(1, false);
+    ExpectRefused(CheckConstants(fit), "2201 page 3");
     // Functions of one variable have none.
     Choose(15);
     EXPECT_FALSE(CheckConstants(fit));
@@ -194,6 +202,11 @@ TEST_F(FitChecks, PointsOfASheetAreThoseSelected) {
     dataRecord.uFirstDataIndex = 6;
     dataRecord.uLastDataIndex = 900;
     EXPECT_EQ(DataTold(), "2245 page 1 (2) (3)");
+    source.bNoX = true;
+    EXPECT_EQ(DataTold(), "2245 page 1 (2) (3)");
+    source.bNoY = true;
+    EXPECT_EQ(DataTold(), "2403 page 1");
+    source.bNoX = source.bNoY = false;
     dataRecord.uFirstDataIndex = 900;
     dataRecord.uLastDataIndex = 3;
     EXPECT_EQ(DataTold(), "2403 page 1");
@@ -312,6 +325,8 @@ TEST_F(FitChecks, NegativeDataAreRefusedWhereTheFunctionHasNone) {
     ExpectRefused(CheckNegativeData(fit), "2223 page 0 control 2022");
     Choose(12);
     EXPECT_FALSE(CheckNegativeData(fit));
+    Choose(10, kSearchVM, kMinimML);
+    EXPECT_EQ(Told(CheckNegativeData(fit)), "2222 page 0 control 2022");
     Choose(10);
     for (const double dGood : {0.0, -0.0, kNaN}) {
         source.y[2] = dGood;

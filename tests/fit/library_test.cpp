@@ -26,9 +26,13 @@ TEST(CurveFitLibraryFile, IsLoadedOnFirstUseAndFreedWithItsOwner) {
     CurveFitLibrary missing(GetModuleHandleA(nullptr), StandInLibrary::kMissingFile);
     EXPECT_FALSE(static_cast<bool>(missing.Use(options)));
     EXPECT_FALSE(missing.IsLoaded());
-    CurveFitLibrary noExport(GetModuleHandleA(nullptr), StandInLibrary::kFileWithoutExport);
-    EXPECT_FALSE(static_cast<bool>(noExport.Use(options)));
-    EXPECT_TRUE(noExport.IsLoaded());
+    {
+        CurveFitLibrary noExport(GetModuleHandleA(nullptr), StandInLibrary::kFileWithoutExport);
+        EXPECT_FALSE(static_cast<bool>(noExport.Use(options)));
+        EXPECT_TRUE(noExport.IsLoaded());
+        EXPECT_NE(GetModuleHandleA(StandInLibrary::kFileWithoutExport), nullptr);
+    }
+    EXPECT_EQ(GetModuleHandleA(StandInLibrary::kFileWithoutExport), nullptr);
 }
 
 class NoLibrary : public FitModel, public ::testing::WithParamInterface<const char*> {
@@ -91,8 +95,8 @@ TEST_F(StandIn, AnswersAsTheRealLibraryUnlessSwitched) {
 TEST_F(StandIn, FailsFromItsNthObjectOn) {
     standIn->object = {2, 2};
     EXPECT_EQ(fit.ReadProperties(), 0);
-    EXPECT_NE(fit.ReadProperties(), 0);
-    EXPECT_NE(fit.ReadProperties(), 0);
+    EXPECT_EQ(fit.ReadProperties(), 1);
+    EXPECT_EQ(fit.ReadProperties(), 1);
     EXPECT_EQ(fit.ReadProperties(), 0);
     EXPECT_EQ(standIn->uObjects, 4u);
     EXPECT_EQ(standIn->uCalls[0], 2u);
@@ -188,15 +192,18 @@ TEST_F(StandIn, MoreParametersThanTheGridHoldsFailTheReading) {
         standIn->bProps = 1;
         standIn->props.uParamsPerTerm = uParams;
         standIn->props.bMultiTerm = bTerms;
-        return fit.ReadProperties() == 0;
+        return fit.ReadProperties();
     };
-    EXPECT_TRUE(read(4, 1));
-    EXPECT_FALSE(read(5, 1));
+    EXPECT_EQ(read(4, 1), 0);
+    standIn->places[40] = {1, kAlways};
+    EXPECT_EQ(fit.ReadProperties(), 1);
+    standIn->places[40] = {};
+    EXPECT_EQ(read(5, 1), 1);
     // The last good reading stays.
     EXPECT_EQ(fit.Properties().uParamsPerTerm, 4u);
-    EXPECT_TRUE(read(5, 0));
-    EXPECT_TRUE(read(24, 0));
-    EXPECT_FALSE(read(25, 0));
+    EXPECT_EQ(read(5, 0), 0);
+    EXPECT_EQ(read(24, 0), 0);
+    EXPECT_EQ(read(25, 0), 1);
     EXPECT_EQ(fit.Properties().uParamsPerTerm, 24u);
 }
 
@@ -213,6 +220,134 @@ TEST_F(StandIn, GivesTheSeedsAndTheCurveOfTheTest) {
     double y[4] = {};
     ASSERT_TRUE(seeds.CurveFromSeeds(kX, y, 4, 1));
     EXPECT_EQ(y[0] + y[3], 0.5);
+}
+
+TEST_F(StandIn, IsAskedForEachNameOnce) {
+    Choose(19);
+    EXPECT_EQ(standIn->uCalls[46], 2u);
+    EXPECT_EQ(standIn->uCalls[44], 6u);
+    EXPECT_EQ(standIn->uCalls[45], 1u);
+}
+
+TEST_F(StandIn, TwoFunctionsHaveOneTermUnderChebyshevWhateverIsReported) {
+    standIn->bProps = 1;
+    standIn->props.uParamsPerTerm = 2;
+    standIn->props.bMultiTerm = 1;
+    for (const std::int32_t e : {2, 3, 4, 10, 11, 12}) {
+        Choose(e, kSearchChebyshev);
+        EXPECT_EQ(fit.IsTermCapable(), e != 3 && e != 11) << e;
+        Choose(e, kSearchVM);
+        EXPECT_TRUE(fit.IsTermCapable()) << e;
+    }
+}
+
+TEST_F(StandIn, SeedsBeyondTheArraysAreNotUsable) {
+    standIn->bProps = 1;
+    standIn->props.uParamsPerTerm = 13;
+    Choose(15);
+    double flat[26];
+    std::fill(std::begin(flat), std::end(flat), 1.0);
+    const std::uint32_t free[26] = {};
+    options.uFitOrder = 2;
+    EXPECT_TRUE(fit.AreSeedsUsable(flat, free));
+    options.uFitOrder = 3;
+    EXPECT_FALSE(fit.AreSeedsUsable(flat, free));
+}
+
+TEST_F(StandIn, ACustomFunctionHasNoOffsetWhateverIsReported) {
+    standIn->bProps = 1;
+    standIn->props.bHasOffset = standIn->props.bHasSlope = 1;
+    options.nNumCustomParams = 30;
+    Choose(38);
+    std::vector<double> flat(32, 3.0);
+    seeds.dSeeds[24] = 7.0;
+    seeds.SetSeeds(flat.data());
+    EXPECT_EQ(seeds.dSeeds[23], 3.0);
+    EXPECT_EQ(seeds.dSeeds[24], 0.0);
+    EXPECT_EQ(seeds.dSeeds[25], 0.0);
+    double out[26] = {};
+    EXPECT_EQ(seeds.GetSeeds(out, nullptr), 24u);
+}
+
+// --- What a curve is set up with -----------------------------------------------------------------
+
+TEST_F(StandIn, CurvesAreTheseOfTheWorkValuesInFlatOrder) {
+    options.uDlgFitOrder = 2;
+    Choose(14);
+    for (std::size_t i = 0; i < seeds.dWork.size(); ++i) seeds.dWork[i] = 10.0 + i;
+    double y[4] = {};
+    ASSERT_TRUE(seeds.CurveFromSeeds(kX, y, 4, 2));
+    const double whole[] = {10, 14, 11, 15, 34, 35, 0};
+    for (int i = 0; i < 7; ++i) EXPECT_EQ(standIn->dCurveSeeds[i], whole[i]) << i;
+    EXPECT_EQ(standIn->stats.uOrder, 2u);
+    EXPECT_EQ(standIn->stats.dOffsetSeed, 34.0);
+    EXPECT_EQ(standIn->stats.dSlopeSeed, 35.0);
+    ASSERT_TRUE(seeds.CurveOfTerm(kX, y, 4, 1));
+    const double second[] = {14, 15, 34, 35, 0};
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(standIn->dCurveSeeds[i], second[i]) << i;
+    EXPECT_EQ(standIn->stats.uOrder, 1u);
+    // Beyond the grid there is no term.
+    ASSERT_TRUE(seeds.CurveOfTerm(kX, y, 4, 6));
+    EXPECT_EQ(standIn->dCurveSeeds[0], 0.0);
+    Choose(29);  // neither offset nor slope
+    ASSERT_TRUE(seeds.CurveOfTerm(kX, y, 4, 0));
+    const double plain[] = {10, 11, 0, 0};
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(standIn->dCurveSeeds[i], plain[i]) << i;
+    ASSERT_TRUE(seeds.CurveFromSeeds(kX, y, 4, 1));
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(standIn->dCurveSeeds[i], plain[i]) << i;
+}
+
+TEST_F(StandIn, CurvesAreToldOfTheirData) {
+    Choose(35);
+    double y[] = {5, 9, -7};
+    const double falling[] = {8.0, 7.5, 1.0};
+    ASSERT_TRUE(seeds.CurveFromSeeds(falling, y, 3, 1));
+    EXPECT_EQ(standIn->stats.uNumPoints, 3u);
+    EXPECT_EQ(standIn->stats.dXStep, 0.5);
+    EXPECT_EQ(standIn->stats.dSumY, 7.0);
+    EXPECT_EQ(standIn->stats.dFirstX, 8.0);
+    EXPECT_EQ(standIn->stats.dMaxY, 9.0);
+    // A step of zero: the mean one, and 1 without any.
+    const double equal[] = {2.0, 2.0, 5.0};
+    ASSERT_TRUE(seeds.CurveFromSeeds(equal, y, 3, 1));
+    EXPECT_EQ(standIn->stats.dXStep, 1.0);
+    const double late[] = {2.0, 2.0, 2.0, 10.0};
+    double four[4] = {};
+    ASSERT_TRUE(seeds.CurveFromSeeds(late, four, 4, 1));
+    EXPECT_EQ(standIn->stats.dXStep, 2.0);
+    ASSERT_TRUE(seeds.CurveFromSeeds(late, four, 3, 1));
+    EXPECT_EQ(standIn->stats.dXStep, 1.0);
+    ASSERT_TRUE(seeds.CurveFromSeeds(falling, four, 2, 1));
+    EXPECT_EQ(standIn->stats.dXStep, 0.5);
+    ASSERT_TRUE(seeds.CurveFromSeeds(falling, four, 1, 1));
+    EXPECT_EQ(standIn->stats.dXStep, 1.0);
+    EXPECT_EQ(standIn->stats.dFirstX, 8.0);
+    ASSERT_TRUE(seeds.CurveFromSeeds(falling, four, 0, 1));
+    EXPECT_EQ(standIn->stats.uNumPoints, 0u);
+    EXPECT_EQ(standIn->stats.dXStep, 1.0);
+    EXPECT_EQ(standIn->stats.dFirstX, 0.0);
+}
+
+TEST_F(StandIn, ConstantsFillTheArraysOfTheirVariables) {
+    Choose(19);
+    for (std::uint32_t i = 0; i < 6; ++i) {
+        data.SetIsConstant(i, i != 2);
+        data.SetConstant(i, 20.0 + i);
+    }
+    double y[4] = {};
+    const double x[] = {3, 4, 5, 6};
+    ASSERT_TRUE(seeds.CurveFromSeeds(x, y, 4, 1));
+    const double expected[] = {20, 21, 3, 23, 24, 25};
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(standIn->dFirstOfArrays[i], expected[i]) << i;
+    // A single variable is data, whatever an earlier function has left.
+    Choose(35);
+    ASSERT_TRUE(seeds.CurveFromSeeds(x, y, 4, 1));
+    EXPECT_EQ(standIn->dFirstOfArrays[0], 3.0);
+    standIn->bVariableCount = 1;
+    standIn->uVariableCount = 2;
+    Choose(35);
+    ASSERT_TRUE(seeds.CurveFromSeeds(x, y, 4, 1));
+    EXPECT_EQ(standIn->dFirstOfArrays[0], 20.0);
 }
 
 }  // namespace

@@ -287,11 +287,16 @@ TEST_F(Rules, FinalisationMakesARecordReady) {
     record.dXInterval = 7.0;
     fit.Finalise(record, x, 1);
     EXPECT_EQ(record.dXInterval, 7.0);
+    fit.Finalise(record, x + 1, 2);
+    EXPECT_EQ(record.dXInterval, 5.5);
+    record.dXInterval = 7.0;
     fit.Finalise(record, nullptr, 3);
     EXPECT_EQ(record.dXInterval, 7.0);
     EXPECT_EQ(record.dLMPrecision, 1e-6);
     EXPECT_EQ(record.dVMPrecision, 0.0001);
     EXPECT_EQ(record.dFractError, 1e-7);
+    options.bDlgChebyFilter = 0;
+    EXPECT_EQ(fit.ScratchRecord().bUseChebyFilter, 0);
 }
 
 TEST_F(Rules, FinalisationTakesBackWhatDoesNotGoTogether) {
@@ -309,6 +314,37 @@ TEST_F(Rules, FinalisationTakesBackWhatDoesNotGoTogether) {
                 EXPECT_EQ(record.eWeightingType, eSearch == 2 ? 0 : 1);
             }
         }
+    }
+}
+
+// --- Before anything is read ---------------------------------------------------------------------
+
+TEST_F(Rules, BeforeTheLibraryHasReportedAnOrdinaryFunctionStands) {
+    const FitFunctionProps& props = fit.Properties();
+    EXPECT_EQ(props.uParamsPerTerm, 0u);
+    EXPECT_EQ(props.uNumDataArrays, 2u);
+    EXPECT_EQ(props.uZeroAllowedParam, 99u);
+    EXPECT_EQ(props.bOnlyProportionsForced, 1);
+    EXPECT_EQ(props.bAllowLM, 1);
+    EXPECT_EQ(props.bAllowSimplex, 1);
+    EXPECT_EQ(props.bAllowChebyshev, 0);
+}
+
+TEST_F(Rules, AFreshDialogHasNoFlagRaised) {
+    for (const std::int32_t eSearch : {0, 3}) {
+        options.eSearchMethod = eSearch;
+        const CFitOptionsInterface fresh(&options, &data, &library);
+        EXPECT_EQ(fresh.bChebyshevSelected, eSearch == 3);
+        EXPECT_FALSE(fresh.bSeedsValid);
+        EXPECT_FALSE(fresh.bCustomCompiled);
+        EXPECT_FALSE(fresh.bSeedsStale);
+        EXPECT_FALSE(fresh.bSeedsNormalized);
+        EXPECT_FALSE(fresh.bAutoSeedDeclined);
+        EXPECT_FALSE(fresh.bCustomTextPresent);
+        EXPECT_FALSE(fresh.bGhkAvailable);
+        EXPECT_FALSE(fresh.bSeedsAutomatic);
+        EXPECT_EQ(fresh.uSavedOrder, 0u);
+        EXPECT_EQ(fresh.dProportionScale, 1.0);
     }
 }
 
@@ -342,9 +378,12 @@ TEST_F(Rules, OpeningBringsStoredNumbersIntoTheirRanges) {
     EXPECT_EQ(options.eFunctionGroupID, 6);
     EXPECT_EQ(fit.eLastPredefined, 22);
     EXPECT_EQ(fit.uSavedOrder, 4u);
-    options.eFunctionType = 7;
-    fit.Open();
-    EXPECT_EQ(fit.eLastPredefined, 7);
+    for (const std::int32_t e : {7, 0}) {
+        options.eFunctionType = e;
+        fit.Open();
+        EXPECT_EQ(options.eFunctionType, e);
+        EXPECT_EQ(fit.eLastPredefined, e);
+    }
     options.eFunctionType = 38;
     options.ePrevFunctionType = 39;
     fit.Open();
@@ -395,6 +434,10 @@ TEST_F(Rules, SeedsMustNotBeZero) {
     EXPECT_TRUE(fit.AreSeedsUsable(bells, free));
     bells[3] = 0.0;
     EXPECT_FALSE(fit.AreSeedsUsable(bells, free));
+    options.uDlgFitOrder = 6;
+    Choose(15);
+    const double twelve[26] = {1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
+    EXPECT_TRUE(fit.AreSeedsUsable(twelve, free));
     Choose(35);
     const double none[26] = {};
     EXPECT_TRUE(fit.AreSeedsUsable(none, free));
@@ -442,7 +485,10 @@ TEST_F(Rules, EvenXIsAskedForByChebyshevAndMaximumLikelihoodAlone) {
 
 TEST_F(Rules, EvenXToAHundredth) {
     options.eSearchMethod = kSearchChebyshev;
-    EXPECT_TRUE(EvenXOf(*this, {0.0, 1.0, 2.0078125, 3.015625}).bEven);
+    const EvenXFinding even = EvenXOf(*this, {0.0, 1.0, 2.0078125, 3.015625});
+    EXPECT_TRUE(even.bEven);
+    EXPECT_EQ(even.nString, 0);
+    EXPECT_TRUE(EvenXOf(*this, {0.0, 0.0, 0.01}).bEven);
     EXPECT_FALSE(EvenXOf(*this, {0.0, 1.0, 2.015625, 3.03125}).bEven);
     EXPECT_TRUE(EvenXOf(*this, {0.0, 5.0}).bEven);
     EXPECT_TRUE(EvenXOf(*this, {3.0}).bEven);
@@ -456,6 +502,12 @@ TEST_F(Rules, ExtrapolationLimitsOfConcentrationsAreAboveZeroOnASheet) {
     CDataOptionsInterface sheet(&dataRecord, &source, &flags);
     CFitOptionsInterface onSheet(&options, &sheet, &library);
     options.eFunctionType = 22;
+    EXPECT_TRUE(onSheet.CheckExtrapolation());
+    options.bExtrapolateRight = 1;
+    EXPECT_FALSE(onSheet.CheckExtrapolation());
+    options.dRightExtrapolationValue = 0.5;
+    EXPECT_TRUE(onSheet.CheckExtrapolation());
+    options.bExtrapolateRight = 0;
     options.bExtrapolateLeft = 1;
     EXPECT_FALSE(onSheet.CheckExtrapolation());
     options.dLeftExtrapolationValue = 0.5;

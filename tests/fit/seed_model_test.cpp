@@ -52,6 +52,15 @@ TEST_F(FitModel, FlatSeedsFollowThePlaces) {
     EXPECT_EQ(term[1], 4.0);
     seeds.SetSeed(1, 0, 9.0);
     EXPECT_EQ(seeds.GetSeed(1, 0), 9.0);
+    // Term 6 is the offset and the slope, and there is nothing behind them.
+    seeds.uFixed.fill(0);
+    seeds.SetSeed(6, 2, 3.0);
+    for (const std::uint32_t u : seeds.uFixed) EXPECT_EQ(u, 0u);
+    seeds.uFixed.fill(1);
+    EXPECT_EQ(seeds.GetSeed(6, 2), 0.0);
+    double guarded[4] = {0.0, 0.0, -7.0, -7.0};
+    EXPECT_EQ(seeds.GetTermSeeds(1, guarded), 2u);
+    EXPECT_EQ(guarded[2], -7.0);
     seeds.SetSeed(9, 0, 1.0);
     seeds.SetSeed(0, 4, 7.0);
     EXPECT_EQ(seeds.GetSeed(9, 0), 0.0);
@@ -62,7 +71,9 @@ TEST_F(FitModel, FlatSeedsFollowThePlaces) {
 TEST_F(FitModel, OffsetAndSlopeStandBehindTheGridWhereTheFunctionHasThem) {
     const double flat[] = {1, 2, 3, 4};
     Choose(14);
+    seeds.dSeeds.fill(9.0);
     seeds.SetSeeds(flat);
+    EXPECT_EQ(seeds.dSeeds[2], 0.0);
     EXPECT_EQ(seeds.dSeeds[24], 3.0);
     EXPECT_EQ(seeds.dSeeds[25], 4.0);
     double out[26] = {};
@@ -80,6 +91,7 @@ TEST_F(FitModel, StepsAreAHundredthOfTheWorkValue) {
     EXPECT_EQ(seeds.StepForSeed(0, 1), 0.04);
     EXPECT_EQ(seeds.StepForSeed(6, 0), 0.02);
     EXPECT_EQ(seeds.StepForSeed(6, 1), 0.01);  // no slope
+    EXPECT_EQ(seeds.StepForSeed(6, 2), 0.1);   // no place
     Choose(29);
     EXPECT_EQ(seeds.StepForSeed(6, 0), 0.01);  // no offset
 }

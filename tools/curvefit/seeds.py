@@ -205,6 +205,9 @@ independent solver that starts from the seeds and ends with a residual at most 5
 percent of the records. Beside it stand seeds that are all one, the solver's own default, and the median number of
 evaluations that the solver needs from the seeds at 2 % (and from ones). Combinations that are not in the table have
 not been run.
+
+Of a few points with an outlier the best fit may be one that no data of the kind have, such as a pole beside the
+outlier (29): no seeds that describe the data lead there.
 """
 TITLES = {"plain": "Plain records", "reversed": "Reversed x", "shuffled": "Shuffled points",
           "uneven": "Uneven spacing", "offset": "An offset of 50 ranges", "outlier": "An outlier of 3 ranges",

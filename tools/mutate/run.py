@@ -38,6 +38,7 @@ PROGRAMS = {
     "store": ["store", "store_native", "contract"],
     "widgets": ["widgets", "framework"],
     "parser": ["parser"],
+    "fit": ["fit"],
 }
 # Where the numbers of a folder begin, so that those of one do not move with another's code.
 NUMBERS = {folder: 1 + 10000 * i for i, folder in enumerate(PROGRAMS)}

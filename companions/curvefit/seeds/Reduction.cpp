@@ -36,8 +36,9 @@ class OrderedPoints {
         }
         m_sorted.reserve(n);
         for (std::size_t i = 0; i < n; ++i) m_sorted.push_back({pX[i], pY[i]});
-        std::stable_sort(m_sorted.begin(), m_sorted.end(),
-                         [](const auto& a, const auto& b) { return a[0] < b[0]; });
+        // By y where x are equal, so that the order of the points has no say; and with no second
+        // copy.
+        std::sort(m_sorted.begin(), m_sorted.end());
         x = {m_sorted[0].data(), 2};
         y = {m_sorted[0].data() + 1, 2};
     }

@@ -253,6 +253,8 @@ void TermSearch::ReweighByCurve(FoundTerms& found, double dLeast) {
 
 namespace {
 
+enum class Signs { kAny, kPositive, kSame };
+
 // What sets of columns explain, from one matrix of their inner products once offset and slope are
 // taken away.
 struct InnerProducts {
@@ -261,8 +263,8 @@ struct InnerProducts {
     std::vector<double> right;
 
     double At(std::size_t i, std::size_t j) const { return matrix[i * nColumns + j]; }
-    // The gain of a set; below 0 where it is dependent or, asked for, has an amplitude below 0.
-    double Gain(const std::vector<std::size_t>& set, bool bPositive) const {
+    // The gain of a set; below 0 where it is dependent or its amplitudes have other signs.
+    double Gain(const std::vector<std::size_t>& set, Signs eSigns) const {
         const std::size_t n = set.size();
         double part[36];
         double solution[6];
@@ -274,7 +276,8 @@ struct InnerProducts {
         if (!SolveCholesky(part, solution, n)) return -1.0;
         double dGain = 0.0;
         for (std::size_t i = 0; i < n; ++i) {
-            if (bPositive && solution[i] < 0.0) return -1.0;
+            if (eSigns == Signs::kPositive && solution[i] < 0.0) return -1.0;
+            if (eSigns == Signs::kSame && (solution[i] < 0.0) != (solution[0] < 0.0)) return -1.0;
             dGain += solution[i] * right[set[i]];
         }
         return dGain;
@@ -291,6 +294,39 @@ bool NextSet(std::vector<std::size_t>& set, std::size_t nAll) {
         return true;
     }
     return false;
+}
+
+// The set of nTerms of the first nPositions columns that explains most, then, one at a time, with
+// columns behind them.
+std::vector<std::size_t> BestSet(const InnerProducts& inner, std::size_t nPositions,
+                                 std::size_t nTerms, Signs eSigns) {
+    std::vector<std::size_t> set(nTerms);
+    for (std::size_t k = 0; k < nTerms; ++k) set[k] = k;
+    std::vector<std::size_t> best = set;
+    double dBestGain = -1.0;
+    do {
+        const double dGain = inner.Gain(set, eSigns);
+        if (dGain > dBestGain) {
+            dBestGain = dGain;
+            best = set;
+        }
+    } while (NextSet(set, nPositions));
+    for (bool bBetter = true; bBetter;) {
+        bBetter = false;
+        for (std::size_t k = 0; k < nTerms; ++k) {
+            for (std::size_t e = nPositions; e < inner.nColumns; ++e) {
+                std::vector<std::size_t> other = best;
+                other[k] = e;
+                const double dGain = inner.Gain(other, eSigns);
+                if (dGain > dBestGain * (1.0 + 1e-9)) {
+                    dBestGain = dGain;
+                    best = other;
+                    bBetter = true;
+                }
+            }
+        }
+    }
+    return best;
 }
 
 }  // namespace
@@ -318,6 +354,10 @@ FoundTerms TermSearch::SearchPositions(const std::vector<double>& positions,
         }
         return inner;
     };
+    // A set of both signs may explain a little more at first and lead to a worse end.
+    const std::vector<Signs> signs = m_Rules.bPositiveAmplitudes
+                                         ? std::vector<Signs>{Signs::kPositive}
+                                         : std::vector<Signs>{Signs::kAny, Signs::kSame};
     FoundTerms best;
     best.dSquares = kInfinite;
     for (const double dWidth : widths) {
@@ -327,37 +367,14 @@ FoundTerms TermSearch::SearchPositions(const std::vector<double>& positions,
         const std::size_t nPositions = shapes.size();
         shapes.insert(shapes.end(), dictionary.begin(), dictionary.end());
         const InnerProducts inner = products(shapes);
-        std::vector<std::size_t> set(nTerms);
-        for (std::size_t k = 0; k < nTerms; ++k) set[k] = k;
-        std::vector<std::size_t> bestSet = set;
-        double dBestGain = -1.0;
-        do {
-            const double dGain = inner.Gain(set, m_Rules.bPositiveAmplitudes);
-            if (dGain > dBestGain) {
-                dBestGain = dGain;
-                bestSet = set;
-            }
-        } while (NextSet(set, nPositions));
-        for (bool bBetter = !dictionary.empty(); bBetter;) {
-            bBetter = false;
-            for (std::size_t k = 0; k < nTerms; ++k) {
-                for (std::size_t e = nPositions; e < shapes.size(); ++e) {
-                    std::vector<std::size_t> other = bestSet;
-                    other[k] = e;
-                    const double dGain = inner.Gain(other, m_Rules.bPositiveAmplitudes);
-                    if (dGain > dBestGain * (1.0 + 1e-9)) {
-                        dBestGain = dGain;
-                        bestSet = other;
-                        bBetter = true;
-                    }
-                }
-            }
+        for (const Signs eSigns : signs) {
+            FoundTerms found;
+            for (const std::size_t k : BestSet(inner, nPositions, nTerms, eSigns))
+                found.terms.push_back({0.0, shapes[k]});
+            Solve(found);
+            RefineTerms(found, m_Rules.nSteps);
+            if (found.bFound && found.dSquares < best.dSquares) best = found;
         }
-        FoundTerms found;
-        for (const std::size_t k : bestSet) found.terms.push_back({0.0, shapes[k]});
-        Solve(found);
-        RefineTerms(found, m_Rules.nSteps);
-        if (found.bFound && found.dSquares < best.dSquares) best = found;
     }
     return best;
 }

@@ -59,6 +59,8 @@ class StandIn final : public ZXADLG_CCurveFit {
     }
     int32_t Evaluate(const double* const* x, double* y, uint32_t n) override {
         control.uPoints = n;
+        for (std::uint32_t i = 0; n > 0 && i < std::min(m_pReal->GetVariableCount(), 6u); ++i)
+            control.dFirstOfArrays[i] = x[i][0];
         if (!Enter(17)) {
             if (n > 0) y[0] = 0.75;
             return 0;
@@ -89,6 +91,7 @@ class StandIn final : public ZXADLG_CCurveFit {
     const char* GetSlopeName() override { return TextOf(48, m_pReal->GetSlopeName()); }
     int32_t SetUpCurve(const FitDataStats* stats, const double* seeds) override {
         control.stats = *stats;
+        std::copy(seeds, seeds + 26, control.dCurveSeeds);
         return Enter(59) ? m_pReal->SetUpCurve(stats, seeds) : 0;
     }
 

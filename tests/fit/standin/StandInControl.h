@@ -43,8 +43,10 @@ struct StandInControl {
     std::uint32_t uCalls[kCurveFitPlaces];
     FitOptions record;  // of the last object
     std::uint32_t uArrays;
-    std::uint32_t uPoints;  // of the last call of place 7 or 17
-    FitDataStats stats;     // of the last call of place 59
+    std::uint32_t uPoints;     // of the last call of place 7 or 17
+    FitDataStats stats;        // of the last call of place 59
+    double dCurveSeeds[26];    // likewise
+    double dFirstOfArrays[6];  // of the last call of place 17
 };
 
 }  // namespace fit_test

@@ -1,5 +1,6 @@
 #include "platform/headless/system/codepage.h"
 #include "platform/headless/system/resources.h"
+#include "zxadlg/headless/constants.h"
 
 namespace headless {
 

@@ -1,0 +1,89 @@
+// What seeds of a long record take: no more than one more copy of the data, and that only for
+// points in no order.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <new>
+#include <numeric>
+#include <random>
+
+#include "CurveFitFixture.h"
+
+namespace {
+
+bool g_bCounting = false;
+std::size_t g_nBytes = 0;  // allocated while counting
+
+}  // namespace
+
+void* operator new(std::size_t nSize, const std::nothrow_t&) noexcept {
+    if (g_bCounting) g_nBytes += nSize;
+    return std::malloc(nSize != 0 ? nSize : 1);
+}
+void* operator new(std::size_t nSize) {
+    void* p = operator new(nSize, std::nothrow);
+    if (p == nullptr) throw std::bad_alloc();
+    return p;
+}
+// Not in line, where the compiler sees the memory of one of the above go back by another way.
+[[gnu::noinline]] void operator delete(void* p) noexcept {
+    std::free(p);
+}
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
+    std::free(p);
+}
+
+namespace {
+
+using namespace curvefit_test;
+
+constexpr std::size_t kPoints = 200000;
+// The reduced points and what the methods make of them.
+constexpr std::size_t kWorkspace = 16u << 20;
+
+// All that is ever asked for, which is more than what is held at one time.
+std::size_t BytesForSeeds(int32_t eFunction, const std::vector<double>& x,
+                          const std::vector<double>& y) {
+    const CurveFit fit = Make(OptionsFor(eFunction));
+    const double* arrays[] = {x.data(), y.data()};
+    double seeds[26];
+    g_nBytes = 0;
+    g_bCounting = true;
+    const int32_t bFound = fit->ComputeSeeds(arrays, seeds, 2, static_cast<uint32_t>(x.size()));
+    g_bCounting = false;
+    EXPECT_EQ(bFound, 1) << eFunction << ErrorOf(*fit);
+    return g_nBytes;
+}
+
+TEST(Memory, SeedsOfALongRecordCopyNothingButPointsInNoOrder) {
+    std::vector<double> x(kPoints);
+    std::vector<double> y(kPoints);
+    for (std::size_t i = 0; i < kPoints; ++i) {
+        x[i] = 0.001 * static_cast<double>(i + 1);
+        y[i] = 3.0 + 90.0 * x[i] / (20.0 + x[i]);
+    }
+    std::vector<std::size_t> order(kPoints);
+    std::iota(order.begin(), order.end(), 0u);
+    std::mt19937 random(5);
+    std::shuffle(order.begin(), order.end(), random);
+    std::vector<double> shuffledX(kPoints);
+    std::vector<double> shuffledY(kPoints);
+    for (std::size_t i = 0; i < kPoints; ++i) {
+        shuffledX[i] = x[order[i]];
+        shuffledY[i] = y[order[i]];
+    }
+    const std::vector<double> backX(x.rbegin(), x.rend());
+    const std::vector<double> backY(y.rbegin(), y.rend());
+    constexpr std::size_t kCopy = 2 * sizeof(double) * kPoints;
+    for (const int32_t e : {8, 15, 22, 29, 35}) {
+        SCOPED_TRACE(e);
+        const std::size_t nOrdered = BytesForSeeds(e, x, y);
+        EXPECT_LT(nOrdered, kWorkspace);
+        EXPECT_EQ(BytesForSeeds(e, backX, backY), nOrdered);
+        EXPECT_LE(BytesForSeeds(e, shuffledX, shuffledY), nOrdered + kCopy);
+    }
+}
+
+}  // namespace
