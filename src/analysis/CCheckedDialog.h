@@ -50,8 +50,7 @@ class CCheckedDialog : public CEditPage<Base> {
         if (pAnswer != nullptr && pAnswer->step) pAnswer->step();
         const Finding::Next eNext = pAnswer != nullptr ? pAnswer->eNext : Finding::Next::kStay;
         if (eNext == Finding::Next::kCancel) this->EndDialogWith(ZXADLG_CANCEL);
-        if (eNext == Finding::Next::kStay)
-            FocusControl(BringUp(finding.nPage), finding.nControl);
+        if (eNext == Finding::Next::kStay) FocusControl(BringUp(finding.nPage), finding.nControl);
         return eNext == Finding::Next::kGoOn;
     }
 
