@@ -239,7 +239,9 @@ std::string CFitFunctionTab::TypedEquation() const {
 void CFitFunctionTab::UpdateControls() {
     const bool bCustom = m_pFit->IsCustomFunction();
     const FitFunctionProps& props = m_pFit->Properties();
-    EnableControls({&m_lblGroup, &m_cmbGroup, &m_lstFunctions}, !bCustom);
+    EnableControls({&m_lblGroup, &m_cmbGroup}, !bCustom);
+    // The list stays alive in read-only mode, to be scrolled.
+    m_lstFunctions.Enable(!bCustom && !IsDisabled());
     EnableControls({&m_lblEquation, &m_cmbEquation}, bCustom);
     // A change of the terms can lead away from Chebyshev.
     const bool bAwayFromChebyshev = m_pFit->GetSearchMethod() == kSearchChebyshev &&

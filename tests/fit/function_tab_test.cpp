@@ -15,6 +15,20 @@ int CountOf(HWND hDialog, int nId) {
     return static_cast<int>(ItemsOf(FindControl(hDialog, nId)).size());
 }
 
+TEST_F(FunctionTab, ReadOnlyModeKeepsTheListAliveToBeScrolled) {
+    params.bReadOnly = 1;
+    options.eFunctionType = 18;
+    DialogScript script;
+    script.ExpectEnabled(IDC_FIT_FUNCTIONS, true)
+        .ExpectEnabled(IDC_FIT_GROUP, false)
+        .ExpectSelected(IDC_FIT_FUNCTIONS, "Gaussian")
+        .ClickItem(IDC_FIT_FUNCTIONS, 0)
+        .ExpectSelected(IDC_FIT_FUNCTIONS, "Gaussian")
+        .ExpectFocus(IDCANCEL);
+    ShowAndCancel(script);
+    EXPECT_EQ(options.eFunctionType, 18);
+}
+
 TEST_F(FunctionTab, ShowsTheRecord) {
     DialogScript script;
     script.ExpectTitle("Curve Fitting")
