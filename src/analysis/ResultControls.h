@@ -6,7 +6,6 @@
 #include "framework/ADM_Dialog.h"
 #include "framework/ADM_RadioButtons.h"
 #include "framework/ADM_Static.h"
-#include "ids.h"
 #include "zxadlg/AnalysisCommon.h"
 #include "zxadlg/DlgParams.h"
 
@@ -17,20 +16,13 @@ struct ResultControls {
     ADM_Button chkWriteRegionInfo;
 
     // Registers the controls with their dialog, in the order of the tab chain.
-    void Register(ADM_Dialog* pDialog) {
-        // The id between the two buttons belongs to another page.
-        constexpr int kDestinations[] = {IDC_DESTINATION_APPEND, IDC_DESTINATION_REPLACE};
-        pDialog->RegisterControl(IDC_DESTINATION_GROUP, &grpDestination);
-        radDestination.SetupIds(pDialog, 2, kDestinations, nullptr);
-        pDialog->RegisterControl(IDC_DYNAMIC_LINK, &chkDynamicLink);
-        pDialog->RegisterControl(IDC_WRITE_REGION_INFO, &chkWriteRegionInfo);
-    }
+    void Register(ADM_Dialog* pDialog);
+    // Shows what the parameters offer. The first time that a page runs it, the gaps close that the
+    // others would leave: the rest moves up, and a frame with nothing in it goes.
+    void ShowWhere(const ZXADLG_DlgParams& params);
 
-    void ShowWhere(const ZXADLG_DlgParams& params) {
-        const auto command = [](std::uint8_t bShow) { return bShow != 0 ? SW_SHOW : SW_HIDE; };
-        grpDestination.Show(command(params.bShowDestination));
-        radDestination.Show(command(params.bShowDestination));
-        chkDynamicLink.Show(command(params.bShowDynamicLink));
-        chkWriteRegionInfo.Show(command(params.bShowWriteRegionInfo));
-    }
+  private:
+    void CloseGaps(const ZXADLG_DlgParams& params) const;
+
+    HWND m_hArranged = nullptr;  // the page whose gaps are closed
 };

@@ -14,6 +14,7 @@
 #include "fixtures/DialogScript.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/TestDataSource.h"
+#include "fixtures/WindowReading.h"
 #include "ids.h"
 #include "store/ProfileStore.h"
 
@@ -56,6 +57,30 @@ class Normalize : public testing::Test {
     ZXADLG_DataOptions data;
     ZXADLG_DlgParams params = {};
 };
+
+TEST_F(Normalize, TheCheckBoxesTakeThePlaceOfAHiddenDestination) {
+    RECT rcGroup = {}, rcLink = {};
+    params.bShowDestination = params.bShowDynamicLink = 1;
+    DialogScript shown;
+    shown
+        .Do([&](HWND dialog) {
+            GetWindowRect(test_support::FindControl(dialog, IDC_DESTINATION_GROUP), &rcGroup);
+            GetWindowRect(test_support::FindControl(dialog, IDC_DYNAMIC_LINK), &rcLink);
+        })
+        .Click(IDCANCEL);
+    EXPECT_EQ(Show(shown), IDCANCEL);
+    EXPECT_GT(rcLink.top, rcGroup.bottom);
+    params.bShowDestination = 0;
+    DialogScript hidden;
+    hidden
+        .Do([&](HWND dialog) {
+            GetWindowRect(test_support::FindControl(dialog, IDC_DYNAMIC_LINK), &rcLink);
+            EXPECT_EQ(rcLink.top, rcGroup.top);
+            EXPECT_EQ(rcLink.left, rcGroup.left);
+        })
+        .Click(IDCANCEL);
+    EXPECT_EQ(Show(hidden), IDCANCEL);
+}
 
 TEST_F(Normalize, ShowsTheRecordAndHandsBackTheEdits) {
     DialogScript script;

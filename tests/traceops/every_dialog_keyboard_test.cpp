@@ -9,6 +9,7 @@
 #include "PageState.h"
 #include "fixtures/DialogScript.h"
 #include "fixtures/ScratchStore.h"
+#include "ids.h"
 #include "store/ProfileStore.h"
 
 namespace {
@@ -125,6 +126,48 @@ TEST_P(EveryDialogAtTheKeyboard, WhatAComboBoxOffersCanBeReadInItsField) {
     }
     script.Press(VK_ESCAPE);
     EXPECT_EQ(Show(script), IDCANCEL);
+}
+
+RECT PlaceOf(HWND control) {
+    RECT rc;
+    GetWindowRect(control, &rc);
+    return rc;
+}
+
+// Whatever the host leaves out.
+TEST_P(EveryDialogAtTheKeyboard, NoFrameIsEmptyAndNoCheckBoxLeavesAGap) {
+    for (int bits = 0; bits < 8; ++bits) {
+        SCOPED_TRACE(bits);
+        m_opening.params.bShowDestination = bits & 1;
+        m_opening.params.bShowDynamicLink = bits >> 1 & 1;
+        m_opening.params.bShowWriteRegionInfo = bits >> 2 & 1;
+        DialogScript script;
+        script
+            .Do([&](HWND dialog) {
+                const std::vector<HWND> shown = VisibleControls(dialog);
+                for (HWND frame : shown) {
+                    if (IsInput(frame) || ClassOf(frame) != "button") continue;
+                    const RECT rc = PlaceOf(frame);
+                    int nInside = 0;
+                    for (HWND control : shown) {
+                        const RECT rcControl = PlaceOf(control);
+                        if (control != frame && rcControl.left >= rc.left &&
+                            rcControl.right <= rc.right && rcControl.top >= rc.top &&
+                            rcControl.bottom <= rc.bottom)
+                            ++nInside;
+                    }
+                    EXPECT_GT(nInside, 0) << StateOf(frame);
+                }
+                HWND link = test_support::FindControl(dialog, IDC_DYNAMIC_LINK);
+                HWND region = test_support::FindControl(dialog, IDC_WRITE_REGION_INFO);
+                if (link == nullptr || region == nullptr) return;
+                const bool bAtItsPlace = PlaceOf(link).left == PlaceOf(region).left &&
+                                         PlaceOf(link).top == PlaceOf(region).top;
+                EXPECT_EQ(bAtItsPlace, !IsWindowVisible(link) && IsWindowVisible(region));
+            })
+            .Press(VK_ESCAPE);
+        EXPECT_EQ(Show(script), IDCANCEL);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, EveryDialogAtTheKeyboard, testing::ValuesIn(Rows()),
