@@ -21,8 +21,7 @@ HWND FrameOf(HWND hWnd) {
     for (HWND hItem = GetWindow(GetParent(hWnd), GW_CHILD); hItem != nullptr;
          hItem = GetWindow(hItem, GW_HWNDNEXT)) {
         const LONG_PTR nType = GetWindowLongPtrA(hItem, GWL_STYLE) & BS_TYPEMASK;
-        if (nType != BS_GROUPBOX ||
-            (SendMessageA(hItem, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) == 0)
+        if (nType != BS_GROUPBOX || (SendMessageA(hItem, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) == 0)
             continue;
         const RECT rcFrame = PlaceOf(hItem);
         if (rcFrame.left <= rc.left && rcFrame.right >= rc.right && rcFrame.top <= rc.top &&
