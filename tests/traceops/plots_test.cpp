@@ -95,6 +95,34 @@ TEST_F(CurrentVoltage, SmoothingIsEnabledByItsCheckBox) {
     ShowAndCancel(script);
 }
 
+TEST_F(CurrentVoltage, SmoothingTakesOnePointAndMore) {
+    options.bDoFilter = 1;
+    options.uSmoothingPoints = 5;
+    DialogScript script;
+    script.Type(IDC_IV_SMOOTHING, "0")
+        .Press(VK_RETURN)
+        .Answer(
+            IDOK,
+            "Validation Error\r\n\r\nValue in field 'Smoothing filter points' must fall within the "
+            "range of 1 to "
+            "2147483647.")
+        .ExpectFocus(IDC_IV_SMOOTHING)
+        .Type(IDC_IV_SMOOTHING, "1")
+        .Click(IDOK);
+    EXPECT_EQ(Show(script), 1);
+    EXPECT_EQ(options.uSmoothingPoints, 1u);
+}
+
+// The axes offer every group, the hidden ones too.
+TEST_F(CurrentVoltage, BothAxesOfferHiddenGroups) {
+    source.hiddenGroup = 1;
+    DialogScript script;
+    script.ExpectItems(IDC_AXES_X_GROUP, {"IN 0", "IN 1"})
+        .ExpectItems(IDC_AXES_Y_GROUP, {"IN 0", "IN 1"})
+        .Click(IDCANCEL);
+    EXPECT_EQ(Show(script), IDCANCEL);
+}
+
 TEST_F(CurrentVoltage, AFileWithoutAWaveformIsRefused) {
     source.waveforms.clear();
     DialogScript script;
