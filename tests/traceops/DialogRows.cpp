@@ -1,5 +1,6 @@
 #include "DialogRows.h"
 
+#include <cctype>
 #include <cstring>
 
 #include "fit_control_ids.h"
@@ -85,6 +86,14 @@ const std::vector<DialogRow>& Rows() {
          }},
     };
     return rows;
+}
+
+std::string NameOfRow(const testing::TestParamInfo<DialogRow>& row) {
+    std::string sName;
+    for (const char* p = row.param.szName; *p != '\0'; ++p) {
+        if (std::isalnum(static_cast<unsigned char>(*p))) sName += *p;
+    }
+    return sName;
 }
 
 const std::vector<SourceRow>& Sources() {

@@ -2,6 +2,8 @@
 // tabbed ones and the single pages alike.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <set>
 #include <string>
@@ -40,6 +42,8 @@ struct Opening {
 };
 
 const std::vector<DialogRow>& Rows();
+// The letters and digits of a dialog's title, as the name of its tests.
+std::string NameOfRow(const testing::TestParamInfo<DialogRow>& row);
 
 // The hosts that a dialog meets.
 struct SourceRow {

@@ -170,13 +170,6 @@ TEST_P(EveryDialogAtTheKeyboard, NoFrameIsEmptyAndNoCheckBoxLeavesAGap) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, EveryDialogAtTheKeyboard, testing::ValuesIn(Rows()),
-                         [](const testing::TestParamInfo<DialogRow>& row) {
-                             std::string name;
-                             for (const char* p = row.param.szName; *p != '\0'; ++p) {
-                                 if (std::isalnum(static_cast<unsigned char>(*p))) name += *p;
-                             }
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Dialogs, EveryDialogAtTheKeyboard, testing::ValuesIn(Rows()), NameOfRow);
 
 }  // namespace

@@ -153,13 +153,6 @@ TEST_P(EveryDialogPromises, DeferredRunReadsAndWritesNoStoreButHandsTheEditsBack
     EXPECT_EQ(m_store.ReadFile(), stored);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, EveryDialogPromises, testing::ValuesIn(Rows()),
-                         [](const testing::TestParamInfo<DialogRow>& row) {
-                             std::string name;
-                             for (const char* p = row.param.szName; *p != '\0'; ++p) {
-                                 if (std::isalnum(static_cast<unsigned char>(*p))) name += *p;
-                             }
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Dialogs, EveryDialogPromises, testing::ValuesIn(Rows()), NameOfRow);
 
 }  // namespace
