@@ -3,7 +3,8 @@
 
     lines_per_control.py [FOLDER...]      (default: the dialogs' folders of src/)
 
-A control object is a member of a dialog or a tab whose type is one of the library's control classes.
+A control object is a member of a dialog or a tab whose type is one of the library's control classes; an array of
+them counts each. Files without a window (rules, checks, a model) are left out: they cost what their rules cost.
 """
 import pathlib
 import re
@@ -13,14 +14,21 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 FOLDERS = ("fit", "arithmetic", "sigproc", "measure", "traceops")
 CONTROL = re.compile(r"^\s+(?:ADM_(?!Dialog|Tab|Wnd\b)\w+|CZxDlg\w+(?:<[\w:]+>)?) (m_\w+(?:, m_\w+)*);", re.M)
 
+ARRAY = re.compile(r"^\s+std::array<(?:ADM_|CZxDlg)\w+, (\w+)> m_\w+;", re.M)
+CONSTANT = re.compile(r"constexpr [\w:]+ (\w+) = (\d+);")
+WINDOW = re.compile(r"\b(?:ADM_|CEditPage|CRecordPage|COptionsTab|CParentDialog|CUntabbedDialog|CSinglePage|C\w*(?:Tab|Dialog)\b)")
+
 
 def main(folders):
     lines = controls = 0
     for folder in folders:
         files = [f for f in (ROOT / "src" / folder).rglob("*") if f.suffix in (".h", ".cpp")]
-        texts = [f.read_text(encoding="utf-8") for f in files]
+        every = [f.read_text(encoding="utf-8") for f in files]
+        constants = {name: int(value) for text in every for name, value in CONSTANT.findall(text)}
+        texts = [text for text in every if WINDOW.search(text)]
         own_lines = sum(text.count("\n") for text in texts)
         own_controls = sum(m.group(1).count(",") + 1 for text in texts for m in CONTROL.finditer(text))
+        own_controls += sum(constants.get(n) or int(n) for text in texts for n in ARRAY.findall(text))
         if own_controls:
             print(f"{folder}: {own_lines} lines, {own_controls} controls, {own_lines / own_controls:.1f} each")
             lines, controls = lines + own_lines, controls + own_controls
