@@ -27,9 +27,9 @@ struct Tick {
     std::string sText;
 };
 
-// At most `nMost` round values (1, 2 or 5 times a power of ten apart) within the range, with as many
-// digits as tell them apart; numbers from a million up and below a ten thousandth have an exponent.
-// Empty for a range that is not usable or no room for two.
+// At most `nMost` round values (1, 2 or 5 times a power of ten apart) within the range, with as
+// many digits as tell them apart; numbers from a million up and below a ten thousandth have an
+// exponent. Empty for a range that is not usable or no room for two.
 std::vector<Tick> TicksOf(const Range& range, int nMost);
 
 // A value for reading, with the digits that a step of `dStep` needs.

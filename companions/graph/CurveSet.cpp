@@ -9,7 +9,7 @@ namespace {
 
 int DrawingOrder(uint32_t uKind) {
     if (uKind == GMT_KIND_DATA) return 0;
-    return uKind == GMT_KIND_TERM ? 1 : 2;
+    return uKind < GMT_KIND_DATA ? 1 : 2;
 }
 
 }  // namespace
@@ -58,9 +58,6 @@ void CurveSet::Ask() {
         }
         m_bStale = true;
     }
-    uint32_t auCount[3] = {};
-    for (Entry& entry : m_entries)
-        entry.curve.uIndex = auCount[DrawingOrder(entry.curve.uKind)]++;
 }
 
 Extent CurveSet::DataExtent() {
@@ -160,6 +157,14 @@ const std::vector<ShownCurve>& CurveSet::Prepare(const Range& x, int nColumns) {
     });
     m_bStale = false;
     return m_shown;
+}
+
+std::vector<std::string> CurveSet::Names() {
+    Ask();
+    std::vector<std::string> names;
+    for (const Entry& entry : m_entries)
+        if (entry.bVisible) names.push_back(entry.curve.sName);
+    return names;
 }
 
 }  // namespace graph

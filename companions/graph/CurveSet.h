@@ -14,7 +14,6 @@ namespace graph {
 struct ShownCurve {
     uint32_t uNumber = 0;  // at the source
     uint32_t uKind = GMT_KIND_TOTAL;
-    uint32_t uIndex = 0;  // among those of its kind, hidden ones included
     std::string sName;
     uint32_t uColor = GMT_COLOR_AUTOMATIC;
 
@@ -42,12 +41,14 @@ class CurveSet {
     // The visible curves, computed for a part of the x axis that is `nColumns` pixels wide. Data
     // come first, then terms, then totals: in the order of drawing.
     const std::vector<ShownCurve>& Prepare(const Range& x, int nColumns);
+    // The names of the visible curves, without computing any.
+    std::vector<std::string> Names();
     // Counts the changes of what belongs to the data, for who keeps a picture of them.
     unsigned DataVersion() const { return m_uDataVersion; }
 
   private:
     struct Entry {
-        bool bKnown = false;    // the source was asked what it is
+        bool bKnown = false;     // the source was asked what it is
         bool bComputed = false;  // for m_x and m_nColumns
         bool bVisible = false;
         std::optional<Extent> extent;  // of all its points

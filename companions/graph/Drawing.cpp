@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kGap = 4;
 constexpr int kTick = 4;
-constexpr int kSample = 24;  // length of a line of the legend
-constexpr int kMark = 5;     // edge of a data point's mark
+constexpr int kSample = 24;   // length of a line of the legend
+constexpr int kMark = 5;      // edge of a data point's mark
 constexpr int kMarkRoom = 4;  // columns for each mark; closer points become a line
 
 // A pen for as long as it is used.
@@ -132,8 +132,7 @@ void Drawing::Axes(const Titles& titles) {
                  y - m_layout.nTextHeight / 2);
     }
     if ((m_uFlags & GMT_FLAG_NO_X_TITLE) == 0)
-        Text(titles.sX,
-             static_cast<int>(plot.left + plot.right - TextWidth(m_dc, titles.sX)) / 2,
+        Text(titles.sX, static_cast<int>(plot.left + plot.right - TextWidth(m_dc, titles.sX)) / 2,
              static_cast<int>(m_layout.size.cy) - nGap - m_layout.nTextHeight);
     if ((m_uFlags & GMT_FLAG_NO_Y_TITLE) == 0) Text(titles.sY, nGap, m_layout.nReadoutTop);
 }
@@ -141,9 +140,8 @@ void Drawing::Axes(const Titles& titles) {
 void Drawing::UseStyleOf(const ShownCurve& curve) {
     const bool bOneColor = (m_uFlags & GMT_FLAG_ONE_COLOR) != 0;
     const LineStyle style = bOneColor || curve.uColor != GMT_COLOR_AUTOMATIC
-                                ? StyleWithColor(curve.uKind, curve.uIndex,
-                                                 bOneColor ? m_crText : curve.uColor)
-                                : StyleOf(curve.uKind, curve.uIndex, m_crBack, m_crText);
+                                ? StyleWithColor(curve.uKind, bOneColor ? m_crText : curve.uColor)
+                                : StyleOf(curve.uKind, m_crBack, m_crText);
     m_pattern = style.pattern;
     m_crLine = style.color;
     m_nWidth = m_layout.Pixels(style.nWidth);
@@ -169,7 +167,8 @@ void Drawing::Line(const std::vector<POINT>& points) {
             dX += (points[i].x - dX) * dLeft / dRest;
             dY += (points[i].y - dY) * dLeft / dRest;
             dRest -= dLeft;
-            const POINT at = {static_cast<LONG>(std::lround(dX)), static_cast<LONG>(std::lround(dY))};
+            const POINT at = {static_cast<LONG>(std::lround(dX)),
+                              static_cast<LONG>(std::lround(dY))};
             if (bDrawn) {
                 dash.push_back(at);
                 Polyline(m_dc, dash.data(), static_cast<int>(dash.size()));
@@ -186,9 +185,9 @@ void Drawing::Line(const std::vector<POINT>& points) {
 }
 
 bool Drawing::HasMarks(const ShownCurve& curve) const {
-    return curve.IsData() && static_cast<double>(curve.uVisiblePoints) *
-                                     m_layout.Pixels(kMarkRoom) <=
-                                 m_layout.Width();
+    return curve.IsData() &&
+           static_cast<double>(curve.uVisiblePoints) * m_layout.Pixels(kMarkRoom) <=
+               m_layout.Width();
 }
 
 void Drawing::Marks(const ShownCurve& curve, COLORREF crMark) {
@@ -270,10 +269,9 @@ void Drawing::Curves(const std::vector<ShownCurve>& curves) {
     }
 }
 
-int Drawing::LegendWidth(HDC dc, int nDpi, const std::vector<ShownCurve>& curves) {
+int Drawing::LegendWidth(HDC dc, int nDpi, const std::vector<std::string>& names) {
     int nWidest = 0;
-    for (const ShownCurve& curve : curves)
-        if (!curve.sName.empty()) nWidest = std::max(nWidest, TextWidth(dc, curve.sName));
+    for (const std::string& sName : names) nWidest = std::max(nWidest, TextWidth(dc, sName));
     return nWidest == 0 ? 0 : nWidest + MulDiv(kSample + 2 * kGap, nDpi, 96);
 }
 
@@ -310,7 +308,8 @@ void Drawing::EmptyText(const char* szText) {
 }
 
 void Drawing::Readout(const std::string& sText) {
-    Text(sText, static_cast<int>(m_layout.plot.right) - TextWidth(m_dc, sText), m_layout.nReadoutTop);
+    Text(sText, static_cast<int>(m_layout.plot.right) - TextWidth(m_dc, sText),
+         m_layout.nReadoutTop);
 }
 
 }  // namespace graph

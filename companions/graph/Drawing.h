@@ -23,8 +23,8 @@ class Drawing {
     // The value under the pointer, above the plot.
     void Readout(const std::string& sText);
 
-    // How wide the legend of these curves is, its lines included.
-    static int LegendWidth(HDC dc, int nDpi, const std::vector<ShownCurve>& curves);
+    // How wide the legend of these names is, its lines included; 0 when all are empty.
+    static int LegendWidth(HDC dc, int nDpi, const std::vector<std::string>& names);
 
   private:
     void Axes(const Titles& titles);

@@ -139,18 +139,20 @@ std::string GMT_Graph::TitleWithUnits(const std::string& sTitle, uint32_t uAxis)
 }
 
 graph::Titles GMT_Graph::ShownTitles() const {
-    return {m_titles.sHeading, TitleWithUnits(m_titles.sX, GMT_X), TitleWithUnits(m_titles.sY, GMT_Y)};
+    return {m_titles.sHeading, TitleWithUnits(m_titles.sX, GMT_X),
+            TitleWithUnits(m_titles.sY, GMT_Y)};
 }
 
 graph::Layout GMT_Graph::MakeLayout(HDC dc) {
     const auto hFont = reinterpret_cast<HFONT>(Default(WM_GETFONT, 0, 0));
     const HGDIOBJ hOld = SelectObject(
         dc, hFont != nullptr ? static_cast<HGDIOBJ>(hFont) : GetStockObject(DEFAULT_GUI_FONT));
-    int nLegend = 0;
-    if (GetFlag(GMT_FLAG_LEGEND))
-        nLegend = graph::Drawing::LegendWidth(dc, GetDeviceCaps(dc, LOGPIXELSX),
-                                              m_curves.Prepare(m_x, std::max(m_layout.Width(), 1)));
-    graph::Layout layout = graph::Arrange(dc, ClientSize(m_hWnd), m_uFlags, ShownTitles(), m_x, m_y, nLegend);
+    const int nLegend =
+        GetFlag(GMT_FLAG_LEGEND)
+            ? graph::Drawing::LegendWidth(dc, GetDeviceCaps(dc, LOGPIXELSX), m_curves.Names())
+            : 0;
+    graph::Layout layout =
+        graph::Arrange(dc, ClientSize(m_hWnd), m_uFlags, ShownTitles(), m_x, m_y, nLegend);
     SelectObject(dc, hOld);
     return layout;
 }
@@ -168,8 +170,10 @@ int GMT_Graph::PlotWidth() {
 void GMT_Graph::Update(HDC dc) {
     if (!m_bPictureStale) return;
     if (GetFlag(GMT_FLAG_CONTINUOUS)) {
-        const Range y = m_curves.AutoY(m_x, m_layout.Width());
-        m_bLayoutStale |= !(y == m_y);
+        if (m_layout.Width() <= 0) m_layout = MakeLayout(dc);
+        const Range x = m_curves.AutoX(), y = m_curves.AutoY(x, m_layout.Width());
+        m_bLayoutStale |= !(x == m_x) || !(y == m_y);
+        m_x = x;
         m_y = y;
     }
     graph::Layout layout = MakeLayout(dc);
@@ -193,7 +197,8 @@ void GMT_Graph::Update(HDC dc) {
     graph::Drawing drawing(m_picture.Context(), m_layout, m_uFlags);
     drawing.Curves(curves);
     drawing.Legend(curves);
-    const bool bEmpty = std::all_of(curves.begin(), curves.end(), [](const graph::ShownCurve& c) { return c.IsEmpty(); });
+    const bool bEmpty = std::all_of(curves.begin(), curves.end(),
+                                    [](const graph::ShownCurve& c) { return c.IsEmpty(); });
     if (bEmpty) {
         GMT_DataSource* pSource = m_curves.Source();
         drawing.EmptyText(pSource == nullptr ? "" : pSource->GetEmptyText());
@@ -237,7 +242,8 @@ void GMT_Graph::Paint(HDC dc) {
 
 void GMT_Graph::ShowPart(uint32_t uAxis, const Range& part) {
     if (!SetScale(uAxis, part.dMin, part.dMax)) return;
-    if (m_curves.Source() != nullptr) m_curves.Source()->OnScaleChanged(uAxis, part.dMin, part.dMax);
+    if (m_curves.Source() != nullptr)
+        m_curves.Source()->OnScaleChanged(uAxis, part.dMin, part.dMax);
 }
 
 void GMT_Graph::ShowAll() {
@@ -269,14 +275,29 @@ bool GMT_Graph::Key(WPARAM wKey) {
     }
     if (IsLocked()) return false;
     switch (wKey) {
-        case VK_LEFT: Move(GMT_X, -kMove); return true;
-        case VK_RIGHT: Move(GMT_X, kMove); return true;
-        case VK_UP: Move(GMT_Y, kMove); return true;
-        case VK_DOWN: Move(GMT_Y, -kMove); return true;
-        case VK_PRIOR: Magnify(GMT_Y, kFactor); return true;
-        case VK_NEXT: Magnify(GMT_Y, 1 / kFactor); return true;
-        case VK_HOME: ShowAll(); return true;
-        default: return false;
+        case VK_LEFT:
+            Move(GMT_X, -kMove);
+            return true;
+        case VK_RIGHT:
+            Move(GMT_X, kMove);
+            return true;
+        case VK_UP:
+            Move(GMT_Y, kMove);
+            return true;
+        case VK_DOWN:
+            Move(GMT_Y, -kMove);
+            return true;
+        case VK_PRIOR:
+            Magnify(GMT_Y, kFactor);
+            return true;
+        case VK_NEXT:
+            Magnify(GMT_Y, 1 / kFactor);
+            return true;
+        case VK_HOME:
+            ShowAll();
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -307,7 +328,7 @@ void GMT_Graph::EndDrag(POINT at) {
     const Range x = part(m_layout.ValueX(from.x), m_layout.ValueX(at.x));
     const Range y = part(m_layout.ValueY(from.y), m_layout.ValueY(at.y));
     if (bX) ShowPart(GMT_X, x);
-    if (bY && !GetFlag(GMT_FLAG_CONTINUOUS)) ShowPart(GMT_Y, y);
+    if (bY) ShowPart(GMT_Y, y);
 }
 
 void GMT_Graph::MovePointer(POINT at) {

@@ -53,7 +53,7 @@ struct GMT_Graph {
     void MovePointer(POINT at);
     bool Key(WPARAM wKey);
     bool Character(WPARAM wChar);
-    bool IsLocked() const { return GetFlag(GMT_FLAG_LOCKED); }
+    bool IsLocked() const { return (m_uFlags & (GMT_FLAG_LOCKED | GMT_FLAG_CONTINUOUS)) != 0; }
     graph::Range* ScaleOf(uint32_t uAxis);
     void ShowPart(uint32_t uAxis, const graph::Range& part);
     void ShowAll();

@@ -8,13 +8,14 @@ namespace graph {
 namespace {
 
 constexpr double kFarAway = 100000.0;
-constexpr int kGap = 4;       // between texts and what they belong to
-constexpr int kTick = 4;      // length of a tick
+constexpr int kGap = 4;         // between texts and what they belong to
+constexpr int kTick = 4;        // length of a tick
 constexpr int kLeastPlot = 20;  // a plot is never smaller, even if it does not fit
 
 int Place(double dValue, double dFirst, double dPerUnit, int nStart) {
     const double dPlace = (dValue - dFirst) * dPerUnit;
-    return nStart + static_cast<int>(std::clamp(dPlace + (dPlace < 0 ? -0.5 : 0.5), -kFarAway, kFarAway));
+    return nStart +
+           static_cast<int>(std::clamp(dPlace + (dPlace < 0 ? -0.5 : 0.5), -kFarAway, kFarAway));
 }
 
 int WidestOf(HDC dc, const std::vector<Tick>& ticks) {
@@ -77,7 +78,8 @@ Layout Arrange(HDC dc, SIZE size, uint32_t uFlags, const Titles& titles, const R
     }
     nBottom = std::max(nBottom, nTop + kLeastPlot);
     // A number every three rows of text at the most.
-    if (bAxes) layout.yTicks = TicksOf(y, std::max((nBottom - nTop) / (3 * layout.nTextHeight) + 1, 2));
+    if (bAxes)
+        layout.yTicks = TicksOf(y, std::max((nBottom - nTop) / (3 * layout.nTextHeight) + 1, 2));
 
     int nLeft = nGap, nRight = static_cast<int>(size.cx) - 2 * nGap;
     if (bAxes) {

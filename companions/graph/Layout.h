@@ -15,8 +15,8 @@ struct Titles {
 };
 
 struct Layout {
-    SIZE size{};       // of the control
-    RECT plot{};       // inside of the frame
+    SIZE size{};  // of the control
+    RECT plot{};  // inside of the frame
     int nDpi = 96;
     int nTextHeight = 0;
     int nHeadingTop = 0;

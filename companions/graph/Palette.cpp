@@ -32,8 +32,8 @@ constexpr uint8_t kDashDot[] = {8, 3, 2, 3};
 constexpr uint8_t kLongDashes[] = {14, 5};
 constexpr uint8_t kDashDotDot[] = {8, 3, 2, 3, 2, 3};
 constexpr uint8_t kShortDashes[] = {4, 6};
-constexpr std::array<std::span<const uint8_t>, 6> kPatterns = {kDashes,     kDots,       kDashDot,
-                                                               kLongDashes, kDashDotDot, kShortDashes};
+constexpr std::array<std::span<const uint8_t>, 6> kPatterns = {
+    kDashes, kDots, kDashDot, kLongDashes, kDashDotDot, kShortDashes};
 
 constexpr double kReadable = 4.5;
 
@@ -48,10 +48,9 @@ double LuminanceOf(Color color) {
            0.0722 * LightOf(color >> 16 & 0xFF);
 }
 
-const ColorPair& ColorsOf(uint32_t uKind, uint32_t uIndex) {
+const ColorPair& ColorsOf(uint32_t uKind) {
     if (uKind == GMT_KIND_DATA) return kData;
-    if (uKind == GMT_KIND_TERM) return kTerms[uIndex % kTerms.size()];
-    return kTotal;
+    return uKind < kTerms.size() ? kTerms[uKind] : kTotal;
 }
 
 }  // namespace
@@ -61,17 +60,16 @@ double Contrast(Color one, Color other) {
     return (std::max(dOne, dOther) + 0.05) / (std::min(dOne, dOther) + 0.05);
 }
 
-LineStyle StyleWithColor(uint32_t uKind, uint32_t uIndex, Color color) {
-    if (uKind == GMT_KIND_TERM) return {color, 1, kPatterns[uIndex % kPatterns.size()]};
+LineStyle StyleWithColor(uint32_t uKind, Color color) {
+    if (uKind < kPatterns.size()) return {color, 1, kPatterns[uKind]};
     return {color, uKind == GMT_KIND_DATA ? 1 : 2, {}};
 }
 
-LineStyle StyleOf(uint32_t uKind, uint32_t uIndex, Color background, Color text) {
-    const ColorPair& colors = ColorsOf(uKind, uIndex);
-    const bool bLight =
-        Contrast(colors.light, background) >= Contrast(colors.dark, background);
+LineStyle StyleOf(uint32_t uKind, Color background, Color text) {
+    const ColorPair& colors = ColorsOf(uKind);
+    const bool bLight = Contrast(colors.light, background) >= Contrast(colors.dark, background);
     const Color color = bLight ? colors.light : colors.dark;
-    return StyleWithColor(uKind, uIndex, Contrast(color, background) >= kReadable ? color : text);
+    return StyleWithColor(uKind, Contrast(color, background) >= kReadable ? color : text);
 }
 
 Color Faint(Color text, Color background) {

@@ -32,29 +32,28 @@ struct HWND__;
 // A colour that the graph chooses: dark on a light window and light on a dark one.
 #define GMT_COLOR_AUTOMATIC 0xFFFFFFFFu
 
-// How a curve is drawn.
-#define GMT_KIND_TOTAL 1  // a heavy line, evaluated wherever the picture needs it
-#define GMT_KIND_TERM 2   // a broken line, each in a way of its own, evaluated likewise
+// How a curve is drawn: kinds 0 to 5 are terms, broken lines each in a way of its own.
 #define GMT_KIND_DATA 6   // the points of GetPoints: marks, or a line where they stand close
+#define GMT_KIND_TOTAL 7  // a heavy line; like the terms it is evaluated where the picture needs it
 
 // The flags of a graph. A word may name several: all of them are then set or cleared.
-#define GMT_FLAG_GRID 0x1            // lines across the plot at the ticks
-#define GMT_FLAG_LINK_POINTS 0x2     // points of data that stand apart are joined by a line
-#define GMT_FLAG_AXES 0x4            // ticks, numbers and axis titles
-#define GMT_FLAG_INNER_TICKS 0x8     // ticks point into the plot
-#define GMT_FLAG_LEGEND 0x10         // the names of the curves beside the plot
-#define GMT_FLAG_NO_X_NUMBERS 0x20   // ticks without numbers
-#define GMT_FLAG_NO_Y_NUMBERS 0x40   //
-#define GMT_FLAG_ZERO_LINE 0x80      // a line at y = 0 where the plot shows it
-#define GMT_FLAG_CONTINUOUS 0x100    // each redraw scales the y axis to what the x axis shows
-#define GMT_FLAG_POINTER 0x200       // the value under the pointer is told
-#define GMT_FLAG_NO_X_TITLE 0x400    // axes without a title
-#define GMT_FLAG_NO_Y_TITLE 0x800    //
-#define GMT_FLAG_LOCKED 0x1000       // mouse and keys do not change the scales
-#define GMT_FLAG_NO_HEADING 0x4000   // no room for the heading
-#define GMT_FLAG_ONE_COLOR 0x10000   // curves are told apart by their lines alone
-#define GMT_FLAG_NO_UNITS 0x20000    // axis titles without their units
-#define GMT_FLAG_NO_FRAME 0x40000    // no frame around the plot
+#define GMT_FLAG_GRID 0x1           // lines across the plot at the ticks
+#define GMT_FLAG_LINK_POINTS 0x2    // points of data that stand apart are joined by a line
+#define GMT_FLAG_AXES 0x4           // ticks, numbers and axis titles
+#define GMT_FLAG_INNER_TICKS 0x8    // ticks point into the plot
+#define GMT_FLAG_LEGEND 0x10        // the names of the curves beside the plot
+#define GMT_FLAG_NO_X_NUMBERS 0x20  // ticks without numbers
+#define GMT_FLAG_NO_Y_NUMBERS 0x40  //
+#define GMT_FLAG_ZERO_LINE 0x80     // a line at y = 0 where the plot shows it
+#define GMT_FLAG_CONTINUOUS 0x100   // each redraw scales both axes; mouse and keys do not
+#define GMT_FLAG_POINTER 0x200      // the value under the pointer is told
+#define GMT_FLAG_NO_X_TITLE 0x400   // axes without a title
+#define GMT_FLAG_NO_Y_TITLE 0x800   //
+#define GMT_FLAG_LOCKED 0x1000      // mouse and keys do not change the scales
+#define GMT_FLAG_NO_HEADING 0x4000  // no room for the heading
+#define GMT_FLAG_ONE_COLOR 0x10000  // curves are told apart by their lines alone
+#define GMT_FLAG_NO_UNITS 0x20000   // axis titles without their units
+#define GMT_FLAG_NO_FRAME 0x40000   // no frame around the plot
 
 struct GMT_Curve {
     char szName[64];   // for the legend; empty keeps the curve out of it
@@ -115,8 +114,8 @@ struct GMT_Graph;
 #define GMT_ORDINAL_SET_TITLE 1058
 
 // 1000: makes a graph of a control: from now on the control draws the graph over its whole area and
-// takes its mouse and keys. All flags are off, both scales 0 to 1. Null for what is no window, for a
-// control that is a graph already, and without memory. The control may be destroyed before the
+// takes its mouse and keys. All flags are off, both scales 0 to 1. Null for what is no window, for
+// a control that is a graph already, and without memory. The control may be destroyed before the
 // graph; the graph then draws nothing more.
 typedef GMT_Graph*(GMT_CALL* GMT_CreateGraph)(HWND__* hControl);
 // 1002: attaches the source; null takes it away. 1 on success. The scales stay as they are.

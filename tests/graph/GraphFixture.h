@@ -1,5 +1,5 @@
-// A graph in a control of a window, a source whose curves a test writes down, and the pixels of what
-// is drawn.
+// A graph in a control of a window, a source whose curves a test writes down, and the pixels of
+// what is drawn.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -92,7 +92,8 @@ class Picture {
         m_nWidth = static_cast<int>(rc.right);
         m_nHeight = static_cast<int>(rc.bottom);
         BITMAPINFO info = {};
-        info.bmiHeader = {sizeof info.bmiHeader, m_nWidth, -m_nHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        info.bmiHeader = {
+            sizeof info.bmiHeader, m_nWidth, -m_nHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
         void* pBits = nullptr;
         const HDC dc = CreateCompatibleDC(nullptr);
         const HBITMAP hBitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &pBits, nullptr, 0);

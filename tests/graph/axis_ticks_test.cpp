@@ -1,9 +1,9 @@
-#include "AxisTicks.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+
+#include "AxisTicks.h"
 
 namespace {
 
@@ -59,9 +59,9 @@ TEST(AxisTicks, NeverMoreThanAskedForAndNeverWithoutEnd) {
 TEST(AxisTicks, AnUnusableRangeHasNone) {
     const double dNaN = std::numeric_limits<double>::quiet_NaN();
     const double dInf = std::numeric_limits<double>::infinity();
-    for (const Range& range : {Range{1, 1}, Range{2, 1}, Range{dNaN, 1}, Range{0, dNaN},
-                               Range{-dInf, 0}, Range{0, dInf}, Range{-1e308, 1e308},
-                               Range{1, 1 + 1e-15}}) {
+    for (const Range& range :
+         {Range{1, 1}, Range{2, 1}, Range{dNaN, 1}, Range{0, dNaN}, Range{-dInf, 0}, Range{0, dInf},
+          Range{-1e308, 1e308}, Range{1, 1 + 1e-15}}) {
         EXPECT_FALSE(graph::IsUsable(range)) << range.dMin << " " << range.dMax;
         EXPECT_TRUE(TicksOf(range, 5).empty());
     }

@@ -181,7 +181,7 @@ TEST_F(GraphTest, ValuesAreToldWithinThePlotOnly) {
 
 TEST_F(GraphTest, ACurveIsComputedAgainOnlyWhenItHasChanged) {
     source.Data(Steps(10), Steps(10))
-        .Curve(GMT_KIND_TERM, [](double x) { return x; })
+        .Curve(0, [](double x) { return x; })
         .Curve(GMT_KIND_TOTAL, [](double x) { return 2 * x; });
     Attach();
     ScaleAll();

@@ -16,8 +16,13 @@ class GraphInput : public GraphTest {
         graph::Redraw(pGraph);
         plot = Plot();
     }
-    int X(double dShare) const { return static_cast<int>(std::lround(plot.left + (plot.right - 1 - plot.left) * dShare)); }
-    int Y(double dShare) const { return static_cast<int>(std::lround(plot.bottom - 1 - (plot.bottom - 1 - plot.top) * dShare)); }
+    int X(double dShare) const {
+        return static_cast<int>(std::lround(plot.left + (plot.right - 1 - plot.left) * dShare));
+    }
+    int Y(double dShare) const {
+        return static_cast<int>(
+            std::lround(plot.bottom - 1 - (plot.bottom - 1 - plot.top) * dShare));
+    }
     void Press(int nKey) { SendMessageA(control, WM_KEYDOWN, static_cast<WPARAM>(nKey), 1); }
     void ExpectScale(uint32_t uAxis, double dMin, double dMax) const {
         const double dTolerance = uAxis == GMT_X ? 0.2 : 4;
@@ -139,22 +144,17 @@ TEST_F(GraphInput, MagnifyingHasAnEnd) {
 }
 
 TEST_F(GraphInput, ALockedGraphKeepsItsScales) {
-    graph::SetFlag(pGraph, GMT_FLAG_LOCKED, 1);
-    Drag(X(0.2), Y(0.8), X(0.6), Y(0.1));
-    Mouse(WM_LBUTTONDBLCLK, X(0.5), Y(0.5));
-    for (const int nKey : {VK_LEFT, VK_UP, VK_HOME, VK_PRIOR}) Press(nKey);
-    SendMessageA(control, WM_CHAR, '+', 1);
-    EXPECT_EQ(Scale(GMT_X), (Numbers{0, 100}));
-    EXPECT_EQ(Scale(GMT_Y), (Numbers{0, 1000}));
-    EXPECT_TRUE(source.scales.empty());
-}
-
-TEST_F(GraphInput, WithContinuousScalingADragChangesTheXAxisOnly) {
-    graph::SetFlag(pGraph, GMT_FLAG_CONTINUOUS, 1);
-    graph::Redraw(pGraph);
-    Drag(X(0.2), Y(0.8), X(0.6), Y(0.1));
-    ExpectScale(GMT_X, 20, 60);
-    ASSERT_EQ(source.scales.size(), 1u);
+    for (const uint32_t uFlag : {GMT_FLAG_LOCKED, GMT_FLAG_CONTINUOUS}) {
+        graph::SetFlag(pGraph, GMT_FLAG_LOCKED | GMT_FLAG_CONTINUOUS, 0);
+        graph::SetFlag(pGraph, uFlag, 1);
+        Drag(X(0.2), Y(0.8), X(0.6), Y(0.1));
+        Mouse(WM_LBUTTONDBLCLK, X(0.5), Y(0.5));
+        for (const int nKey : {VK_LEFT, VK_UP, VK_HOME, VK_PRIOR}) Press(nKey);
+        SendMessageA(control, WM_CHAR, '+', 1);
+        EXPECT_EQ(Scale(GMT_X), (Numbers{0, 100}));
+        EXPECT_EQ(Scale(GMT_Y), (Numbers{0, 1000}));
+        EXPECT_TRUE(source.scales.empty());
+    }
 }
 
 TEST_F(GraphInput, TheSourceIsToldWhereThePointerStands) {

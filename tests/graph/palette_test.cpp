@@ -25,11 +25,11 @@ TEST(Palette, ContrastIsThatOfTheGuidelines) {
 
 TEST(Palette, EveryColourReadsOnEveryBackground) {
     for (graph::Color background = 0; background <= 0xFFFFFF; background += 0x0F1007) {
-        const graph::Color text = Contrast(background, kBlack) > Contrast(background, kWhite) ? kBlack : kWhite;
-        for (const uint32_t uKind : {GMT_KIND_DATA, GMT_KIND_TOTAL, GMT_KIND_TERM})
-            for (uint32_t i = 0; i < 7; ++i)
-                EXPECT_GE(Contrast(StyleOf(uKind, i, background, text).color, background), 4.5)
-                    << std::hex << background << " " << uKind << " " << i;
+        const graph::Color text =
+            Contrast(background, kBlack) > Contrast(background, kWhite) ? kBlack : kWhite;
+        for (uint32_t uKind = 0; uKind < 9; ++uKind)
+            EXPECT_GE(Contrast(StyleOf(uKind, background, text).color, background), 4.5)
+                << std::hex << background << " " << uKind;
     }
 }
 
@@ -38,14 +38,14 @@ TEST(Palette, CurvesDifferByColourAndByLineOnWhiteAndOnBlack) {
         std::set<graph::Color> colors;
         std::set<std::vector<uint8_t>> patterns;
         for (uint32_t i = 0; i < kTerms; ++i) {
-            const graph::LineStyle style = StyleOf(GMT_KIND_TERM, i, background, background ^ kWhite);
+            const graph::LineStyle style = StyleOf(i, background, background ^ kWhite);
             colors.insert(style.color);
             patterns.insert({style.pattern.begin(), style.pattern.end()});
             EXPECT_FALSE(style.pattern.empty());
             EXPECT_EQ(style.nWidth, 1);
         }
-        const graph::LineStyle total = StyleOf(GMT_KIND_TOTAL, 0, background, background ^ kWhite);
-        const graph::LineStyle data = StyleOf(GMT_KIND_DATA, 0, background, background ^ kWhite);
+        const graph::LineStyle total = StyleOf(GMT_KIND_TOTAL, background, background ^ kWhite);
+        const graph::LineStyle data = StyleOf(GMT_KIND_DATA, background, background ^ kWhite);
         colors.insert(total.color);
         colors.insert(data.color);
         EXPECT_EQ(colors.size(), kTerms + 2);
@@ -54,13 +54,13 @@ TEST(Palette, CurvesDifferByColourAndByLineOnWhiteAndOnBlack) {
         EXPECT_TRUE(total.pattern.empty());
         EXPECT_EQ(data.nWidth, 1);
     }
-    EXPECT_EQ(StyleOf(GMT_KIND_TOTAL, 0, kWhite, kBlack).color, 0x0000C0u);
-    EXPECT_EQ(StyleOf(GMT_KIND_TERM, 1, kWhite, kBlack).color, 0x3E6900u);
+    EXPECT_EQ(StyleOf(GMT_KIND_TOTAL, kWhite, kBlack).color, 0x0000C0u);
+    EXPECT_EQ(StyleOf(1, kWhite, kBlack).color, 0x3E6900u);
 }
 
-TEST(Palette, ASeventhTermLooksLikeTheFirst) {
-    EXPECT_EQ(StyleOf(GMT_KIND_TERM, 6, kWhite, kBlack).color,
-              StyleOf(GMT_KIND_TERM, 0, kWhite, kBlack).color);
+TEST(Palette, AnUnknownKindIsDrawnAsATotal) {
+    EXPECT_EQ(StyleOf(8, kWhite, kBlack).color, StyleOf(GMT_KIND_TOTAL, kWhite, kBlack).color);
+    EXPECT_EQ(StyleOf(8, kWhite, kBlack).nWidth, 2);
 }
 
 TEST(Palette, FaintLinesAreNearTheBackground) {
