@@ -118,6 +118,12 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     // The smallest count over n sets of the current group; 0 for none.
     std::uint32_t GetFewestPoints(const std::int32_t* pnSets, int nSets) const;
     std::uint32_t GetSelectedPointCount() const;
+    // What the limits of an analysis follow: the points to be analysed, the sampling frequency in
+    // Hz (0: not known) and whether the data are segmented. A deferred run takes them from the
+    // block, and from the source what the block does not tell.
+    std::uint32_t GetAnalysisPointCount() const;
+    double GetSamplingFrequency() const;
+    bool IsSegmented() const;
     // Private copies, valid until the next fetch of the same kind.
     const double* GetXValues();
     const double* GetYValues();
