@@ -19,13 +19,13 @@ class COptionsTabBase : public CEditPage<ADM_TabSubDialog> {
     void UpdateControls() override;
     BOOL CanLeavePage() override { return TRUE; }
     BOOL OnPageShow() override;
-    // Runs what FollowData was given, as the user's data stand now. In read-only mode as well.
+    // Runs what FollowData was given. The checks of its dialog call it first.
     void TakeData();
 
   protected:
-    // For a tab whose texts and limits follow the selected data. `take` runs when the dialog has
-    // set up all of its tabs, when the selection, the region or the data tab's state changed, each
-    // time that this tab comes up, and at OK before the checks; then the rules run.
+    // For a tab whose texts and limits follow the selected data. `take` runs each time that this
+    // tab comes up, the first time when the dialog has set up all of its tabs, and when the
+    // selection, the region or the data tab's state changed. Then the rules run.
     void FollowData(CDataOptionsInterface* pData, Step take);
 
     const ZXADLG_DlgParams* m_pParams;

@@ -58,7 +58,7 @@ void CParentDialogBase::OfferData(const ZXADLG_DataTabFlags& flags) {
     m_pDataOptions->SetDeferred(!HasLiveData());
 }
 
-void CParentDialogBase::AddOptionsTab(std::unique_ptr<COptionsTabBase> pTab) {
+void CParentDialogBase::AddOptionsTab(std::unique_ptr<ADM_TabSubDialog> pTab) {
     AddPage(pTab.get());
     m_vOptionsTabs.push_back(std::move(pTab));
 }
@@ -97,8 +97,6 @@ bool CParentDialogBase::SetUp() {
 
 BOOL CParentDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
     const BOOL bResult = CEditPage::OnInitDialog(hWnd, hFocus, lParam);
-    // The data tab has set the region by now.
-    TakeData();
     // A memory that points past the last tab is of a dialog with more tabs than this one. A page
     // that refuses to be left would say so before the user has done anything.
     const bool bRemembered = m_nLastTab != 0 && m_nLastTab < GetPageCount();
@@ -109,12 +107,7 @@ BOOL CParentDialogBase::OnInitDialog(HWND hWnd, HWND hFocus, LPARAM lParam) {
 
 // --- Ending ----------------------------------------------------------------------------------
 
-void CParentDialogBase::TakeData() {
-    for (const auto& pTab : m_vOptionsTabs) pTab->TakeData();
-}
-
 void CParentDialogBase::OnOK() {
-    TakeData();
     if (!PassChecks()) return;
     if (!IsReadOnly() && HasLiveData() && !m_pDataOptions->UpdateDataInfo()) {
         ShowFinding(m_hWnd, {.nStringId = IDS_NO_DATA_PROPERTIES});

@@ -43,7 +43,7 @@ class CParentDialogBase : public CCheckedDialog<ADM_TabbedDialog> {
     // Creates the model of the data selection, which offers what the flags say.
     void OfferData(const ZXADLG_DataTabFlags& flags);
     // Adds a tab behind those that are there.
-    void AddOptionsTab(std::unique_ptr<COptionsTabBase> pTab);
+    void AddOptionsTab(std::unique_ptr<ADM_TabSubDialog> pTab);
     // Makes a tab the data tab, behind the options tabs. In an open dialog it takes the place of
     // the one before.
     void SetDataTab(std::unique_ptr<CDataTabBase> pTab);
@@ -77,7 +77,7 @@ class CParentDialogBase : public CCheckedDialog<ADM_TabbedDialog> {
 
     std::unique_ptr<CDataOptionsInterface> m_pDataOptions;
     std::unique_ptr<COptionsInterfaceBase> m_pOptions;
-    std::vector<std::unique_ptr<COptionsTabBase>> m_vOptionsTabs;
+    std::vector<std::unique_ptr<ADM_TabSubDialog>> m_vOptionsTabs;
     std::unique_ptr<CDataTabBase> m_pDataTab;  // null when the dialog has none
     ZXADLG_DataOptions* m_pDataRecord;
     std::unique_ptr<ZXADLG_DataTabFlags> m_pFlags;
@@ -88,7 +88,6 @@ class CParentDialogBase : public CCheckedDialog<ADM_TabbedDialog> {
 
   private:
     void CheckData();
-    void TakeData();
 
     int& m_nLastTab;
 };

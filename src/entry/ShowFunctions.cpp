@@ -4,6 +4,7 @@
 #include "entry/ShowSequence.h"
 #include "fit/CurveFittingDialog.h"
 #include "platform/platform.h"
+#include "sigproc/FilterDialog.h"
 #include "traceops/AdjustBaselineDialog.h"
 #include "traceops/ForceValuesDialog.h"
 #include "traceops/LeakSubtractionDialog.h"
@@ -30,6 +31,7 @@ void PrepareCurveFit(FitOptions*, ZXADLG_DataOptions* pData, const ZXADLG_DlgPar
 constexpr ShowRow<FitOptions> kCurveFit = {"CurveFit",           DataRecord::kCopied,
                                            kDataOptionsNormal,   &LoadCurveFitOptions,
                                            &SaveCurveFitOptions, &PrepareCurveFit};
+constexpr auto kFilter = TabbedRow("Filter", &LoadFilterOptions, &SaveFilterOptions);
 constexpr auto kForceValues =
     TabbedRow("ForceValues", &LoadForceValuesOptions, &SaveForceValuesOptions);
 constexpr auto kLeakSubtraction =
@@ -64,6 +66,13 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowCurveFitDialog(HWND parent, FitOptions
                                                          ZXADLG_CDlgDataSource* source,
                                                          const ZXADLG_DlgParams* params) {
     return ShowTabbed<CFitDialog>(kCurveFit, parent, options, data, source, params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowFilterDialog(HWND parent, FilterOptions* options,
+                                                       ZXADLG_DataOptions* data,
+                                                       ZXADLG_CDlgDataSource* source,
+                                                       const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CFilterDialog>(kFilter, parent, options, data, source, params);
 }
 
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowForceValuesDialog(HWND parent,
