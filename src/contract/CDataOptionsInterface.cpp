@@ -272,6 +272,32 @@ bool CDataOptionsInterface::IsSegmented() const {
     return (m_bDeferred && m_pRecord->bSegmented != 0) || m_pSource->IsSegmented();
 }
 
+std::uint32_t CDataOptionsInterface::GetSelectedSetCount() const {
+    const std::uint32_t uSets = GetSetCountInGroup();
+    std::uint32_t uCount = 0;
+    switch (m_pRecord->eDataSet1SelectionMode) {
+        case kVisibleSets:
+            for (std::uint32_t s = 0; s < uSets; ++s) {
+                if (m_pSource->IsSetVisible(GetGroup(), s)) ++uCount;
+            }
+            break;
+        case kAllSets:
+            uCount = uSets;
+            break;
+        case kActiveSet:
+            break;
+        default:
+            uCount = static_cast<std::uint32_t>(
+                ParseSelection(m_pRecord->szUnitarySelectionList1, 0).size());
+            break;
+    }
+    return std::max(uCount, 1u);
+}
+
+std::uint32_t CDataOptionsInterface::GetWholePointCount() const {
+    return m_pSource->GetPointCount(GetGroup(), GetYSet(), nullptr, 0);
+}
+
 const double* CDataOptionsInterface::Fetch(bool bY, std::vector<double>& vdValues) {
     const std::uint32_t uCount = GetPointCount();
     ZXADLG_DataRange range = RegionRange(m_nRegionId);

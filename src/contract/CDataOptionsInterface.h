@@ -124,6 +124,10 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     std::uint32_t GetAnalysisPointCount() const;
     double GetSamplingFrequency() const;
     bool IsSegmented() const;
+    // Sets that are selected in a group, by the mode of the first selection; at least 1.
+    std::uint32_t GetSelectedSetCount() const;
+    // Points of the whole current set, whatever region is selected.
+    std::uint32_t GetWholePointCount() const;
     // Private copies, valid until the next fetch of the same kind.
     const double* GetXValues();
     const double* GetYValues();
