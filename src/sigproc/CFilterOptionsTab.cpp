@@ -10,9 +10,12 @@ namespace {
 using Record = FilterOptions;
 
 constexpr Choice<std::int32_t> kLowpassFamilies[] = {
-    {kBessel, IDS_FAMILY_BESSEL},       {kBoxcar, IDS_FAMILY_BOXCAR},
-    {kButterworth, IDS_FAMILY_BUTTERWORTH}, {kChebyshev, IDS_FAMILY_CHEBYSHEV},
-    {kGaussian, IDS_FAMILY_GAUSSIAN},   {kRC, IDS_FAMILY_RC},
+    {kBessel, IDS_FAMILY_BESSEL},
+    {kBoxcar, IDS_FAMILY_BOXCAR},
+    {kButterworth, IDS_FAMILY_BUTTERWORTH},
+    {kChebyshev, IDS_FAMILY_CHEBYSHEV},
+    {kGaussian, IDS_FAMILY_GAUSSIAN},
+    {kRC, IDS_FAMILY_RC},
     {kRC8, IDS_FAMILY_RC8},
 };
 constexpr Choice<std::int32_t> kHighpassFamilies[] = {{kBessel, IDS_FAMILY_BESSEL},
@@ -270,9 +273,9 @@ void CFilterOptionsTab::ShowRange(ADM_StaticText& lbl, int nFirstPlace, const Fi
 
 void CFilterOptionsTab::ShowInterference() {
     const ZXADLG_AdaptiveFilterSection& adaptive = m_pRecord->adaptive;
-    m_lblPeriodValue.SetArgDouble(
-        0, SamplesPerPeriod(adaptive.m_eReferenceGeneration, m_signal.dRate), kFigureDecimals,
-        kTextDigits);
+    m_lblPeriodValue.SetArgDouble(0,
+                                  SamplesPerPeriod(adaptive.m_eReferenceGeneration, m_signal.dRate),
+                                  kFigureDecimals, kTextDigits);
     m_lblBandwidthValue.SetArgDouble(
         0, InterferenceBandwidth(adaptive.m_eReferenceGeneration, adaptive.m_uAveragingCycles),
         kFigureDecimals, kTextDigits);

@@ -61,8 +61,7 @@ CheckResult CheckInterference(const FilterCheck& check) {
     if (adaptive.m_uAveragingCycles < 1)
         return Mending(Refusal(IDS_HUM_NO_CYCLES, kPage, IDC_HUM_CYCLES), check.setCycles, 5);
     if (check.signal.dRate == 0.0 || !check.signal.bPointsKnown) return {};
-    const double dPeriod =
-        SamplesPerPeriod(adaptive.m_eReferenceGeneration, check.signal.dRate);
+    const double dPeriod = SamplesPerPeriod(adaptive.m_eReferenceGeneration, check.signal.dRate);
     const double dPoints = check.signal.uPoints;
     if (dPoints >= adaptive.m_uAveragingCycles * dPeriod) return {};
     constexpr double kMost = std::numeric_limits<std::uint32_t>::max();

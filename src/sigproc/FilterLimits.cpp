@@ -16,8 +16,8 @@ struct FamilyLimits {
 };
 constexpr double kLowest = 0.0001;
 constexpr FamilyLimits kLowpassLimits[] = {
-    {kBessel, kLowest, 0.14},   {kButterworth, kLowest, 0.2}, {kChebyshev, kLowest, 0.2},
-    {kGaussian, kLowest, 0.5},  {kRC, kLowest, 0.5},          {kRC8, kLowest, 0.15},
+    {kBessel, kLowest, 0.14},  {kButterworth, kLowest, 0.2}, {kChebyshev, kLowest, 0.2},
+    {kGaussian, kLowest, 0.5}, {kRC, kLowest, 0.5},          {kRC8, kLowest, 0.15},
 };
 constexpr FamilyLimits kHighpassLimits[] = {{kBessel, kLowest, 0.14}, {kRC, kLowest, 0.5}};
 constexpr FilterLimits kNotchCenter = {0.001, 0.3};

@@ -27,7 +27,8 @@ struct FilterLimits {
     double dHigh;
 };
 
-// A rate as the limits take it: 0, which stands for an unknown one, unless it is above 0 and finite.
+// A rate as the limits take it: 0, which stands for an unknown one, unless it is above 0 and
+// finite.
 double KnownRate(double dRate);
 
 // Of the cutoff; of a boxcar the smoothing points.

@@ -93,8 +93,7 @@ void ClampLowpass(FilterOptions& options, const FilterSignal& signal) {
         Clamp(options.lowpass.m_dCornerFreq, limits);
     } else if (signal.bPointsKnown) {
         options.lowpass.m_uNumAveragePoints =
-            std::clamp(options.lowpass.m_uNumAveragePoints,
-                       static_cast<std::uint32_t>(limits.dLow),
+            std::clamp(options.lowpass.m_uNumAveragePoints, static_cast<std::uint32_t>(limits.dLow),
                        static_cast<std::uint32_t>(limits.dHigh));
     }
 }

@@ -63,8 +63,8 @@ SpectrumAveraging AveragingOf(const SpectrumOptions& options, const SpectrumSign
     } else {
         averaging.bSegmentsEnabled = 2 * uLength <= uPoints;
         // Where segments can be averaged, an overlap makes sense for their average alone.
-        averaging.bOverlapEnabled = averaging.bSegmentsEnabled ? options.bAverageSegments != 0
-                                                               : 3 * uLength <= 2 * uPoints;
+        averaging.bOverlapEnabled =
+            averaging.bSegmentsEnabled ? options.bAverageSegments != 0 : 3 * uLength <= 2 * uPoints;
     }
     averaging.bSegments = averaging.bSegmentsEnabled && options.bAverageSegments != 0;
     averaging.bOverlap = averaging.bOverlapEnabled && options.bDoOverlap != 0;
@@ -77,11 +77,12 @@ std::int64_t SegmentCount(const SpectrumOptions& options, const SpectrumSignal& 
     if (nLength == 0) return 0;
     const SpectrumAveraging averaging = AveragingOf(options, signal);
     const std::int64_t nPoints = signal.uPoints;
-    const std::int64_t nOfTrace =
-        averaging.bOverlap ? std::max<std::int64_t>(2 * nPoints / nLength - 1, 0)
-                           : nPoints / nLength;
+    const std::int64_t nOfTrace = averaging.bOverlap
+                                      ? std::max<std::int64_t>(2 * nPoints / nLength - 1, 0)
+                                      : nPoints / nLength;
     const std::int64_t nTraces = signal.uTraces;
-    // Required as it stands: averaged traces count as the traces, averaged segments as the segments.
+    // Required as it stands: averaged traces count as the traces, averaged segments as the
+    // segments.
     if (averaging.bSegments) return averaging.bTraces ? 1 : nOfTrace;
     return averaging.bTraces ? nTraces : nTraces * nOfTrace;
 }

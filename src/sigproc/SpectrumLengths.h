@@ -27,9 +27,9 @@ struct SpectrumSignal {
     double dRate = 0.0;  // Hz; 0: not known
     std::uint32_t uPoints = 0;
     bool bPointsKnown = true;
-    bool bSwept = false;              // no single continuous length
-    std::uint32_t uWholePoints = 0;   // of a sweep
-    std::uint32_t uTraces = 1;        // selected
+    bool bSwept = false;             // no single continuous length
+    std::uint32_t uWholePoints = 0;  // of a sweep
+    std::uint32_t uTraces = 1;       // selected
 };
 
 // Whether a length fits at all; what is not known is not in the way.

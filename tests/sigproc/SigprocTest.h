@@ -1,6 +1,6 @@
 // What the tests of the signal processing dialogs share: a recording of two signals at 10 kHz with
-// 1000 points, a selection that fits it, parameters that show everything, and a record of zeros. The
-// dialog runs by script.
+// 1000 points, a selection that fits it, parameters that show everything, and a record of zeros.
+// The dialog runs by script.
 #pragma once
 
 #include <gtest/gtest.h>
