@@ -1,4 +1,5 @@
-// Any bytes as a filter record and a trace: no crash, a refusal leaves the trace, a result is finite.
+// Any bytes as a filter record and a trace: no crash, a refusal leaves the trace, a result is
+// finite.
 #pragma once
 
 #include <cstddef>

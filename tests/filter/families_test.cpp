@@ -155,7 +155,7 @@ TEST(Design, HasTheCoefficientsOfTheFormulas) {
     EXPECT_NEAR(notch.k * notch.r - 2.0, -1.8441580316613352, 1e-14);
     EXPECT_NEAR(notch.k * notch.k - notch.k * notch.r + 1.0, 0.93906250581749235, 1e-14);
     EXPECT_NEAR(notch.dSlope * notch.k, 2.0, 1e-15);
-    EXPECT_EQ(filter::DesignNotch(0.05, 0.5).dDepth, filter::DesignNotch(0.05, 0.49).dDepth);
+    EXPECT_DOUBLE_EQ(filter::DesignNotch(0.05, 0.5).dDepth, filter::DesignNotch(0.05, 0.49).dDepth);
 }
 
 TEST(Gaussian, HasAsManyWeightsAsTheDialogCounts) {
