@@ -36,8 +36,8 @@ TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
         return std::system((command + " >" + log + " 2>&1").c_str());
     };
     std::filesystem::create_directories(root + "/src");
-    std::ofstream(root + "/src/CMakeLists.txt") << Block("cmake", 0) << Block("cmake", 1)
-                                                 << Block("cmake", 2);
+    std::ofstream(root + "/src/CMakeLists.txt")
+        << Block("cmake", 0) << Block("cmake", 1) << Block("cmake", 2);
     std::ofstream(root + "/src/minimal_host.cpp") << Block("cpp", 0);
     std::ofstream(root + "/src/curve_seeds.cpp") << Block("cpp", 1);
     std::ofstream(root + "/src/smooth_step.cpp") << Block("cpp", 2);
