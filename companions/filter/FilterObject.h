@@ -1,6 +1,8 @@
 // The object behind the table of zxadlg/Filter.h: the filters of one record.
 #pragma once
 
+#include <cstddef>
+
 #include "Settings.h"
 #include "zxadlg/Filter.h"
 
@@ -16,6 +18,8 @@ class FilterObject final : public ZXADLG_CFilter {
     int32_t GetErrorText(char* text, uint32_t size) override;
 
   private:
+    const char* WhyNotFilter(const double* values, std::size_t nPoints) const;
+
     Settings m_Settings;
     const char* m_szError = "";
 };

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Gaussian.h"
+#include "RcFilters.h"
+
 namespace filter {
 
 namespace {
@@ -10,7 +13,6 @@ namespace {
 constexpr double kMostPoints = 2147483647.0;
 constexpr double kLeastFraction = 1e-6;
 constexpr double kNyquist = 0.5;
-constexpr double kPi = 3.14159265358979323846;
 // Settling times in units of 1/cutoff.
 constexpr double kBesselSettling = 1.1377116;
 constexpr double kButterworthSettling = 5.0931764;
@@ -26,12 +28,9 @@ double CeilingOf(double d) {
     return std::ceil(d * (1.0 - 1e-7));
 }
 
-// Points until a pole at 1 - d has fallen to a thousandth.
+// Points until the pole of an RC filter has fallen to a thousandth.
 double RcDecay(double dFraction) {
-    const double dSine = std::sin(kPi * dFraction);
-    const double q = 2.0 * dSine * dSine;
-    const double d = 2.0 * q / (std::sqrt(q * (q + 2.0)) + q);
-    return CeilingOf(std::log(kSettled) / std::log1p(-d));
+    return CeilingOf(std::log(kSettled) / std::log1p(-RcStep(dFraction)));
 }
 
 double LowpassPoints(Family family, double f) {
@@ -54,11 +53,6 @@ double LowpassPoints(Family family, double f) {
 }
 
 }  // namespace
-
-std::uint32_t GaussianHalfLength(double dFraction) {
-    const double dSigma = 0.1325051817635 / dFraction;  // points
-    return std::max<std::uint32_t>(2, static_cast<std::uint32_t>(4.0 * dSigma));
-}
 
 std::uint32_t MinimumPoints(const Section& section, double dSamplingFrequency) {
     double dPoints = 1.0;

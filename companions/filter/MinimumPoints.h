@@ -15,8 +15,4 @@ std::uint32_t MinimumPoints(const Section& section, double dSamplingFrequency);
 // The largest of all sections, at least 1.
 std::uint32_t MinimumPoints(const Settings& settings);
 
-// Taps of a Gaussian of that cutoff, a fraction of the sampling frequency: 4 standard deviations to
-// each side, at least 2 points.
-std::uint32_t GaussianHalfLength(double dFraction);
-
 }  // namespace filter

@@ -41,8 +41,8 @@ class ZXADLG_CFilter {
     // one uninterrupted trace: lowpass, highpass and notch in ascending uApplyOrder, in this order
     // where that is equal, and interference last. Nonzero on success. 0, and the values untouched,
     // where place 8 has a text: a null pointer, fewer points than place 6 asks for, a value that is
-    // not finite, a record that describes no filter, no memory. A record with no section selected
-    // changes nothing and succeeds.
+    // not finite or beyond 1e100, a record that describes no filter, no memory. A record with no
+    // section selected changes nothing and succeeds.
     virtual int32_t FilterArray(double* values, uint32_t nPoints) = 0;
     // Place 8: why the last FilterArray failed, 8-bit, cut to `size` with its zero; empty when it
     // did not. 0 without a buffer.
