@@ -12,6 +12,8 @@ class FilterDialogTest : public SigprocDialogTest<CFilterDialog, FilterOptions> 
         return std::make_unique<CFilterDialog>(nullptr, &options, &data, &source, &params, library);
     }
 
+    // There is none of this name, so that no number of points is too small.
+    static constexpr const char* kNoLibrary = "FILTER_MISSING.dll";
     const char* library = "FILTER.dll";
 };
 

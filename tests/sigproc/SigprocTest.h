@@ -59,6 +59,11 @@ class SigprocDialogTest : public testing::Test {
         source.Points(uPoints);
         source.regions[0].last = uPoints - 1;
     }
+    // The same points as columns of a sheet, which tells no frequency.
+    void MakeSheet() {
+        source.Kind(2);
+        data.bUseFullDataRange = 1;
+    }
     virtual std::unique_ptr<Dialog> Make() {
         return std::make_unique<Dialog>(nullptr, &options, &data, &source, &params);
     }
