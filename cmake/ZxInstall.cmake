@@ -10,6 +10,7 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/ DESTINATION include COMPONENT ZxA
 install(FILES ${CMAKE_SOURCE_DIR}/docs/hosting.md ${CMAKE_SOURCE_DIR}/docs/automation.md
         DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/fit-functions.md ${CMAKE_SOURCE_DIR}/docs/seeds.md
+              ${CMAKE_SOURCE_DIR}/docs/filters.md
         DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures/equations
         DESTINATION share/doc/zxanalysisdialogs/pictures COMPONENT ZxAnalysisDialogs)
@@ -18,6 +19,10 @@ install(TARGETS CURVEFIT
         RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
         LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs
         ARCHIVE DESTINATION lib COMPONENT ZxAnalysisDialogs)
+# The functions of this one are asked for by number while a program runs: no import library.
+install(TARGETS FILTER
+        RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
+        LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs)
 install(TARGETS ZXANALYSISDIALOGS
         RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
         LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs

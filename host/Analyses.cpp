@@ -60,6 +60,27 @@ constexpr FitOptions kDefaults<FitOptions> = {.dLMPrecision = 1e-6,
                                               .dSubstZeroLinearFactor = 10.0,
                                               .bWriteFittedData = 1};
 template <>
+constexpr ZXADLG_SignalProcessingOptions kDefaults<ZXADLG_SignalProcessingOptions> = {
+    .lowpass = {.m_bIsSelected = 1,
+                .m_eFilterFamily = 2,
+                .m_uNumAveragePoints = 7,
+                .m_dCornerFreq = 1000.0},
+    .highpass = {.m_eFilterFamily = 7, .m_dCornerFreq = 10.0},
+    .notch = {.m_dCornerFreq = 50.0, .m_d3dbWidth = 10.0},
+    .adaptive = {.m_eReferenceGeneration = 2,
+                 .m_uHarmonicNumberStart = 1,
+                 .m_uHarmonicNumberEnd = 10,
+                 .m_uAveragingCycles = 20,
+                 .m_bEndEffectCompensation = 1},
+    .eWindowType = 6,
+    .dPoissonAlpha = 2.0,
+    .dKaiserAlpha = 2.0,
+    .uNumBinsToExclude = 1,
+    .bAverageSegments = 1};
+template <>
+constexpr ZXADLG_CorrelationOptions kDefaults<ZXADLG_CorrelationOptions> = {
+    .dSamplingFrequency = 10000.0, .uNumberOfLags = 100};
+template <>
 constexpr ZXADLG_SubtractControlOptions kDefaults<ZXADLG_SubtractControlOptions> = {.dMultiplier =
                                                                                         1.0};
 
@@ -95,6 +116,11 @@ const Analysis kRows[] = {
     ZX_ROW("leak-subtraction", "Leak Subtraction", ZXADLG_LeakSubtractionOptions, Usual,
            ZXADLG_ShowLeakSubtractionDialog),
     ZX_ROW("curve-fit", "Curve Fitting", FitOptions, Usual, ZXADLG_ShowCurveFitDialog),
+    ZX_ROW("filter", "Filter", ZXADLG_SignalProcessingOptions, Usual, ZXADLG_ShowFilterDialog),
+    ZX_ROW("power-spectrum", "Power Spectrum", ZXADLG_SignalProcessingOptions, Usual,
+           ZXADLG_ShowPowerSpectrumDialog),
+    ZX_ROW("correlation", "Correlation", ZXADLG_CorrelationOptions, Usual,
+           ZXADLG_ShowCorrelationDialog),
     ZX_ROW("resistance", "Resistance", ZXADLG_ResistanceOptions, Usual,
            ZXADLG_ShowResistanceDialog),
     ZX_ROW("sampling-rate", "Data Reduction/Interpolation", ZXADLG_ModifySampleRateOptions,

@@ -16,6 +16,7 @@
 #include <stdint.h>
 
 #include "zxadlg/AdjustBaselineOptions.h"
+#include "zxadlg/CorrelationOptions.h"
 #include "zxadlg/CurrentVoltageOptions.h"
 #include "zxadlg/DataOptions.h"
 #include "zxadlg/DlgParams.h"
@@ -25,6 +26,7 @@
 #include "zxadlg/ModifySampleRateOptions.h"
 #include "zxadlg/NormalizeOptions.h"
 #include "zxadlg/ResistanceOptions.h"
+#include "zxadlg/SignalProcessingOptions.h"
 #include "zxadlg/SubtractControlOptions.h"
 #include "zxadlg/TimeShiftOptions.h"
 #include "zxadlg/TraceVsTraceOptions.h"
@@ -282,6 +284,31 @@ int32_t ZXADLG_CALL ZXADLG_ShowCurveFitDialog(HWND__* parent, FitOptions* option
                                               ZXADLG_DataOptions* data,
                                               ZXADLG_CDlgDataSource* source,
                                               const ZXADLG_DlgParams* params);
+
+// Filter: one of five arrangements (bandpass, highpass, lowpass, electrical interference, notch).
+// Data files give the sample interval, which OK hands back in the record; other data need it there.
+// Cutoffs, widths and the interval come back with single precision, and uApplyOrder tells how many
+// sections are applied one after another. The library FILTER beside the module is asked for the
+// smallest number of points; without it that check is left out.
+int32_t ZXADLG_CALL ZXADLG_ShowFilterDialog(HWND__* parent, FilterOptions* options,
+                                            ZXADLG_DataOptions* data,
+                                            ZXADLG_CDlgDataSource* source,
+                                            const ZXADLG_DlgParams* params);
+
+// Power Spectrum: the spectral window, the length of the transforms, their overlap, and what is
+// averaged. uTransformLength comes back as the length in use, also where the user takes the longest
+// one that the data allow, and bAverageTraces as what is in effect.
+int32_t ZXADLG_CALL ZXADLG_ShowPowerSpectrumDialog(HWND__* parent, SpectrumOptions* options,
+                                                   ZXADLG_DataOptions* data,
+                                                   ZXADLG_CDlgDataSource* source,
+                                                   const ZXADLG_DlgParams* params);
+
+// Correlation: of one selection of data with itself, or of two with each other, over a number of
+// lags. dSamplingFrequency is the user's and is in effect where the data tell none.
+int32_t ZXADLG_CALL ZXADLG_ShowCorrelationDialog(HWND__* parent, ZXADLG_CorrelationOptions* options,
+                                                 ZXADLG_DataOptions* data,
+                                                 ZXADLG_CDlgDataSource* source,
+                                                 const ZXADLG_DlgParams* params);
 
 // The fields of a record by the name of its type ("ZXADLG_NormalizeOptions"), in the order of the
 // record. Stores a pointer to the first and returns their number; 0, and a null pointer, for a name

@@ -57,7 +57,7 @@ struct ZXADLG_SignalProcessingOptions {
     ZXADLG_FilterSection highpass;
     ZXADLG_FilterSection notch;
     ZXADLG_AdaptiveFilterSection adaptive;
-    int32_t eWindowType;  // 0 to 12, the spectral window
+    int32_t eWindowType;  // 0 to 9, the spectral window
     double dPoissonAlpha;
     double dKaiserAlpha;
     uint8_t reserved1[16];

@@ -31,6 +31,8 @@ class CDataTabBase : public CEditPage<ADM_TabSubDialog> {
     // The number of selected sets, or 2 where the sets are columns of a sheet.
     int GetSelectedCountSafe() { return m_bSetsSelectable ? GetListSelCount() : 2; }
     int GetComboSelection() { return m_cmbGroup.GetCurSel(); }
+    // Finds fault with a selection of no data.
+    virtual CheckResult CheckSelected() { return {}; }
 
   protected:
     static constexpr int kListTextSize = 1000;

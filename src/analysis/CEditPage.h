@@ -118,6 +118,16 @@ class CEditPage : public Base {
         return BindTo(control, get, set);
     }
 
+    // Binds a field whose value counts as it is typed, out of its range as well: its dialog has a
+    // message of its own about the range.
+    template <class Control, class Get, class Set>
+    Row& BindTyped(int nId, Control& control, Get get, Set set) {
+        this->RegisterControl(nId, &control);
+        return m_rows.Add(
+            &control, EditedCode(control), [&control, get] { ShowValue(control, get()); },
+            [&control, set] { set(control.GetTypedValue()); });
+    }
+
     // A spinner beside the field that decides on the value.
     template <class GaugeField>
     void Spinner(int nId, ADM_GaugeControl& spinner, GaugeField& field) {

@@ -18,12 +18,21 @@ class COptionsTabBase : public CEditPage<ADM_TabSubDialog> {
 
     void UpdateControls() override;
     BOOL CanLeavePage() override { return TRUE; }
+    BOOL OnPageShow() override;
+    // Runs what FollowData was given. The checks of its dialog call it first.
+    void TakeData();
 
   protected:
+    // For a tab whose texts and limits follow the selected data. `take` runs each time that this
+    // tab comes up, the first time when the dialog has set up all of its tabs, and when the
+    // selection, the region or the data tab's state changed. Then the rules run.
+    void FollowData(CDataOptionsInterface* pData, Step take);
+
     const ZXADLG_DlgParams* m_pParams;
 
   private:
     ResultControls m_results;
+    Step m_takeData;
 };
 
 // An options tab over the record of one analysis.

@@ -77,6 +77,15 @@ void CParentDialogBase::AddUnitaryDataTab() {
         std::make_unique<CUnitaryDataTab>(m_pDataOptions.get(), IDD_UNITARY_DATA, IsReadOnly()));
 }
 
+void CParentDialogBase::AddSelectionCheck() {
+    AddCheck([this](const TypedValues&) -> CheckResult {
+        if (m_pDataTab == nullptr) return {};
+        CheckResult result = m_pDataTab->CheckSelected();
+        if (result.has_value()) result->nPage = GetPageCount() - 1;
+        return result;
+    });
+}
+
 bool CParentDialogBase::SetUp() {
     if (IsReadOnly()) DressReadOnly(m_hWnd);
     if (m_bInitFailed) {

@@ -66,6 +66,8 @@ class CParentDialogBase : public CCheckedDialog<ADM_TabbedDialog> {
     bool SetUp() override;
     TypedValues GetTyped() const override;
     const ADM_Dialog& BringUp(int nPage) override;
+    // Adds the check that some data are selected, where there is a data tab.
+    void AddSelectionCheck();
     // Checks the data.
     void Undo() override;
     // What the dialog writes when everything has passed, before it ends.

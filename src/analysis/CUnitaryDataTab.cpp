@@ -291,10 +291,14 @@ CheckResult CUnitaryDataTab::CheckTypedSets() {
     return CheckSetsExist(ParseEdit(), GetActiveList().GetCount(), szNoun, IDC_SET_LIST_TEXT);
 }
 
-BOOL CUnitaryDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
+CheckResult CUnitaryDataTab::CheckSelected() {
     const int nWhere =
         GetSetMode() == Model::kTypedSets ? IDC_SET_LIST_TEXT : GetActiveList().GetControlId();
-    return Passes(CheckAnySetSelected(GetListSelCount(), nWhere), bSilent, ppFailed) &&
+    return CheckAnySetSelected(GetListSelCount(), nWhere);
+}
+
+BOOL CUnitaryDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
+    return Passes(CheckSelected(), bSilent, ppFailed) &&
            Passes(CheckTypedSets(), bSilent, ppFailed) && CDataTabBase::Validate(bSilent, ppFailed);
 }
 

@@ -15,6 +15,7 @@ class CUnitaryDataTab : public CDataTabBase {
     BOOL OnPageShow() override;
     void ReadControls() override;
     // At least one set must be selected.
+    CheckResult CheckSelected() override;
     BOOL Validate(BOOL bSilent, ADM_Wnd** ppFailed) override;
 
     // Shows the stored selection; the combo boxes are filled only with bFill.

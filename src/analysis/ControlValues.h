@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
+#include <utility>
 
 #include "analysis/SelectionControls.h"
 #include "framework/ADM_Button.h"
@@ -60,6 +62,16 @@ requires requires(Control& txt, typename Control::Value value) {
 }
 auto ReadValue(Control& txt) {
     return txt.GetValue();
+}
+
+// A count of a record in a field of whole numbers, and the reverse: one too large for the field
+// shows as its largest, one below 0 counts as 0.
+inline std::int32_t ShownCount(std::uint32_t uCount) {
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    return std::cmp_less(uCount, kMost) ? static_cast<std::int32_t>(uCount) : kMost;
+}
+inline std::uint32_t TypedCount(std::int32_t nCount) {
+    return nCount > 0 ? static_cast<std::uint32_t>(nCount) : 0;
 }
 
 // Boxes that pick what the host offers; each shows its first entry for what is not offered.

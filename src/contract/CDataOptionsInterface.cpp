@@ -1,7 +1,9 @@
 #include "contract/CDataOptionsInterface.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
+#include <type_traits>
 
 #include "ZXADLG.h"
 #include "contract/SelectionList.h"
@@ -242,6 +244,58 @@ std::uint32_t CDataOptionsInterface::GetFewestPoints(const std::int32_t* pnSets,
 std::uint32_t CDataOptionsInterface::GetSelectedPointCount() const {
     if (!IsSheetData() || m_pRecord->bUseFullDataRange != 0) return GetPointCount();
     return m_pRecord->uLastDataIndex - m_pRecord->uFirstDataIndex + 1;
+}
+
+namespace {
+
+constexpr int kRegionsInBlock = std::extent_v<decltype(ZXADLG_DataOptions::aRegionPoints)>;
+
+}  // namespace
+
+std::uint32_t CDataOptionsInterface::GetAnalysisPointCount() const {
+    if (m_bDeferred && m_nRegionId >= 1 && m_nRegionId <= kRegionsInBlock) {
+        const auto& region = m_pRecord->aRegionPoints[m_nRegionId - 1];
+        if (region.uLastPoint > region.uFirstPoint)
+            return region.uLastPoint - region.uFirstPoint + 1;
+    }
+    return GetSelectedPointCount();
+}
+
+double CDataOptionsInterface::GetSamplingFrequency() const {
+    const auto known = [](double d) { return d > 0.0 && std::isfinite(d) ? d : 0.0; };
+    const double dStored = m_bDeferred ? known(m_pRecord->dSamplingFrequency) : 0.0;
+    if (dStored > 0.0) return dStored;
+    return IsFileData() ? known(m_pSource->GetSamplingFrequency()) : 0.0;
+}
+
+bool CDataOptionsInterface::IsSegmented() const {
+    return (m_bDeferred && m_pRecord->bSegmented != 0) || m_pSource->IsSegmented();
+}
+
+std::uint32_t CDataOptionsInterface::GetSelectedSetCount() const {
+    const std::uint32_t uSets = GetSetCountInGroup();
+    std::uint32_t uCount = 0;
+    switch (m_pRecord->eDataSet1SelectionMode) {
+        case kVisibleSets:
+            for (std::uint32_t s = 0; s < uSets; ++s) {
+                if (m_pSource->IsSetVisible(GetGroup(), s)) ++uCount;
+            }
+            break;
+        case kAllSets:
+            uCount = uSets;
+            break;
+        case kActiveSet:
+            break;
+        default:
+            uCount = static_cast<std::uint32_t>(
+                ParseSelection(m_pRecord->szUnitarySelectionList1, 0).size());
+            break;
+    }
+    return std::max(uCount, 1u);
+}
+
+std::uint32_t CDataOptionsInterface::GetWholePointCount() const {
+    return m_pSource->GetPointCount(GetGroup(), GetYSet(), nullptr, 0);
 }
 
 const double* CDataOptionsInterface::Fetch(bool bY, std::vector<double>& vdValues) {

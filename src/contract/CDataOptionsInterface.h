@@ -118,6 +118,16 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     // The smallest count over n sets of the current group; 0 for none.
     std::uint32_t GetFewestPoints(const std::int32_t* pnSets, int nSets) const;
     std::uint32_t GetSelectedPointCount() const;
+    // What the limits of an analysis follow: the points to be analysed, the sampling frequency in
+    // Hz (0: not known) and whether the data are segmented. A deferred run takes them from the
+    // block, and from the source what the block does not tell.
+    std::uint32_t GetAnalysisPointCount() const;
+    double GetSamplingFrequency() const;
+    bool IsSegmented() const;
+    // Sets that are selected in a group, by the mode of the first selection; at least 1.
+    std::uint32_t GetSelectedSetCount() const;
+    // Points of the whole current set, whatever region is selected.
+    std::uint32_t GetWholePointCount() const;
     // Private copies, valid until the next fetch of the same kind.
     const double* GetXValues();
     const double* GetYValues();

@@ -7,7 +7,9 @@
 // question, which has answers, is asked first, and the page comes up where the answer stays.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string>
@@ -53,6 +55,13 @@ struct Finding {
 };
 
 using CheckResult = std::optional<Finding>;
+
+// What most checks find: a message with the stop icon, or a question with Yes and No. The numbers
+// stand for the "%d" of the string, in order.
+Finding Refusal(UINT nStringId, int nPage, int nControl = 0,
+                std::initializer_list<std::int64_t> numbers = {});
+Finding Question(UINT nStringId, int nPage, int nControl,
+                 std::initializer_list<std::int64_t> numbers, std::vector<Finding::Answer> vAnswers);
 
 // The texts of a dialog's fields as they stand on the screen, by control id.
 using TypedValues = std::map<int, std::string>;

@@ -4,6 +4,9 @@
 #include "entry/ShowSequence.h"
 #include "fit/CurveFittingDialog.h"
 #include "platform/platform.h"
+#include "sigproc/CorrelationDialog.h"
+#include "sigproc/FilterDialog.h"
+#include "sigproc/SpectrumDialog.h"
 #include "traceops/AdjustBaselineDialog.h"
 #include "traceops/ForceValuesDialog.h"
 #include "traceops/LeakSubtractionDialog.h"
@@ -30,11 +33,16 @@ void PrepareCurveFit(FitOptions*, ZXADLG_DataOptions* pData, const ZXADLG_DlgPar
 constexpr ShowRow<FitOptions> kCurveFit = {"CurveFit",           DataRecord::kCopied,
                                            kDataOptionsNormal,   &LoadCurveFitOptions,
                                            &SaveCurveFitOptions, &PrepareCurveFit};
+constexpr auto kCorrelation =
+    TabbedRow("Correlation", &LoadCorrelationOptions, &SaveCorrelationOptions);
+constexpr auto kFilter = TabbedRow("Filter", &LoadFilterOptions, &SaveFilterOptions);
 constexpr auto kForceValues =
     TabbedRow("ForceValues", &LoadForceValuesOptions, &SaveForceValuesOptions);
 constexpr auto kLeakSubtraction =
     TabbedRow("LeakSubtraction", &LoadLeakSubtractionOptions, &SaveLeakSubtractionOptions);
 constexpr auto kNormalize = TabbedRow("Normalize", &LoadNormalizeOptions, &SaveNormalizeOptions);
+constexpr auto kPowerSpectrum =
+    TabbedRow("Spectrum", &LoadPowerSpectrumOptions, &SavePowerSpectrumOptions);
 constexpr auto kResistance =
     TabbedRow("Resistance", &LoadResistanceOptions, &SaveResistanceOptions);
 constexpr auto kTimeShift = TabbedRow("TimeShift", &LoadTimeShiftOptions, &SaveTimeShiftOptions);
@@ -59,11 +67,26 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowAdjustBaselineDialog(
                                              params);
 }
 
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowCorrelationDialog(HWND parent,
+                                                            ZXADLG_CorrelationOptions* options,
+                                                            ZXADLG_DataOptions* data,
+                                                            ZXADLG_CDlgDataSource* source,
+                                                            const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CCorrelationDialog>(kCorrelation, parent, options, data, source, params);
+}
+
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowCurveFitDialog(HWND parent, FitOptions* options,
                                                          ZXADLG_DataOptions* data,
                                                          ZXADLG_CDlgDataSource* source,
                                                          const ZXADLG_DlgParams* params) {
     return ShowTabbed<CFitDialog>(kCurveFit, parent, options, data, source, params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowFilterDialog(HWND parent, FilterOptions* options,
+                                                       ZXADLG_DataOptions* data,
+                                                       ZXADLG_CDlgDataSource* source,
+                                                       const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CFilterDialog>(kFilter, parent, options, data, source, params);
 }
 
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowForceValuesDialog(HWND parent,
@@ -87,6 +110,13 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowNormalizeDialog(HWND parent,
                                                           ZXADLG_CDlgDataSource* source,
                                                           const ZXADLG_DlgParams* params) {
     return ShowTabbed<CNormalizeDialog>(kNormalize, parent, options, data, source, params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowPowerSpectrumDialog(HWND parent, SpectrumOptions* options,
+                                                              ZXADLG_DataOptions* data,
+                                                              ZXADLG_CDlgDataSource* source,
+                                                              const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CSpectrumDialog>(kPowerSpectrum, parent, options, data, source, params);
 }
 
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowResistanceDialog(HWND parent,

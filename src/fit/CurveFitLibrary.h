@@ -2,9 +2,7 @@
 // is the one place that knows how an object of the library is made and ended.
 #pragma once
 
-#include <string>
-
-#include "platform/platform.h"
+#include "analysis/CompanionLibrary.h"
 #include "zxadlg/CurveFit.h"
 
 // An object of the library for one use. Empty where the library is missing, lacks its export, or
@@ -29,21 +27,14 @@ class CurveFitLibrary {
   public:
     // `szFile` is looked for in the folder of the module `hModule`.
     explicit CurveFitLibrary(HINSTANCE hModule, const char* szFile = "CURVEFIT.dll");
-    ~CurveFitLibrary();
-    CurveFitLibrary(const CurveFitLibrary&) = delete;
-    CurveFitLibrary& operator=(const CurveFitLibrary&) = delete;
 
     // An object for a finalised record.
     CurveFitUse Use(const FitOptions& options);
     // Whether the file has been found and loaded.
-    bool IsLoaded() const { return m_hLibrary != nullptr; }
+    bool IsLoaded() const { return m_library.IsLoaded(); }
 
   private:
-    void Load();
-
-    HINSTANCE m_hModule;
-    std::string m_strFile;
+    CompanionLibrary m_library;
     bool m_bTried = false;
-    HMODULE m_hLibrary = nullptr;
     ZXADLG_CreateCurveFit m_pCreate = nullptr;
 };

@@ -17,10 +17,6 @@ namespace {
 // The largest size of normalized data, but for rounding.
 constexpr double kOne = 1.00001;
 
-Finding Refusal(UINT nStringId, FitPage ePage, int nControl = 0) {
-    return Finding{.nStringId = nStringId, .nPage = ePage, .nControl = nControl};
-}
-
 // What the source gave of the selected points: fewer than the selection names where it is of other
 // data.
 struct Points {

@@ -1,18 +1,34 @@
 #include "framework/ADM_BitmapPictureWnd.h"
 
-void ADM_BitmapPictureWnd::SetBitmap(HINSTANCE hInstance, int nId) {
+void ADM_BitmapPictureWnd::SetBitmap(HINSTANCE hInstance, int nId, int nLargerId) {
+    if (hInstance == m_hInstance && nId == m_nBitmapId && nLargerId == m_nLargerId) return;
     m_hInstance = hInstance;
     m_nBitmapId = nId;
+    m_nLargerId = nLargerId;
     Invalidate(TRUE);
+}
+
+// The larger form if there is one and it fits; else the usual one, or null.
+HBITMAP ADM_BitmapPictureWnd::LoadFitting(BITMAP* pBitmap) const {
+    for (const int nId : {m_nLargerId, m_nBitmapId}) {
+        const HBITMAP hBitmap =
+            nId == 0 ? nullptr : LoadBitmapA(m_hInstance, MAKEINTRESOURCEA(nId));
+        if (hBitmap == nullptr) continue;
+        GetObjectA(hBitmap, sizeof *pBitmap, pBitmap);
+        if (nId == m_nBitmapId || (pBitmap->bmWidth <= m_rcClient.right - m_rcClient.left &&
+                                   pBitmap->bmHeight <= m_rcClient.bottom - m_rcClient.top)) {
+            return hBitmap;
+        }
+        DeleteObject(hBitmap);
+    }
+    return nullptr;
 }
 
 void ADM_BitmapPictureWnd::Draw(HDC hDC) {
     ADM_PictureWnd::Draw(hDC);
-    if (m_nBitmapId == 0) return;
-    const HBITMAP hBitmap = LoadBitmapA(m_hInstance, MAKEINTRESOURCEA(m_nBitmapId));
-    if (hBitmap == nullptr) return;
     BITMAP bitmap = {};
-    GetObjectA(hBitmap, sizeof bitmap, &bitmap);
+    const HBITMAP hBitmap = LoadFitting(&bitmap);
+    if (hBitmap == nullptr) return;
     RECT rc;
     rc.left = m_rcClient.left + (m_rcClient.right - m_rcClient.left - bitmap.bmWidth) / 2;
     rc.top = m_rcClient.top + (m_rcClient.bottom - m_rcClient.top - bitmap.bmHeight) / 2;

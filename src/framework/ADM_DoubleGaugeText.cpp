@@ -9,6 +9,16 @@
 
 void ADM_DoubleGaugeText::SetRange(double dMin, double dMax, double dStep) {
     m_validator.SetRange(dMin, dMax);
+    ScaleGauge(dMin, dMax, dStep);
+}
+
+void ADM_DoubleGaugeText::SetLimits(double dMin, double dMax, double dStep) {
+    ReadControl();
+    m_validator.SetLimits(dMin, dMax);
+    ScaleGauge(dMin, dMax, dStep);
+}
+
+void ADM_DoubleGaugeText::ScaleGauge(double dMin, double dMax, double dStep) {
     m_dRequestedStep = dStep;
     int nPositions = 0;
     m_dGaugeStep = 0;

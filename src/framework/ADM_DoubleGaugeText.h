@@ -9,6 +9,8 @@ class ADM_DoubleGaugeText : public GaugeText<ADM_DoubleGaugeText, ADM_DoubleText
     // The range, and the gauge's scale over it in steps of at least dStep. A range of no width
     // leaves the gauge nowhere to go and disables the field. Set the gauge first.
     void SetRange(double dMin, double dMax, double dStep);
+    // The same, but a value outside stays as it is shown.
+    void SetLimits(double dMin, double dMax, double dStep);
     double GetRequestedStep() const { return m_dRequestedStep; }
 
   private:
@@ -21,6 +23,7 @@ class ADM_DoubleGaugeText : public GaugeText<ADM_DoubleGaugeText, ADM_DoubleText
     void StepBy(int nDelta);
     void ShowPosition();
     void SetFromPosition(int nPos);
+    void ScaleGauge(double dMin, double dMax, double dStep);
 
     double m_dGaugeStep = 1.0;
     double m_dGaugeOrigin = 0;

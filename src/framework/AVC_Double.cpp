@@ -42,6 +42,10 @@ void AVC_Double::SetRange(double dMin, double dMax) {
     Rules::SetRange(*this, dMin, dMax);
 }
 
+void AVC_Double::SetLimits(double dMin, double dMax) {
+    Rules::SetLimits(*this, dMin, dMax);
+}
+
 void AVC_Double::GetRange(double* pdMin, double* pdMax) const {
     if (pdMin != nullptr) *pdMin = m_dMin;
     if (pdMax != nullptr) *pdMax = m_dMax;

@@ -20,6 +20,8 @@ class AVC_Double : public AVC_Numeric {
 
     // Sets both limits and pulls the value into them.
     void SetRange(double dMin, double dMax);
+    // Sets both limits and leaves the value where it is.
+    void SetLimits(double dMin, double dMax);
     // Either pointer may be null.
     void GetRange(double* pdMin, double* pdMax) const;
     // Copies the allowable values. With no memory the list stays empty, and every value then fails.

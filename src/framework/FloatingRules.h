@@ -68,11 +68,15 @@ class FloatingRules {
         if (value != before && !std::isnan(before)) SetValue(v, value);
     }
 
-    static void SetRange(Validator& v, Value low, Value high) {
+    static void SetLimits(Validator& v, Value low, Value high) {
         v.*T::pMin = low;
         v.*T::pMax = high;
         v.m_bRangeSet = 1;
         v.m_bCheck = 1;
+    }
+
+    static void SetRange(Validator& v, Value low, Value high) {
+        SetLimits(v, low, high);
         ClampValue(v);
     }
 

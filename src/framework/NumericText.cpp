@@ -96,6 +96,12 @@ typename NumericText<Fields>::Value NumericText<Fields>::GetValue() {
 }
 
 template <class Fields>
+typename NumericText<Fields>::Value NumericText<Fields>::GetTypedValue() {
+    ReadControl();
+    return HeldValue();
+}
+
+template <class Fields>
 void FloatingText<Fields>::SetDecimalPlaces(int nPlaces) {
     this->ReadControl();
     if (nPlaces == -1) {

@@ -80,6 +80,9 @@ class NumericText : public ADM_Text, protected Fields {
     // The value in the window, or the one held when there is none. The floating classes pull it
     // into their range; the integer class does not.
     Value GetValue();
+    // The value that the window shows, in whatever range; the last one that could be read where the
+    // text is no number. For a field whose dialog has a message of its own about its range.
+    Value GetTypedValue();
 
   protected:
     // Shows the validator's text, if it has any.

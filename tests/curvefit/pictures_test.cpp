@@ -34,17 +34,61 @@ std::string PictureOf(const std::string& sName) {
     return {pBytes, SizeofResource(hModule, hResource)};
 }
 
-TEST(Pictures, AreTheFortyTwoOfTheTable) {
-    const std::set<std::string> expected = {
-        "EQ_BETA",    "EQ_BINOM",   "EQ_QVBOLT",   "EQ_FBOLTS",  "EQ_FBOLTM",    "EQ_SBOLT",
-        "EQ_ZDBOLT1", "EQ_ZDBOLT2", "EQ_CURTIM",   "EQ_ALPHA",   "EQ_CUMUL",     "EQ_LOGEXP",
-        "EQ_POWEXP",  "EQ_MPOWEXP", "EQ_PDCEXP",   "EQ_EXPPROD", "EQ_PDCEXPNOC", "EQ_SLPEXP",
-        "EQ_STDEXP",  "EQ_FTEXPN",  "EQ_FTEXPC",   "EQ_GAUSS",   "EQ_GHK",       "EQ_EXTGHK",
-        "EQ_HILL",    "EQ_HILLENZ", "EQ_LANGHILL", "EQ_LINBUR",  "EQ_LOGISTIC",  "EQ_LOREND",
-        "EQ_LORENF",  "EQ_LORENT",  "EQ_MICMEN",   "EQ_NERNST",  "EQ_PARABN",    "EQ_PARABC",
-        "EQ_POISS",   "EQ_POLYA",   "EQ_LIN",      "EQ_LINZI",   "EQ_TAUFUN",    "EQ_NOFUN"};
+TEST(Pictures, AreTheFiftyTwoOfTheTable) {
+    const std::set<std::string> expected = {"EQ_BETA",
+                                            "EQ_BINOM",
+                                            "EQ_QVBOLT",
+                                            "EQ_FBOLTS",
+                                            "EQ_FBOLTM",
+                                            "EQ_SBOLT",
+                                            "EQ_ZDBOLT1",
+                                            "EQ_ZDBOLT2",
+                                            "EQ_CURTIM",
+                                            "EQ_ALPHA",
+                                            "EQ_CUMUL",
+                                            "EQ_LOGEXP",
+                                            "EQ_POWEXP",
+                                            "EQ_MPOWEXP",
+                                            "EQ_PDCEXP",
+                                            "EQ_EXPPROD",
+                                            "EQ_PDCEXPNOC",
+                                            "EQ_SLPEXP",
+                                            "EQ_STDEXP",
+                                            "EQ_FTEXPN",
+                                            "EQ_FTEXPC",
+                                            "EQ_GAUSS",
+                                            "EQ_GHK",
+                                            "EQ_EXTGHK",
+                                            "EQ_HILL",
+                                            "EQ_HILLENZ",
+                                            "EQ_LANGHILL",
+                                            "EQ_LINBUR",
+                                            "EQ_LOGISTIC",
+                                            "EQ_LOREND",
+                                            "EQ_LORENF",
+                                            "EQ_LORENT",
+                                            "EQ_MICMEN",
+                                            "EQ_NERNST",
+                                            "EQ_PARABN",
+                                            "EQ_PARABC",
+                                            "EQ_POISS",
+                                            "EQ_POLYA",
+                                            "EQ_LIN",
+                                            "EQ_LINZI",
+                                            "EQ_TAUFUN",
+                                            "EQ_NOFUN",
+                                            "EQ_RECTANGULAR_WINDOW",
+                                            "EQ_BARTLETT_WINDOW",
+                                            "EQ_BLACKMAN_WINDOW",
+                                            "EQ_BLACKMANHARRIS3_WINDOW",
+                                            "EQ_BLACKMANHARRIS4_WINDOW",
+                                            "EQ_COSINE_WINDOW",
+                                            "EQ_HAMMING_WINDOW",
+                                            "EQ_KAISER_WINDOW",
+                                            "EQ_POISSON_WINDOW",
+                                            "EQ_VONHANN_WINDOW"};
     const std::vector<std::string> names = NamesInTable();
-    EXPECT_EQ(names.size(), 42u);
+    EXPECT_EQ(names.size(), 52u);
     EXPECT_EQ(std::set<std::string>(names.begin(), names.end()), expected);
     for (const std::string& sName : names) EXPECT_NE(PictureOf(sName), "") << sName;
 }

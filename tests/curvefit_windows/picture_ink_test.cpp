@@ -84,7 +84,7 @@ TEST(PictureInk, IsInTheMiddleOfThePaneAtEverySize) {
     const HMODULE hModule = GetModuleHandleA(nullptr);
     std::vector<std::string> names;
     EnumResourceNamesA(hModule, "METAFILE", Collect, reinterpret_cast<LONG_PTR>(&names));
-    ASSERT_EQ(names.size(), 42u);
+    ASSERT_EQ(names.size(), 52u);
     const char* szFolder = std::getenv("ZX_PICTURES");
     for (const std::string& sName : names) {
         for (const int nPercent : {100, 150}) {

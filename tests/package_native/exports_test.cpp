@@ -1,4 +1,4 @@
-// What the three shared objects give away: their contract and nothing of their insides.
+// What the shared objects give away: their contract and nothing of their insides.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -50,6 +50,10 @@ TEST(Exports, OfTheModuleAreTheShowFunctions) {
 TEST(Exports, OfTheCurveFitLibraryIsOne) {
     // With its version, the part of the name behind the at sign.
     EXPECT_EQ(Exported("CURVEFIT"), (std::set<std::string>{"_CFIT_CreateCurveFit", "4"}));
+}
+
+TEST(Exports, OfTheFilterLibraryAreItsNumbers) {
+    EXPECT_EQ(Exported("FILTER"), (std::set<std::string>{"Ordinal1000", "Ordinal1001"}));
 }
 
 TEST(Exports, OfTheWindowSystemAreWhatItsHeadersDeclare) {

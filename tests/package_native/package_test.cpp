@@ -36,9 +36,11 @@ TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
         return std::system((command + " >" + log + " 2>&1").c_str());
     };
     std::filesystem::create_directories(root + "/src");
-    std::ofstream(root + "/src/CMakeLists.txt") << Block("cmake", 0) << Block("cmake", 1);
+    std::ofstream(root + "/src/CMakeLists.txt")
+        << Block("cmake", 0) << Block("cmake", 1) << Block("cmake", 2);
     std::ofstream(root + "/src/minimal_host.cpp") << Block("cpp", 0);
     std::ofstream(root + "/src/curve_seeds.cpp") << Block("cpp", 1);
+    std::ofstream(root + "/src/smooth_step.cpp") << Block("cpp", 2);
     ASSERT_EQ(run(ZX_CMAKE " --install " ZX_BINARY_DIR " --component ZxAnalysisDialogs --prefix " +
                   root + "/installed"),
               0)
@@ -46,7 +48,8 @@ TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
     for (const char* file :
          {"include/ZXADLG.h", "include/zxadlg/DataOptions.h", "include/zxadlg/headless.h",
           "include/zxadlg/headless/names.h", "lib/libZXANALYSISDIALOGS.so", "lib/libZXHEADLESS.so",
-          "include/zxadlg/CurveFit.h", "lib/libCURVEFIT.so",
+          "include/zxadlg/CurveFit.h", "lib/libCURVEFIT.so", "include/zxadlg/Filter.h",
+          "lib/libFILTER.so", "share/doc/zxanalysisdialogs/filters.md",
           "share/doc/zxanalysisdialogs/fit-functions.md", "share/doc/zxanalysisdialogs/seeds.md",
           "share/doc/zxanalysisdialogs/pictures/equations/eq_stdexp.svg",
           "share/doc/zxanalysisdialogs/hosting.md"})
@@ -60,6 +63,8 @@ TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
     EXPECT_EQ(Read(log), "Baseline region 0, peak region 0, in 3 of 3 sweeps.\n");
     ASSERT_EQ(run(root + "/build/curve_seeds"), 0) << Read(log);
     EXPECT_EQ(Read(log), "Exponential, standard: 80.0, 7.50 and -12.0\n");
+    ASSERT_EQ(run(root + "/build/smooth_step"), 0) << Read(log);
+    EXPECT_EQ(Read(log), "needs 11 points: 1.23, 6.51, 9.73\n");
     std::filesystem::remove_all(root);
 }
 

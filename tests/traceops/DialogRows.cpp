@@ -46,6 +46,26 @@ DialogRow FitRow() {
     return row;
 }
 
+// A record that has no length of its own gets one by the data.
+DialogRow SpectrumRow() {
+    DialogRow row = Row("Power Spectrum", &ZXADLG_ShowPowerSpectrumDialog);
+    row.prepare = [](std::vector<unsigned char>& options) {
+        reinterpret_cast<SpectrumOptions*>(options.data())->uTransformLength = 64;
+    };
+    return row;
+}
+
+// Data that tell no frequency need the record's.
+DialogRow CorrelationRow() {
+    DialogRow row = Row("Correlation", &ZXADLG_ShowCorrelationDialog);
+    row.prepare = [](std::vector<unsigned char>& options) {
+        auto* pOptions = reinterpret_cast<ZXADLG_CorrelationOptions*>(options.data());
+        pOptions->dSamplingFrequency = 500.0;
+        pOptions->uNumberOfLags = 20;
+    };
+    return row;
+}
+
 }  // namespace
 
 Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
@@ -75,6 +95,9 @@ const std::vector<DialogRow>& Rows() {
         Row("Adjust Baseline", &ZXADLG_ShowAdjustBaselineDialog),
         Row("Leak Subtraction", &ZXADLG_ShowLeakSubtractionDialog),
         Row("Resistance", &ZXADLG_ShowResistanceDialog),
+        Row("Filter", &ZXADLG_ShowFilterDialog),
+        SpectrumRow(),
+        CorrelationRow(),
         Row("Current/Voltage", &ZXADLG_ShowCurrentVoltageDialog, true),
         Row("Trace vs. Trace", &ZXADLG_ShowTraceVsTraceDialog, true),
         {"Data Reduction/Interpolation", sizeof(ZXADLG_ModifySampleRateOptions), false, false,

@@ -1,0 +1,59 @@
+// What the cutoffs, the smoothing points and the figures of a filter may be, by its family, the
+// sampling frequency and the number of points. Plain functions, no window.
+//
+// Frequencies are in Hz. A sampling frequency is known, which is to say above 0 and at most 1e300,
+// wherever a limit is asked for.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+// The values of m_eFilterFamily.
+enum FilterFamily : std::int32_t {
+    kBessel = 2,
+    kBoxcar = 3,
+    kButterworth = 4,
+    kChebyshev = 5,
+    kGaussian = 6,
+    kRC = 7,
+    kRC8 = 8,
+};
+
+// The values of m_eReferenceGeneration.
+enum HumReference : std::int32_t { k50Hz = 0, k60Hz = 1, kAutoReference = 2 };
+
+struct FilterLimits {
+    double dLow;
+    double dHigh;
+};
+
+// A rate as the limits take it: 0, which stands for an unknown one, unless it is above 0 and
+// finite.
+double KnownRate(double dRate);
+
+// Of the cutoff; of a boxcar the smoothing points.
+FilterLimits LowpassLimits(std::int32_t eFamily, double dRate, std::uint32_t uPoints);
+FilterLimits HighpassLimits(std::int32_t eFamily, double dRate);
+FilterLimits NotchCenterLimits(double dRate);
+FilterLimits NotchWidthLimits(double dRate);
+// By how much the arrows beside a cutoff move it.
+double CutoffStep(const FilterLimits& limits);
+
+// The smoothing lengths of a boxcar that fit twice into the points: odd, at most 49 of them. Where
+// fewer than three fit, three times 3.
+std::vector<std::int32_t> SmoothingLengths(std::uint32_t uPoints);
+
+// Coefficients of a Gaussian; 0 where corner or rate are not above 0.
+std::int64_t CoefficientCount(double dCorner, double dRate);
+
+// Samples in one period of the interference, at 50 Hz for an automatic reference.
+double SamplesPerPeriod(std::int32_t eReference, double dRate);
+// Bandwidth in Hz of what is removed; 0 for no cycles.
+double InterferenceBandwidth(std::int32_t eReference, std::uint32_t uCycles);
+
+// A frequency as its field shows it: with six significant digits.
+double ShownFrequency(double dFrequency);
+// Whether a frequency reads as one within the limits. False for one that is no number.
+bool IsShownWithin(double dFrequency, const FilterLimits& limits);
+// A frequency as the record keeps it, with single precision.
+double SingleFrequency(double dFrequency);
