@@ -107,6 +107,9 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     void SetForceToZero(bool b);
     bool GetForceToZero() const;
 
+    // The host's data.
+    ZXADLG_CDlgDataSource* GetSource() const { return m_pSource; }
+
     // --- Questions.
     std::uint32_t GetGroup() const;
     std::uint32_t GetSetCountInGroup() const;

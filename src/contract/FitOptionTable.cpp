@@ -1,5 +1,6 @@
 // The keys of curve fitting.
 
+#include "contract/FitGraphView.h"
 #include "contract/OptionPersistence.h"
 #include "contract/OptionTables.h"
 
@@ -84,3 +85,33 @@ constexpr OptionBlock kCurveFitBlocks[] = {
 }  // namespace
 
 const OptionSection kCurveFitSection = {"CurveFitSection", "FitOptions", kCurveFitBlocks};
+
+// --- Graphical seeding
+// -----------------------------------------------------------------------------
+
+namespace graph_view {
+namespace {
+
+using Record = FitGraphView;
+
+constexpr OptionKey kKeys[] = {
+    KEY(bShowLegend),
+    KEY(bShowAxes),
+    KEY(bContinuousAutoScale),
+};
+
+constexpr OptionBlock kBlocks[] = {{kKeys}};
+
+// The section is that of the options, whose load and save leave these keys alone.
+const OptionSection kSection = {"CurveFitSection", "FitGraphView", kBlocks};
+
+}  // namespace
+}  // namespace graph_view
+
+void LoadFitGraphView(const char* pszProfile, FitGraphView* pView) {
+    LoadSection(pszProfile, graph_view::kSection, pView);
+}
+
+bool SaveFitGraphView(const char* pszProfile, const FitGraphView* pView) {
+    return SaveSection(pszProfile, graph_view::kSection, pView);
+}

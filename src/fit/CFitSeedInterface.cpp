@@ -11,24 +11,6 @@ namespace {
 constexpr std::uint32_t kRows = 6;
 constexpr std::uint32_t kGridPlaces = 24;
 
-FitDataStats StatsOf(const double* pX, const double* pY, std::uint32_t uCount) {
-    FitDataStats stats{};
-    stats.uNumPoints = uCount;
-    stats.dXStep = 1.0;
-    if (uCount == 0) return stats;
-    const double dStep = uCount > 1 ? std::fabs(pX[1] - pX[0]) : 0.0;
-    const double dMean = std::fabs(pX[uCount - 1] - pX[0]) / uCount;
-    if (dStep != 0.0) {
-        stats.dXStep = dStep;
-    } else if (dMean != 0.0) {
-        stats.dXStep = dMean;
-    }
-    stats.dSumY = std::accumulate(pY, pY + uCount, 0.0);
-    stats.dFirstX = pX[0];
-    stats.dMaxY = *std::max_element(pY, pY + uCount);
-    return stats;
-}
-
 }  // namespace
 
 CFitSeedInterface::CFitSeedInterface(CFitOptionsInterface* pFit, CDataOptionsInterface* pData)
@@ -36,6 +18,18 @@ CFitSeedInterface::CFitSeedInterface(CFitOptionsInterface* pFit, CDataOptionsInt
 
 std::uint32_t CFitSeedInterface::GridCount() const {
     return std::min(m_pFit->GridParameterCount(), kGridPlaces);
+}
+
+bool CFitSeedInterface::HasPlace(std::uint32_t uPlace) const {
+    const FitFunctionProps& props = m_pFit->Properties();
+    if (uPlace == CFitOptionsInterface::kOffsetPlace)
+        return !m_pFit->IsCustomFunction() && props.bHasOffset != 0;
+    if (uPlace == CFitOptionsInterface::kSlopePlace)
+        return !m_pFit->IsCustomFunction() && props.bHasSlope != 0;
+    for (std::uint32_t i = 0; i < GridCount(); ++i) {
+        if (PlaceOfFlat(i) == uPlace) return true;
+    }
+    return false;
 }
 
 std::uint32_t CFitSeedInterface::PlaceOfFlat(std::uint32_t uFlat) const {
@@ -118,11 +112,28 @@ void CFitSeedInterface::AddLinear(double* pBehindGrid) const {
     if (props.bHasSlope != 0) *pBehindGrid = dWork[CFitOptionsInterface::kSlopePlace];
 }
 
-bool CFitSeedInterface::Draw(const double* pX, double* pY, std::uint32_t uCount,
+FitDataStats CFitSeedInterface::StatsOf(const double* pX, const double* pY, std::uint32_t uCount) {
+    FitDataStats stats{};
+    stats.uNumPoints = uCount;
+    stats.dXStep = 1.0;
+    if (uCount == 0) return stats;
+    const double dStep = uCount > 1 ? std::fabs(pX[1] - pX[0]) : 0.0;
+    const double dMean = std::fabs(pX[uCount - 1] - pX[0]) / uCount;
+    if (dStep != 0.0) {
+        stats.dXStep = dStep;
+    } else if (dMean != 0.0) {
+        stats.dXStep = dMean;
+    }
+    stats.dSumY = std::accumulate(pY, pY + uCount, 0.0);
+    stats.dFirstX = pX[0];
+    stats.dMaxY = *std::max_element(pY, pY + uCount);
+    return stats;
+}
+
+bool CFitSeedInterface::Draw(FitDataStats stats, const double* pX, double* pY, std::uint32_t uCount,
                              std::uint32_t uOrder, const double* pFlat) {
     const CurveFitUse use = m_pFit->Library().Use(m_pFit->ScratchRecord());
     if (!use) return false;
-    FitDataStats stats = StatsOf(pX, pY, uCount);
     stats.uOrder = uOrder;
     stats.dOffsetSeed = dWork[CFitOptionsInterface::kOffsetPlace];
     stats.dSlopeSeed = dWork[CFitOptionsInterface::kSlopePlace];
@@ -132,21 +143,30 @@ bool CFitSeedInterface::Draw(const double* pX, double* pY, std::uint32_t uCount,
 
 bool CFitSeedInterface::CurveFromSeeds(const double* pX, double* pY, std::uint32_t uCount,
                                        std::uint32_t uTerms) {
-    const std::uint32_t uEffective = m_pFit->EffectiveTermCount();
-    if (uTerms < uEffective) return CurveOfTerm(pX, pY, uCount, 0);
+    if (uTerms < m_pFit->EffectiveTermCount()) return CurveOfTerm(pX, pY, uCount, 0);
+    return CurveAt(StatsOf(pX, pY, uCount), pX, pY, uCount);
+}
+
+bool CFitSeedInterface::CurveAt(const FitDataStats& data, const double* pX, double* pY,
+                                std::uint32_t uCount) {
     double flat[kPlaces] = {};
     const std::uint32_t uGrid = GridCount();
     for (std::uint32_t i = 0; i < uGrid; ++i) flat[i] = dWork[PlaceOfFlat(i)];
     AddLinear(flat + uGrid);
-    return Draw(pX, pY, uCount, uEffective, flat);
+    return Draw(data, pX, pY, uCount, m_pFit->EffectiveTermCount(), flat);
 }
 
 bool CFitSeedInterface::CurveOfTerm(const double* pX, double* pY, std::uint32_t uCount,
                                     std::uint32_t uTerm) {
+    return CurveOfTermAt(StatsOf(pX, pY, uCount), pX, pY, uCount, uTerm);
+}
+
+bool CFitSeedInterface::CurveOfTermAt(const FitDataStats& data, const double* pX, double* pY,
+                                      std::uint32_t uCount, std::uint32_t uTerm) {
     double flat[kPlaces] = {};
     const std::uint32_t uParams = std::min(m_pFit->Properties().uParamsPerTerm, kColumns);
     for (std::uint32_t c = 0; c < uParams && PlaceOf(uTerm, c) < kGridPlaces; ++c)
         flat[c] = dWork[PlaceOf(uTerm, c)];
     AddLinear(flat + uParams);
-    return Draw(pX, pY, uCount, 1, flat);
+    return Draw(data, pX, pY, uCount, 1, flat);
 }

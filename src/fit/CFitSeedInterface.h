@@ -27,6 +27,9 @@ class CFitSeedInterface {
     // Grid parameters of the current function that have a place.
     std::uint32_t GridCount() const;
 
+    // Whether the current function has a seed there.
+    bool HasPlace(std::uint32_t uPlace) const;
+
     // --- Values. Terms and columns beyond the places read 0 and keep nothing; term 6 is the offset
     // (column 0) and the slope (column 1).
     double GetSeed(std::uint32_t uTerm, std::uint32_t uColumn) const;
@@ -50,6 +53,12 @@ class CFitSeedInterface {
     bool CurveFromSeeds(const double* pX, double* pY, std::uint32_t uCount, std::uint32_t uTerms);
     // The curve of one term with offset and slope.
     bool CurveOfTerm(const double* pX, double* pY, std::uint32_t uCount, std::uint32_t uTerm);
+    // The same two at any places, for data that have these statistics. All terms in effect, or one.
+    bool CurveAt(const FitDataStats& data, const double* pX, double* pY, std::uint32_t uCount);
+    bool CurveOfTermAt(const FitDataStats& data, const double* pX, double* pY, std::uint32_t uCount,
+                       std::uint32_t uTerm);
+    // What the library is told of the data that a curve belongs to.
+    static FitDataStats StatsOf(const double* pX, const double* pY, std::uint32_t uCount);
 
     Values dSeeds{};
     Flags uFixed{};
@@ -58,8 +67,8 @@ class CFitSeedInterface {
   private:
     // The work values of offset and slope where the function has them.
     void AddLinear(double* pBehindGrid) const;
-    bool Draw(const double* pX, double* pY, std::uint32_t uCount, std::uint32_t uOrder,
-              const double* pFlat);
+    bool Draw(FitDataStats stats, const double* pX, double* pY, std::uint32_t uCount,
+              std::uint32_t uOrder, const double* pFlat);
 
     CFitOptionsInterface* m_pFit;
     CDataOptionsInterface* m_pData;

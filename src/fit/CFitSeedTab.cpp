@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "fit/CGraphicalSeedDialog.h"
 #include "fit/FitChecks.h"
 #include "fit/FitSeedRules.h"
 #include "fit/FitVariables.h"
@@ -13,12 +14,14 @@
 // --- Controls ------------------------------------------------------------------------------------
 
 CFitSeedTab::CFitSeedTab(CFitOptionsInterface* pFit, CFitSeedInterface* pSeeds,
-                         const ZXADLG_DlgParams* pParams, bool bHasDataPage)
+                         const ZXADLG_DlgParams* pParams, bool bHasDataPage,
+                         const char* szGraphLibrary)
     : CRecordPage(&pFit->Options(), pParams->bReadOnly != 0, GetFrameworkInstance(),
                   MAKEINTRESOURCEA(IDD_FIT_SEEDS), MAKEINTRESOURCEA(IDS_FIT_TAB_SEEDS)),
       m_pFit(pFit),
       m_pSeeds(pSeeds),
-      m_bHasDataPage(bHasDataPage) {
+      m_bHasDataPage(bHasDataPage),
+      m_szGraphLibrary(szGraphLibrary) {
     BindPlaces();
     BindForcing();
     OnClick(IDC_FIT_ESTIMATE, m_btnEstimate, [this] {
@@ -31,7 +34,7 @@ CFitSeedTab::CFitSeedTab(CFitOptionsInterface* pFit, CFitSeedInterface* pSeeds,
         ShowSeeds();
         m_pFit->Notify(kNotifyFitRefitChanged);
     });
-    Label(IDC_FIT_GRAPHICAL, m_btnGraphical);
+    OnClick(IDC_FIT_GRAPHICAL, m_btnGraphical, [this] { SeedGraphically(); });
     Label(IDC_FIT_MULTIPLE_GROUP, m_grpMultiple);
     BindRadios({IDC_FIT_SEED_EACH_FIT, IDC_FIT_SEED_LAST_FIT}, {1, 0}, m_radMultiple,
                &FitOptions::bForceAutoSeed);
@@ -254,4 +257,41 @@ void CFitSeedTab::Normalize() {
 void CFitSeedTab::Restore() {
     RestoreProportions(*m_pFit, *m_pSeeds);
     m_pFit->bSeedsNormalized = false;
+}
+
+// --- The graph -----------------------------------------------------------------------------------
+
+void CFitSeedTab::SeedGraphically() {
+    if (const CheckResult notNeeded = CheckGraphNeeded(*m_pFit, *m_pSeeds)) {
+        ShowFinding(m_hWnd, *notNeeded);
+        return;
+    }
+    GraphLibrary library(GetFrameworkInstance(), m_szGraphLibrary);
+    if (!library.IsComplete()) {
+        ShowFinding(m_hWnd, {.nStringId = IDS_FIT_GRAPH_LIBRARY, .uFlags = MB_ICONASTERISK});
+        return;
+    }
+    const CFitSeedInterface::Values before = m_pSeeds->dSeeds;
+    const bool bNormalized = m_pFit->bSeedsNormalized;
+    if (bNormalized) {
+        ShowFinding(m_hWnd, {.nStringId = IDS_FIT_GRAPH_ABSOLUTE, .uFlags = MB_ICONASTERISK});
+        Restore();
+        ShowSeeds();
+    }
+    m_pSeeds->dWork = m_pSeeds->dSeeds;
+    CGraphicalSeedDialog dialog(GetDialogWnd(), *m_pFit, *m_pSeeds, library,
+                                m_pFit->Data().GetSource()->GetProfileName());
+    if (dialog.DoModal() == ZXADLG_OK) {
+        m_pSeeds->dSeeds = m_pSeeds->dWork;
+        MendSigns(*m_pFit, *m_pSeeds);
+        m_pFit->bSeedsAutomatic = false;
+        if (bNormalized) Normalize();
+        m_pFit->bSeedsValid = AreSeedsUsable(*m_pFit, *m_pSeeds);
+    } else {
+        m_pSeeds->dSeeds = before;
+        m_pFit->bSeedsNormalized = bNormalized;
+    }
+    m_bTyped = false;
+    ShowSeeds();
+    m_pFit->Notify(kNotifyFitSeedsChanged);
 }

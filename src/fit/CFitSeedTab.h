@@ -11,9 +11,10 @@
 
 class CFitSeedTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialog>> {
   public:
-    // bHasDataPage: whether the dialog has one to select data on.
+    // bHasDataPage: whether the dialog has one to select data on. szGraphLibrary is the file of the
+    // graph library beside the module.
     CFitSeedTab(CFitOptionsInterface* pFit, CFitSeedInterface* pSeeds,
-                const ZXADLG_DlgParams* pParams, bool bHasDataPage);
+                const ZXADLG_DlgParams* pParams, bool bHasDataPage, const char* szGraphLibrary);
 
     void UpdateControls() override;
     // Renews seeds that are stale, and estimates where there are none.
@@ -50,6 +51,7 @@ class CFitSeedTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialog>> 
     void TellOfMended(bool bProportions, bool bOthers);
     void Normalize();
     void Restore();
+    void SeedGraphically();
     int NoticeString() const;
     int NoteString() const;
     int ForceString() const;
@@ -58,6 +60,7 @@ class CFitSeedTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialog>> 
     CFitOptionsInterface* m_pFit;
     CFitSeedInterface* m_pSeeds;
     bool m_bHasDataPage;
+    const char* m_szGraphLibrary;
     bool m_bTyped = false;
     std::uint32_t m_uActivatedTerms = 0;  // in effect when the seeds were last seen to
     double m_dDataScale = 1.0;

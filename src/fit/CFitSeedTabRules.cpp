@@ -21,18 +21,8 @@ std::string Text(UINT uString) {
 
 }  // namespace
 
-// A place that the current function has.
 bool CFitSeedTab::IsShownPlace(std::uint32_t uPlace) const {
-    if (NoticeString() != 0) return false;
-    const FitFunctionProps& props = m_pFit->Properties();
-    if (uPlace == CFitOptionsInterface::kOffsetPlace)
-        return !m_pFit->IsCustomFunction() && props.bHasOffset != 0;
-    if (uPlace == CFitOptionsInterface::kSlopePlace)
-        return !m_pFit->IsCustomFunction() && props.bHasSlope != 0;
-    for (std::uint32_t i = 0; i < m_pSeeds->GridCount(); ++i) {
-        if (m_pSeeds->PlaceOfFlat(i) == uPlace) return true;
-    }
-    return false;
+    return NoticeString() == 0 && m_pSeeds->HasPlace(uPlace);
 }
 
 // Why no seeds are entered; 0 where they are.
@@ -142,7 +132,8 @@ void CFitSeedTab::UpdateControls() {
         bAnyFixed = bAnyFixed || (m_pSeeds->uFixed[i] != 0 && IsShownPlace(i));
     EnableControls({&m_btnEstimate}, IsEstimateOffered());
     EnableControls({&m_btnFreeAll}, bAnyFixed);
-    EnableControls({&m_btnGraphical}, false);
+    // What stands in its way is told when it is pressed.
+    EnableControls({&m_btnGraphical}, !m_pFit->bDeferred);
     EnableControls({&m_chkForceProportions}, m_pFit->IsForcePositiveEnabled());
     EnableControls(
         {&m_chkForceTimeConstants},

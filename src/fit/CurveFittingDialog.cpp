@@ -23,9 +23,10 @@
 
 CFitDialog::CFitDialog(HWND hwndParent, FitOptions* pOptions, ZXADLG_DataOptions* pData,
                        ZXADLG_CDlgDataSource* pSource, const ZXADLG_DlgParams* pParams,
-                       const char* szLibrary)
+                       const char* szLibrary, const char* szGraphLibrary)
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_FIT, IDC_TABS),
       m_library(GetFrameworkInstance(), szLibrary),
+      m_szGraphLibrary(szGraphLibrary),
       m_pRecord(pOptions) {
     OfferData({.bAllowExtrapolate = 1,
                .bAllowForceToZero = 0,
@@ -90,8 +91,8 @@ bool CFitDialog::OpenFunction() {
 void CFitDialog::AddPages() {
     auto pFunction = std::make_unique<CFitFunctionTab>(m_pFit, m_pParams);
     auto pAdvanced = std::make_unique<CFitAdvancedTab>(m_pFit, m_pParams, m_bUseDataOptions);
-    auto pSeedPage =
-        std::make_unique<CFitSeedTab>(m_pFit, m_pSeeds.get(), m_pParams, m_bUseDataOptions);
+    auto pSeedPage = std::make_unique<CFitSeedTab>(m_pFit, m_pSeeds.get(), m_pParams,
+                                                   m_bUseDataOptions, m_szGraphLibrary);
     m_pFunctionTab = pFunction.get();
     m_pAdvancedTab = pAdvanced.get();
     m_pSeedTab = pSeedPage.get();

@@ -20,10 +20,10 @@ class CFitSeedTab;
 
 class CFitDialog : public CParentDialogBase {
   public:
-    // szLibrary is the file of the curve-fit library beside the module.
+    // The files of the curve-fit library and of the graph library beside the module.
     CFitDialog(HWND hwndParent, FitOptions* pOptions, ZXADLG_DataOptions* pData,
                ZXADLG_CDlgDataSource* pSource, const ZXADLG_DlgParams* pParams,
-               const char* szLibrary = "CURVEFIT.dll");
+               const char* szLibrary = "CURVEFIT.dll", const char* szGraphLibrary = "GraphMT.dll");
 
     // Without the library there is a message and no dialog.
     INT_PTR DoModal() override;
@@ -80,6 +80,7 @@ class CFitDialog : public CParentDialogBase {
     void ShowPicture();
 
     CurveFitLibrary m_library;
+    const char* m_szGraphLibrary;
     FitOptions* m_pRecord;
     CFitOptionsInterface* m_pFit = nullptr;  // the base owns it
     std::unique_ptr<CFitSeedInterface> m_pSeeds;

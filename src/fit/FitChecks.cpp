@@ -206,6 +206,35 @@ CheckResult CheckEstimate(const CFitOptionsInterface& fit, const CFitSeedInterfa
     return Finding{.nPage = kFitSeedPage};
 }
 
+CheckResult CheckGraphNeeded(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds) {
+    const auto tell = [](UINT uString) {
+        return Finding{.nStringId = uString, .uFlags = MB_ICONASTERISK};
+    };
+    const bool bAnyFixed = std::any_of(seeds.uFixed.begin(), seeds.uFixed.end(),
+                                       [](std::uint32_t uFixed) { return uFixed != 0; });
+    if (fit.GetSearchMethod() == kSearchChebyshev) {
+        switch (fit.GetFunction()) {
+            case 3:
+                return tell(IDS_FIT_GRAPH_NOT_SHIFTED_BOLTZMANN);
+            case 11:
+                return tell(IDS_FIT_GRAPH_NOT_POWER_EXPONENTIAL);
+            case 14:
+                if (!bAnyFixed) return tell(IDS_FIT_GRAPH_SLOPING_FIX);
+                break;
+            case 15:
+                if (!bAnyFixed) return tell(IDS_FIT_GRAPH_STANDARD_FIX);
+                break;
+            default:
+                break;
+        }
+    }
+    if (fit.Properties().bPolynomial != 0) return tell(IDS_FIT_GRAPH_NOT_POLYNOMIAL);
+    if (fit.Properties().bStraightLine != 0) return tell(IDS_FIT_GRAPH_NOT_LINE);
+    if (FindMissingSeed(fit, seeds)) return tell(IDS_FIT_GRAPH_SEED_MISSING);
+    if (fit.IsCustomFunction() && !fit.bCustomCompiled) return tell(IDS_FIT_GRAPH_CUSTOM_MISSING);
+    return {};
+}
+
 // --- Fixed parameters, the comparison of models, the range of the curve --------------------------
 
 CheckResult CheckComparisonOrder(const CFitOptionsInterface& fit) {

@@ -56,6 +56,9 @@ CheckResult CheckSeeds(CFitOptionsInterface& fit, const CFitSeedInterface& seeds
 // Stands behind CheckSeeds: an estimate that the user wanted and that failed has been told of.
 CheckResult CheckEstimate(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds);
 
+// Why there is nothing to seed graphically; an information.
+CheckResult CheckGraphNeeded(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds);
+
 // --- Fixed parameters, the comparison of models, the range of the curve.
 CheckResult CheckComparisonOrder(const CFitOptionsInterface& fit);
 CheckResult CheckAnyFree(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds);

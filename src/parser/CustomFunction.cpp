@@ -1,6 +1,9 @@
 #include "parser/CustomFunction.h"
 
+#include <cmath>
 #include <cstring>
+#include <limits>
+#include <memory>
 #include <string>
 
 #include "parser/Parser.h"
@@ -22,6 +25,13 @@ void BuildText(const char* pszText, char (&szText)[kTextSize]) {
     szText[strText.copy(szText, kTextSize - 1)] = '\0';
 }
 
+// Finds the names, and folds the letters of the text to theirs.
+bool Analyze(char* pszText, CustomFunction& function) {
+    return AnalyzeCustomFunction(pszText, function.aIndependents, &function.nIndependents,
+                                 function.aParameters, &function.nParameters, function.aDependents,
+                                 &function.nDependents) != 0;
+}
+
 void FormatNames(CustomFunction& function) {
     for (int i = 0; i < function.nIndependents; ++i) {
         FormatIndependentName(function.szIndependents[i], function.aIndependents, i);
@@ -34,20 +44,34 @@ void FormatNames(CustomFunction& function) {
     }
 }
 
-int CompileError(const CustomFunction& function, const char* pszText) {
-    CParser parser(function.nIndependents, function.nDependents, function.nParameters, 1);
+// A parser that knows the names and the equation of a function; not compiled.
+std::unique_ptr<CParser> ParserOf(const CustomFunction& function, const char* pszText) {
+    auto pParser = std::make_unique<CParser>(function.nIndependents, function.nDependents,
+                                             function.nParameters, 1);
     for (int i = 0; i < function.nIndependents; ++i) {
-        parser.SetIndependentName(i, function.szIndependents[i]);
+        pParser->SetIndependentName(i, function.szIndependents[i]);
     }
     for (int i = 0; i < function.nParameters; ++i) {
-        parser.SetParameterName(i, function.szParameters[i]);
+        pParser->SetParameterName(i, function.szParameters[i]);
     }
     for (int i = 0; i < function.nDependents; ++i) {
-        parser.SetDependentName(i, function.szDependents[i]);
+        pParser->SetDependentName(i, function.szDependents[i]);
     }
-    parser.SetEquation(0, pszText);
-    return parser.Compile() ? 0 : parser.GetError();
+    pParser->SetEquation(0, pszText);
+    return pParser;
 }
+
+int CompileError(const CustomFunction& function, const char* pszText) {
+    const auto pParser = ParserOf(function, pszText);
+    return pParser->Compile() ? 0 : pParser->GetError();
+}
+
+// Tells nobody.
+class NoMessages final : public CustomFunctionMessages {
+  public:
+    void ShowString(int) override {}
+    void ShowError(const char*) override {}
+};
 
 }  // namespace
 
@@ -66,10 +90,7 @@ CustomFunctionFault CheckCustomFunction(const char* pszText, bool bShowMessages,
     function.nError = 0;
 
     CustomFunction found = function;
-    if (!AnalyzeCustomFunction(szText, found.aIndependents, &found.nIndependents, found.aParameters,
-                               &found.nParameters, found.aDependents, &found.nDependents)) {
-        return fail(CUSTOM_FUNCTION_NOT_INTERPRETED);
-    }
+    if (!Analyze(szText, found)) return fail(CUSTOM_FUNCTION_NOT_INTERPRETED);
     if (found.nIndependents > 1) return fail(CUSTOM_FUNCTION_MANY_INDEPENDENTS);
     if (found.nParameters == 0) return fail(CUSTOM_FUNCTION_NO_PARAMETERS);
     FormatNames(found);
@@ -80,4 +101,30 @@ CustomFunctionFault CheckCustomFunction(const char* pszText, bool bShowMessages,
     }
     function = found;
     return CUSTOM_FUNCTION_GOOD;
+}
+
+bool EvaluateCustomFunction(const char* pszText, const double* pParameters, int nParameters,
+                            const double* pX, double* pY, int nPoints) {
+    CustomFunction function;
+    NoMessages noMessages;
+    if (CheckCustomFunction(pszText, false, noMessages, function) != CUSTOM_FUNCTION_GOOD ||
+        function.nParameters > nParameters)
+        return false;
+    char szText[kTextSize];
+    BuildText(pszText, szText);
+    // The parser gets the text as the check does: in the letters of the names.
+    if (!Analyze(szText, function)) return false;
+    for (int nDone = 0; nDone < nPoints;) {
+        // A parser that met a result that is not finite answers nothing any more.
+        const auto pParser = ParserOf(function, szText);
+        if (!pParser->Compile()) return false;
+        for (int i = 0; i < function.nParameters; ++i)
+            pParser->SetParameterValue(i, pParameters[i]);
+        const double* const pInput = pX + nDone;
+        const ParserBlock block = {nPoints - nDone, &pInput, nullptr, nullptr};
+        if (pParser->EvaluateBlock(function.szDependents[0], block, pY + nDone)) return true;
+        while (nDone < nPoints && std::isfinite(pY[nDone])) ++nDone;
+        if (nDone < nPoints) pY[nDone++] = std::numeric_limits<double>::quiet_NaN();
+    }
+    return true;
 }

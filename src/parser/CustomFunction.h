@@ -47,3 +47,9 @@ class CustomFunctionMessages {
 // bShowMessages is set.
 CustomFunctionFault CheckCustomFunction(const char* pszText, bool bShowMessages,
                                         CustomFunctionMessages& messages, CustomFunction& function);
+
+// The values of a custom function at `nPoints` places, for parameters in the order of their
+// numbers. Where it has no finite value there is NaN. False, and no values, for a text that a check
+// refuses and for fewer parameters than it names.
+bool EvaluateCustomFunction(const char* pszText, const double* pParameters, int nParameters,
+                            const double* pX, double* pY, int nPoints);

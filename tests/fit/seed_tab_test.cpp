@@ -104,7 +104,7 @@ TEST_F(SeedTab, ATypedSeedOpensTheEstimateAndTheEstimateClosesIt) {
         .Click(IDC_FIT_ESTIMATE)
         .ExpectText(SeedId(0, 0), "3")
         .ExpectEnabled(IDC_FIT_ESTIMATE, false)
-        .ExpectEnabled(IDC_FIT_GRAPHICAL, false);
+        .ExpectEnabled(IDC_FIT_GRAPHICAL, true);
     ShowAndCancel(script);
 }
 

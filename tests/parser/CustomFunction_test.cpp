@@ -183,3 +183,31 @@ TEST_F(CustomFunctionCheck, FailedCheckKeepsTheFunctionFoundBefore) {
     EXPECT_EQ(m_Function.nParameters, 2);
     EXPECT_STREQ(m_Function.szEquation, "y1=p1*x1+q");
 }
+
+TEST(CustomFunctionValues, AreThoseOfTheEquation) {
+    const double aX[] = {0.0, 1.0, 3.0}, aP[] = {2.0, -0.5};
+    double aY[3] = {};
+    EXPECT_TRUE(EvaluateCustomFunction("P1 * x1 + p2", aP, 2, aX, aY, 3));
+    EXPECT_EQ(aY[0], -0.5);
+    EXPECT_EQ(aY[1], 1.5);
+    EXPECT_EQ(aY[2], 5.5);
+}
+
+TEST(CustomFunctionValues, WithoutAFiniteOneAreNoNumber) {
+    const double aX[] = {0.0, 1.0, 1.0, 4.0}, aP[] = {8.0};
+    double aY[4] = {};
+    EXPECT_TRUE(EvaluateCustomFunction("p1/(x1-1)", aP, 1, aX, aY, 4));
+    EXPECT_EQ(aY[0], -8.0);
+    EXPECT_TRUE(std::isnan(aY[1]));
+    EXPECT_TRUE(std::isnan(aY[2]));
+    EXPECT_EQ(aY[3], 8.0 / 3.0);
+}
+
+TEST(CustomFunctionValues, NeedAGoodTextAndItsParameters) {
+    const double aX[] = {1.0}, aP[] = {1.0, 2.0};
+    double aY[] = {77.0};
+    EXPECT_FALSE(EvaluateCustomFunction("p1*", aP, 2, aX, aY, 1));
+    EXPECT_FALSE(EvaluateCustomFunction("x1", aP, 2, aX, aY, 1));
+    EXPECT_FALSE(EvaluateCustomFunction("p1*x1+p2+p3", aP, 2, aX, aY, 1));
+    EXPECT_EQ(aY[0], 77.0);
+}
