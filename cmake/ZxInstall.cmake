@@ -19,8 +19,8 @@ install(TARGETS CURVEFIT
         RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
         LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs
         ARCHIVE DESTINATION lib COMPONENT ZxAnalysisDialogs)
-# The functions of this one are asked for by number while a program runs: no import library.
-install(TARGETS FILTER
+# The functions of these are asked for by number while a program runs: no import libraries.
+install(TARGETS FILTER GraphMT
         RUNTIME DESTINATION bin COMPONENT ZxAnalysisDialogs
         LIBRARY DESTINATION lib COMPONENT ZxAnalysisDialogs)
 install(TARGETS ZXANALYSISDIALOGS

@@ -24,7 +24,7 @@ trap clean_up EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-cmake --preset win32 >build/pictures-build.log 2>&1 && cmake --build --preset win32 --target zxhost CURVEFIT FILTER >>build/pictures-build.log 2>&1 ||
+cmake --preset win32 >build/pictures-build.log 2>&1 && cmake --build --preset win32 --target zxhost CURVEFIT FILTER GraphMT >>build/pictures-build.log 2>&1 ||
     { tail -n 40 build/pictures-build.log; exit 1; }
 ZX_WINE_PREFIX=$prefix tools/run-wine.sh build/win32/bin/zxhost.exe list >"$work/list" || exit 1
 export WINEPREFIX=$prefix WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="

@@ -52,6 +52,13 @@ TEST(Exports, OfTheCurveFitLibraryIsOne) {
     EXPECT_EQ(Exported("CURVEFIT"), (std::set<std::string>{"_CFIT_CreateCurveFit", "4"}));
 }
 
+TEST(Exports, OfTheGraphLibraryAreItsNumbers) {
+    std::set<std::string> numbers;
+    for (const int n : {1000, 1002, 1013, 1014, 1018, 1021, 1036, 1039, 1043, 1044, 1054, 1058})
+        numbers.insert("Ordinal" + std::to_string(n));
+    EXPECT_EQ(Exported("GraphMT"), numbers);
+}
+
 TEST(Exports, OfTheFilterLibraryAreItsNumbers) {
     EXPECT_EQ(Exported("FILTER"), (std::set<std::string>{"Ordinal1000", "Ordinal1001"}));
 }

@@ -49,7 +49,7 @@ TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
          {"include/ZXADLG.h", "include/zxadlg/DataOptions.h", "include/zxadlg/headless.h",
           "include/zxadlg/headless/names.h", "lib/libZXANALYSISDIALOGS.so", "lib/libZXHEADLESS.so",
           "include/zxadlg/CurveFit.h", "lib/libCURVEFIT.so", "include/zxadlg/Filter.h",
-          "lib/libFILTER.so", "share/doc/zxanalysisdialogs/filters.md",
+          "lib/libFILTER.so", "include/zxadlg/Graph.h", "lib/libGraphMT.so", "share/doc/zxanalysisdialogs/filters.md",
           "share/doc/zxanalysisdialogs/fit-functions.md", "share/doc/zxanalysisdialogs/seeds.md",
           "share/doc/zxanalysisdialogs/pictures/equations/eq_stdexp.svg",
           "share/doc/zxanalysisdialogs/hosting.md"})
