@@ -19,17 +19,6 @@
 #include "ids.h"
 #include "widgets/FrameworkSetup.h"
 
-namespace {
-
-constexpr std::int32_t kStandardExponential = 15;
-
-// Functions of several variables, which only a sheet can give.
-bool NeedsColumns(std::int32_t eFunction) {
-    return eFunction == 19 || eFunction == 20;
-}
-
-}  // namespace
-
 // --- Building ------------------------------------------------------------------------------------
 
 CFitDialog::CFitDialog(HWND hwndParent, FitOptions* pOptions, ZXADLG_DataOptions* pData,

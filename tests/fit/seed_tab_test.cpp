@@ -23,24 +23,12 @@ class SeedTab : public FitDialogTest {
     SeedTab() {
         library = StandInLibrary::kFile;
         ByHand(kSearchLM);
-        standIn->bProps = 1;
-        FitFunctionProps& props = standIn->props;
-        props.uParamsPerTerm = 2;
-        props.uNumDataArrays = 2;
-        props.uZeroAllowedParam = 99;
-        props.bMultiTerm = 1;
-        props.bHasOffset = 1;
-        props.bAllowLM = props.bAllowSimplex = props.bAllowChebyshev = 1;
+        FitFunctionProps& props = standIn.TellTraits();
         props.bCanForcePositive = 1;
         props.bCanNormalizeProportions = 1;
         options.uDlgFitOrder = 2;
         // A1, A2, tau1, tau2, C.
-        Seeds({3.0, 5.0, 0.25, 0.5, 9.0});
-    }
-    void Seeds(std::initializer_list<double> flat) {
-        standIn->bSeeds = 1;
-        std::fill(std::begin(standIn->dSeeds), std::end(standIn->dSeeds), 0.0);
-        std::copy(flat.begin(), flat.end(), standIn->dSeeds);
+        standIn.TellSeeds({3.0, 5.0, 0.25, 0.5, 9.0});
     }
     FitFunctionProps& Props() { return standIn->props; }
 
@@ -307,7 +295,7 @@ TEST_F(SeedTab, ForceChecksAreOpenWhereTheFunctionAllowsThem) {
 }
 
 TEST_F(SeedTab, EachForceCheckMendsItsOwnKind) {
-    Seeds({3.0, -5.0, -0.25, 0.5, -9.0});
+    standIn.TellSeeds({3.0, -5.0, -0.25, 0.5, -9.0});
     DialogScript script;
     script.SelectTab(kSeeds)
         .ExpectText(SeedId(1, 0), "-5")
@@ -324,7 +312,7 @@ TEST_F(SeedTab, EachForceCheckMendsItsOwnKind) {
 TEST_F(SeedTab, ANegativeFractionBecomesAThousandthOfItsSize) {
     Props().bFractionalProportions = 1;
     options.bForcePropsPositive = options.bForceTausPositive = 1;
-    Seeds({3.0, -5.0, -0.25, 0.5, 9.0});
+    standIn.TellSeeds({3.0, -5.0, -0.25, 0.5, 9.0});
     DialogScript script;
     script.SelectTab(kSeeds).ExpectText(SeedId(1, 0), "0.005").ExpectText(SeedId(0, 1), "0.25");
     ShowAndCancel(script);
@@ -454,7 +442,7 @@ TEST_F(SeedTab, NormalizedProportionsAreDividedByTheirSumAndRestoredByIt) {
 }
 
 TEST_F(SeedTab, NegativeProportionsCountByTheirSize) {
-    Seeds({0.5, -0.3, 0.25, 0.5, 9.0});
+    standIn.TellSeeds({0.5, -0.3, 0.25, 0.5, 9.0});
     DialogScript script;
     script.SelectTab(kSeeds)
         .Click(IDC_FIT_NORMALIZED)
@@ -482,7 +470,7 @@ TEST_F(SeedTab, NormalizedProportionsReachTheRecordAbsolute) {
 
 TEST_F(SeedTab, ProportionsThatMustSumToOneDoSoInTheRecord) {
     Props().bFractionalProportions = Props().bProportionsSumToOne = 1;
-    Seeds({2.0, 6.0, 0.25, 0.5, 9.0});
+    standIn.TellSeeds({2.0, 6.0, 0.25, 0.5, 9.0});
     DialogScript script;
     ShowAndAccept(script);
     EXPECT_DOUBLE_EQ(options.dParameters[0], 0.25);
