@@ -184,14 +184,14 @@ TEST_F(FitEventTable, CodesThatChooseTheMethodsAnew) {
     options.bAutoDefaultOptions = 1;
     options.eFunctionType = 15;
     const std::pair<NotificationCode, bool> rows[] = {
-        {kNotifyFitFunctionChanged, true},      {kNotifyFitMethodChanged, true},
-        {kNotifyFitCompareChanged, false},      {kNotifyFitSeedsChanged, true},
-        {kNotifyFitZeroShiftChanged, true},     {kNotifyFitForcePositiveChanged, true},
-        {kNotifyFitRefitChanged, false},        {kNotifyFitMethodsLeft, true},
-        {kNotifyFitAutomaticChanged, true},     {kNotifyDataSelectionChanged, true},
-        {kNotifyPairingChanged, true},          {kNotifyRegionChanged, true},
-        {kNotifyRegionRecount, false},          {kNotifyDataTabCurrent, false},
-        {kNotifyDataTabShown, false},           {kNotifyDataTabLeft, false},
+        {kNotifyFitFunctionChanged, true},  {kNotifyFitMethodChanged, true},
+        {kNotifyFitCompareChanged, false},  {kNotifyFitSeedsChanged, true},
+        {kNotifyFitZeroShiftChanged, true}, {kNotifyFitForcePositiveChanged, true},
+        {kNotifyFitRefitChanged, false},    {kNotifyFitMethodsLeft, true},
+        {kNotifyFitAutomaticChanged, true}, {kNotifyDataSelectionChanged, true},
+        {kNotifyPairingChanged, true},      {kNotifyRegionChanged, true},
+        {kNotifyRegionRecount, false},      {kNotifyDataTabCurrent, false},
+        {kNotifyDataTabShown, false},       {kNotifyDataTabLeft, false},
         {kNotifyDataInfoRebuilt, false},
     };
     const FitOptions optionsBefore = options;
@@ -218,9 +218,9 @@ TEST_F(FitEventTable, CodesThatChooseTheMethodsAnew) {
 // By hand the three selections move off what is not open.
 TEST_F(FitEventTable, CodesThatMoveTheSelections) {
     const std::pair<NotificationCode, bool> rows[] = {
-        {kNotifyFitFunctionChanged, true},  {kNotifyFitMethodChanged, true},
-        {kNotifyFitCompareChanged, false},  {kNotifyFitSeedsChanged, true},
-        {kNotifyFitRefitChanged, false},    {kNotifyFitMethodsLeft, true},
+        {kNotifyFitFunctionChanged, true}, {kNotifyFitMethodChanged, true},
+        {kNotifyFitCompareChanged, false}, {kNotifyFitSeedsChanged, true},
+        {kNotifyFitRefitChanged, false},   {kNotifyFitMethodsLeft, true},
         {kNotifyRegionRecount, false},
     };
     const FitOptions optionsBefore = options;
@@ -259,9 +259,10 @@ TEST_F(FitEventTable, TheCustomTextIsCompiledWithMessages) {
         .ExpectText(IDC_FIT_NAME, " f(x1)=p1*x1+p2")
         .Type(IDC_FIT_EQUATION, "x1")
         .Do([this] { Tell(kNotifyFitCustomText); })
-        .Answer(kOkButton,
-                "The custom function definition contains no parameters.\nYou must include at least one "
-                "parameter (e.g. p1).")
+        .Answer(
+            kOkButton,
+            "The custom function definition contains no parameters.\nYou must include at least one "
+            "parameter (e.g. p1).")
         .Do([this] { EXPECT_FALSE(dialog->Fit().bCustomCompiled); });
     ShowAndCancel(script);
 }

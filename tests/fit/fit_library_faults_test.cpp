@@ -93,8 +93,8 @@ TEST_F(FitLibraryFaults, TheWayAsksTheLibraryThisOften) {
     WalkToOk(kSmooth);
     EXPECT_EQ(standIn->uObjects, 5u);
     const std::pair<std::uint32_t, std::uint32_t> rows[] = {
-        {0, 5},  {7, 2},  {11, 0}, {17, 0}, {18, 3}, {30, 3},
-        {40, 3}, {44, 3}, {45, 3}, {46, 8}, {47, 3}, {48, 3}, {59, 0}};
+        {0, 5},  {7, 2},  {11, 0}, {17, 0}, {18, 3}, {30, 3}, {40, 3},
+        {44, 3}, {45, 3}, {46, 8}, {47, 3}, {48, 3}, {59, 0}};
     for (const auto& [uPlace, uCalls] : rows) EXPECT_EQ(standIn->uCalls[uPlace], uCalls) << uPlace;
 }
 
@@ -130,8 +130,8 @@ TEST_F(FitLibraryFaults, AFaultIsToldOnceOnItsWay) {
     };
     KeepStart();
     for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.uPlace << " at " << row.fail.uFirst << " x "
-                                        << row.fail.uCount);
+        SCOPED_TRACE(testing::Message()
+                     << row.uPlace << " at " << row.fail.uFirst << " x " << row.fail.uCount);
         Begin(row.uPlace, row.fail);
         WalkToOk(row.way);
         EXPECT_EQ(options.eFunctionType, row.eFunction);
@@ -162,9 +162,9 @@ TEST_F(FitLibraryFaults, ARefusalAtOpeningIsOneMessageAndNoDialog) {
 // The number of variables is then one, and a text is empty.
 TEST_F(FitLibraryFaults, OtherPlacesStopNobody) {
     KeepStart();
-    const std::pair<std::uint32_t, std::uint32_t> rows[] = {
-        {0, 5}, {11, 1}, {17, 1}, {18, 3}, {30, 3}, {44, 3}, {45, 3}, {46, 8}, {47, 3}, {48, 3},
-        {59, 1}};
+    const std::pair<std::uint32_t, std::uint32_t> rows[] = {{0, 5},  {11, 1}, {17, 1}, {18, 3},
+                                                            {30, 3}, {44, 3}, {45, 3}, {46, 8},
+                                                            {47, 3}, {48, 3}, {59, 1}};
     for (const auto& [uPlace, uCalls] : rows) {
         // Each call alone, and then all.
         for (std::uint32_t uFirst = 1; uFirst <= uCalls + 1; ++uFirst) {
