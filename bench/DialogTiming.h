@@ -120,8 +120,8 @@ inline std::vector<HWND> CreateBarePages(HINSTANCE hInstance, HWND hTab,
         item.mask = TCIF_TEXT;
         item.pszText = szTitle;
         SendMessageA(hTab, TCM_INSERTITEMA, windows.size(), reinterpret_cast<LPARAM>(&item));
-        windows.push_back(CreateDialogParamA(hInstance, MAKEINTRESOURCEA(page.nTemplate), hTab,
-                                             BarePageProc, 0));
+        windows.push_back(
+            CreateDialogParamA(hInstance, MAKEINTRESOURCEA(page.nTemplate), hTab, BarePageProc, 0));
     }
     RECT rc;
     GetClientRect(hTab, &rc);
