@@ -228,6 +228,7 @@ void CFitAdvancedTab::ShowRange() {
     const CurveRangeForm form =
         FormOfCurveRange(data, m_bHasDataPage, IsReadOnly(), m_pFit->bDeferred);
     if (form.nCaption != 0) m_grpRange.LoadText(m_hInstance, static_cast<UINT>(form.nCaption));
+    EnableControls({&m_grpRange}, true);
     ShowControls({&m_chkCursorPair, &m_cmbCursorPair}, form.bCursorPair);
     ShowControls({&m_chkFrom, &m_chkTo}, form.bLimits);
     ShowControls({&m_txtFrom, &m_txtTo}, form.bLimitEdits);

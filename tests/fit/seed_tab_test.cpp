@@ -59,6 +59,31 @@ TEST_F(SeedTab, EstimatedSeedsStandInTheirPlaces) {
     EXPECT_EQ(options.dParameters[25], 0.0);
 }
 
+TEST_F(SeedTab, ASlopeStandsUnderItsNameBesideTheOffset) {
+    Props().bHasSlope = 1;
+    std::strcpy(standIn->szTexts[48], "slope");
+    standIn.TellSeeds({3.0, 5.0, 0.25, 0.5, 9.0, 1.75});
+    DialogScript script;
+    script.SelectTab(kSeeds)
+        .ExpectVisible(IDC_FIT_SLOPE_LABEL, true)
+        .ExpectText(IDC_FIT_SLOPE_LABEL, "slope")
+        .ExpectText(kSlope, "1.75");
+    ShowAndCancel(script);
+}
+
+TEST_F(SeedTab, SeedsThatTheHostKeepsAreEstimatedAnewForFilesWithSweepsAlone) {
+    params.bFitKeepSeeds = 1;
+    for (const std::uint32_t uKind : {0u, 1u}) {
+        SCOPED_TRACE(uKind);
+        source.Kind(uKind);
+        DialogScript script;
+        script.SelectTab(kSeeds)
+            .Type(SeedId(0, 0), "4")
+            .ExpectEnabled(IDC_FIT_ESTIMATE, uKind == 0);
+        ShowAndCancel(script);
+    }
+}
+
 TEST_F(SeedTab, SixTermsFillTheGrid) {
     options.uDlgFitOrder = 6;
     Props().uParamsPerTerm = 4;
