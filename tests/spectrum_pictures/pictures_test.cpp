@@ -88,12 +88,12 @@ void ExpectCurve(const Picture& picture, const Plot& plot, const std::set<int>& 
     for (int x = plot.left + plot.nPen; x <= plot.right - 1; ++x) {
         // What lies within the column for sure, and what may touch it.
         const Rows sure = covered(plot.Part(x - 0.4), plot.Part(x + 0.4));
-        const Rows near = covered(plot.Part(x - 0.75 - (plot.nPen - 1)), plot.Part(x + 0.75));
+        const Rows around = covered(plot.Part(x - 0.75 - (plot.nPen - 1)), plot.Part(x + 0.75));
         for (int y = 0; y < plot.bottom; ++y) {
             if (dotted.count(y) != 0 || y < plot.top - plot.nPen) continue;
             if (picture.IsInk(x, y)) {
-                ASSERT_GE(y, near.dHighest - 1.0) << "ink above the curve at " << x;
-                ASSERT_LE(y, near.dLowest + plot.nPen) << "ink below the curve at " << x;
+                ASSERT_GE(y, around.dHighest - 1.0) << "ink above the curve at " << x;
+                ASSERT_LE(y, around.dLowest + plot.nPen) << "ink below the curve at " << x;
             } else {
                 ASSERT_FALSE(y > sure.dHighest + 1.0 && y < sure.dLowest - 1.0)
                     << "a gap in the curve at " << x << ", " << y;
