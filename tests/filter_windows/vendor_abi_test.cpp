@@ -2,38 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <set>
 #include <string>
 
+#include "fixtures/LoadedModule.h"
+#include "fixtures/ModuleFile.h"
 #include "platform/platform.h"
 #include "zxadlg/Filter.h"
 
 namespace {
 
-class LoadedModule {
-  public:
-    explicit LoadedModule(const char* szName) : m_hModule(LoadLibraryA(szName)) {}
-    ~LoadedModule() {
-        if (m_hModule != nullptr) FreeLibrary(m_hModule);
-    }
-    LoadedModule(const LoadedModule&) = delete;
-    HMODULE Get() const { return m_hModule; }
-    void* Find(const char* szName) const {
-        return reinterpret_cast<void*>(GetProcAddress(m_hModule, szName));
-    }
-    template <class Directory>
-    const Directory* DirectoryOf(unsigned uIndex) const {
-        const auto* base = reinterpret_cast<const BYTE*>(m_hModule);
-        const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-        const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
-        return reinterpret_cast<const Directory*>(
-            base + nt->OptionalHeader.DataDirectory[uIndex].VirtualAddress);
-    }
-
-  private:
-    HMODULE m_hModule;
-};
+using test_support::LoadedModule;
 
 TEST(FilterVendorAbi, EveryPlaceArrivesWithItsArgumentsAndResults) {
     const LoadedModule library("FILTER.dll");
@@ -58,19 +37,12 @@ TEST(FilterVendorAbi, EveryPlaceArrivesWithItsArgumentsAndResults) {
 TEST(FilterFile, ExportsTwoNumbersWithoutNamesAndImportsFromTheSystemAlone) {
     const LoadedModule library("FILTER.dll");
     ASSERT_NE(library.Get(), nullptr);
-    const auto* exports = library.DirectoryOf<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT);
+    const auto* exports = test_support::ExportsOf(library.Get());
     EXPECT_EQ(exports->NumberOfNames, 0u);
     EXPECT_EQ(exports->NumberOfFunctions, 2u);
     EXPECT_EQ(exports->Base, 1000u);
-    std::set<std::string> imported;
-    for (const auto* import =
-             library.DirectoryOf<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT);
-         import->Name != 0; ++import) {
-        std::string sName = reinterpret_cast<const char*>(library.Get()) + import->Name;
-        for (char& ch : sName) ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
-        imported.insert(sName);
-    }
-    EXPECT_EQ(imported, (std::set<std::string>{"KERNEL32.DLL", "MSVCRT.DLL"}));
+    EXPECT_EQ(test_support::ImportedBy(library.Get()),
+              (std::set<std::string>{"KERNEL32.DLL", "MSVCRT.DLL"}));
 }
 
 }  // namespace
