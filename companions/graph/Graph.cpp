@@ -217,7 +217,7 @@ void GMT_Graph::DrawOverlays(HDC dc) {
         drawing.Readout("x = " + shown(dX, m_x, GMT_X) + "   y = " + shown(dY, m_y, GMT_Y));
     }
     RECT rc = m_layout.plot;
-    if (!m_bDragging && GetFocus() != m_hWnd) return;
+    if (!m_bDragging && !ShowsFocus()) return;
     if (m_bDragging) {
         rc = {std::min(m_dragFrom.x, m_pointer.x), std::min(m_dragFrom.y, m_pointer.y),
               std::max(m_dragFrom.x, m_pointer.x) + 1, std::max(m_dragFrom.y, m_pointer.y) + 1};
@@ -227,8 +227,7 @@ void GMT_Graph::DrawOverlays(HDC dc) {
 
 void GMT_Graph::Paint(HDC dc) {
     Update(dc);
-    const bool bFocus = GetFocus() == m_hWnd && !IsLocked();
-    if (!m_bDragging && !m_bPointerInside && !bFocus) {
+    if (!m_bDragging && !m_bPointerInside && !ShowsFocus()) {
         m_picture.CopyTo(dc);
         return;
     }

@@ -41,6 +41,8 @@ struct GMT_Graph {
     // Brings layout and layers up to date.
     void Update(HDC dc);
     void DrawOverlays(HDC dc);
+    // A graph that takes keys shows it.
+    bool ShowsFocus() const { return GetFocus() == m_hWnd && !IsLocked(); }
     void Invalidate();
     graph::Layout MakeLayout(HDC dc);
     graph::Titles ShownTitles() const;
