@@ -135,8 +135,8 @@ bool Measure() {
     Source million(1000000), tenThousand(10000);
     OpenGraph open(million);
     const PlainLine line;
-    const PairedTiming step =
-        TimeInTurn(kRounds, [&] { open.Step(); }, [&] { line.Draw(); });
+    const PairedTiming step = TimeInTurn(
+        kRounds, [&] { open.Step(); }, [&] { line.Draw(); });
     bool bGood = PrintTiming("a step of a seed against a plain polyline", step, 1.3);
     const bool bFast = step.dOurs <= kStepTarget;
     std::printf("%-52s %6.2f %6.2f  %s  (ms)\n", "a step of a seed, 1,000,000 points", step.dOurs,

@@ -233,8 +233,8 @@ void CGraphicalSeedDialog::Redraw() {
     const auto changed = [this](std::uint32_t uPlace) {
         return m_drawn[uPlace] != m_seeds.dWork[uPlace];
     };
-    const bool bAll = changed(CFitOptionsInterface::kOffsetPlace) ||
-                      changed(CFitOptionsInterface::kSlopePlace);
+    const bool bAll =
+        changed(CFitOptionsInterface::kOffsetPlace) || changed(CFitOptionsInterface::kSlopePlace);
     bool bAny = bAll;
     for (std::uint32_t t = 0; t < kTerms; ++t) {
         bool bTerm = bAll;

@@ -24,5 +24,4 @@ class GraphLibrary {
     GMT_SetFlag setFlag;
     GMT_SetTitle setTitle;
     GMT_Redraw redraw;
-
 };

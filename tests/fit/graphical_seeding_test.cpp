@@ -61,9 +61,7 @@ class GraphicalSeeding : public FitDialogTest {
         script.Click(IDCANCEL).Click(IDCANCEL);
         EXPECT_EQ(Show(script), IDCANCEL);
     }
-    Strings Calls() const {
-        return {pLog->aszCalls, pLog->aszCalls + pLog->nCalls};
-    }
+    Strings Calls() const { return {pLog->aszCalls, pLog->aszCalls + pLog->nCalls}; }
     // The calls since the last look.
     Strings NewCalls() {
         Strings calls = Calls();
@@ -216,13 +214,14 @@ TEST_F(GraphicalSeeding, ASingleTermHasNoChecksAndNoSelector) {
 TEST_F(GraphicalSeeding, TheGraphIsSetUpWithItsFlagsTitlesAndScales) {
     DialogScript script;
     Open(script).Do([this] {
-        EXPECT_EQ(NewCalls(),
-                  (Strings{"create",       "source",         "flag 4000 0", "flag 10000 0",
-                           "flag 1 0",     "flag 2 0",       "flag 8 0",    "flag 100 0",
-                           "flag 1000 0",  "flag 20000 0",   "flag 40000 0", "flag c60 0",
-                           "flag 4 1",     "flag 10 1",      "flag 80 1",   "flag 200 1",
-                           "title 1 Time", "title 2 " + source.units, "scale 1", "scale 2",
-                           "flag 10 1",    "flag 4 1",       "flag 1000 0", "redraw"}));
+        EXPECT_EQ(NewCalls(), (Strings{"create",       "source",       "flag 4000 0",
+                                       "flag 10000 0", "flag 1 0",     "flag 2 0",
+                                       "flag 8 0",     "flag 100 0",   "flag 1000 0",
+                                       "flag 20000 0", "flag 40000 0", "flag c60 0",
+                                       "flag 4 1",     "flag 10 1",    "flag 80 1",
+                                       "flag 200 1",   "title 1 Time", "title 2 " + source.units,
+                                       "scale 1",      "scale 2",      "flag 10 1",
+                                       "flag 4 1",     "flag 1000 0",  "redraw"}));
     });
     CloseBoth(script);
     EXPECT_EQ(Calls().back(), "destroy");
@@ -320,7 +319,9 @@ TEST_F(GraphicalSeeding, TypedSeedsAreDrawnWhenTheTypingRests) {
         .Type(Field(0), "4.5")
         .Do([this] { EXPECT_EQ(NewCalls(), Strings{}); })
         .WaitUntil([this] { return pLog->nCalls >= 3; })
-        .Do([this] { EXPECT_EQ(NewCalls(), (Strings{"changed 2", "changed 1", "redraw"})); })
+        .Do([this] {
+            EXPECT_EQ(NewCalls(), (Strings{"changed 2", "changed 1", "redraw"}));
+        })
         .ExpectText(Field(0), "4.5");
     CloseBoth(script);
     EXPECT_EQ(options.dParameters[0], 0.0);
@@ -366,13 +367,11 @@ TEST_F(GraphicalSeeding, LegendAndAxesAreFlags) {
         .Do([this] { NewCalls(); })
         .Click(IDC_GRAPH_LEGEND)
         .Do([this] {
-            EXPECT_EQ(NewCalls(),
-                      (Strings{"flag 10 0", "flag 4 1", "flag 1000 0", "redraw"}));
+            EXPECT_EQ(NewCalls(), (Strings{"flag 10 0", "flag 4 1", "flag 1000 0", "redraw"}));
         })
         .Click(IDC_GRAPH_AXES)
         .Do([this] {
-            EXPECT_EQ(NewCalls(),
-                      (Strings{"flag 10 0", "flag 4 0", "flag 1000 0", "redraw"}));
+            EXPECT_EQ(NewCalls(), (Strings{"flag 10 0", "flag 4 0", "flag 1000 0", "redraw"}));
         });
     CloseBoth(script);
 }
@@ -382,9 +381,13 @@ TEST_F(GraphicalSeeding, AxesAreScaledOnceOrAtEveryRedraw) {
     Open(script)
         .Do([this] { NewCalls(); })
         .Click(IDC_GRAPH_Y_AXIS)
-        .Do([this] { EXPECT_EQ(NewCalls(), (Strings{"scale 2", "redraw"})); })
+        .Do([this] {
+            EXPECT_EQ(NewCalls(), (Strings{"scale 2", "redraw"}));
+        })
         .Click(IDC_GRAPH_X_AXIS)
-        .Do([this] { EXPECT_EQ(NewCalls(), (Strings{"scale 1", "redraw"})); })
+        .Do([this] {
+            EXPECT_EQ(NewCalls(), (Strings{"scale 1", "redraw"}));
+        })
         .Click(IDC_GRAPH_CONTINUOUS)
         .ExpectEnabled(IDC_GRAPH_X_AXIS, false)
         .ExpectEnabled(IDC_GRAPH_Y_AXIS, false)

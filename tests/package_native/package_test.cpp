@@ -49,8 +49,9 @@ TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
          {"include/ZXADLG.h", "include/zxadlg/DataOptions.h", "include/zxadlg/headless.h",
           "include/zxadlg/headless/names.h", "lib/libZXANALYSISDIALOGS.so", "lib/libZXHEADLESS.so",
           "include/zxadlg/CurveFit.h", "lib/libCURVEFIT.so", "include/zxadlg/Filter.h",
-          "lib/libFILTER.so", "include/zxadlg/Graph.h", "lib/libGraphMT.so", "share/doc/zxanalysisdialogs/filters.md",
-          "share/doc/zxanalysisdialogs/fit-functions.md", "share/doc/zxanalysisdialogs/seeds.md",
+          "lib/libFILTER.so", "include/zxadlg/Graph.h", "lib/libGraphMT.so",
+          "share/doc/zxanalysisdialogs/filters.md", "share/doc/zxanalysisdialogs/fit-functions.md",
+          "share/doc/zxanalysisdialogs/seeds.md",
           "share/doc/zxanalysisdialogs/pictures/equations/eq_stdexp.svg",
           "share/doc/zxanalysisdialogs/hosting.md"})
         EXPECT_TRUE(std::filesystem::exists(root + "/installed/" + file)) << file;

@@ -1,5 +1,5 @@
-// What the stand-in graph library exports beside the numbers: the calls that it got, a word or a few
-// each, and the source that was attached.
+// What the stand-in graph library exports beside the numbers: the calls that it got, a word or a
+// few each, and the source that was attached.
 #pragma once
 
 #include "zxadlg/Graph.h"
