@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "fit_control_ids.h"
+#include "sigproc_ids.h"
 
 namespace traceops_test {
 namespace {
@@ -50,6 +51,7 @@ DialogRow SpectrumRow() {
     row.prepare = [](std::vector<unsigned char>& options) {
         reinterpret_cast<SpectrumOptions*>(options.data())->uTransformLength = 64;
     };
+    row.delicate = {IDC_SPECTRUM_EXCLUDE};
     return row;
 }
 
