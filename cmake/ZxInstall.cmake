@@ -10,7 +10,7 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/include/ DESTINATION include COMPONENT ZxA
 install(FILES ${CMAKE_SOURCE_DIR}/docs/hosting.md ${CMAKE_SOURCE_DIR}/docs/automation.md
         DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/fit-functions.md ${CMAKE_SOURCE_DIR}/docs/seeds.md
-              ${CMAKE_SOURCE_DIR}/docs/filters.md
+              ${CMAKE_SOURCE_DIR}/docs/filters.md ${CMAKE_SOURCE_DIR}/docs/spectral-windows.md
         DESTINATION share/doc/zxanalysisdialogs COMPONENT ZxAnalysisDialogs)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/pictures/equations
         DESTINATION share/doc/zxanalysisdialogs/pictures COMPONENT ZxAnalysisDialogs)
