@@ -17,7 +17,8 @@ DOORS = {"platform": ("src/platform/platform.h",)}
 KEYHOLDERS = {"platform": ("platform", "tests/platform_native", "tests/store_native", "fuzz/platform", "fuzz/store")}
 # Rooms whose names of the window system go through the platform's header.
 SAME_NAMES = ("headless",)
-NAMED_BY = ("public", "headless", "tests/fixtures") + KEYHOLDERS["platform"]
+# ... but for tests that exist on the headless system alone.
+NAMED_BY = ("public", "headless", "tests/fixtures", "tests/traceops_native") + KEYHOLDERS["platform"]
 
 
 def read_rooms(root):

@@ -22,6 +22,11 @@ LONG Scaled(int nExtent, int nScale) {
     return static_cast<LONG>(std::clamp(std::int64_t{nExtent} * nScale, -kLargest, kLargest));
 }
 
+// Whether the texts of a page that gives this colour to its labels are light on dark.
+bool IsLight(COLORREF crText) {
+    return GetRValue(crText) * 2 + GetGValue(crText) * 5 + GetBValue(crText) > 8 * 127;
+}
+
 }  // namespace
 
 void ADM_MetafileWnd::LoadMetafile(HINSTANCE hInstance, LPCSTR szName, int nMapMode) {
@@ -81,5 +86,8 @@ void ADM_MetafileWnd::PlayInto(HDC hDC, int rcLeft, int rcTop, int rcRight, int 
 
 void ADM_MetafileWnd::Draw(HDC hDC) {
     ADM_PictureWnd::Draw(hDC);
+    // The pictures are black, which a dark scheme would hide.
+    if (IsLight(GetTextColor(hDC)))
+        FillRect(hDC, &m_rcClient, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     PlayInto(hDC, m_rcClient.left, m_rcClient.top, m_rcClient.right, m_rcClient.bottom);
 }

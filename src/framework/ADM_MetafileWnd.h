@@ -1,5 +1,6 @@
 // A placeable metafile of the resources (type "METAFILE"), stretched over its control: the equation
 // pictures. A resource that is missing, too short or no placeable metafile shows nothing.
+// On a page with light text on dark it stands on white, since the pictures are black.
 //
 // A placeable metafile begins with a header of 22 bytes: the key 0x9AC6CDD7, a handle, the bounding
 // box left, top, right, bottom (signed 16-bit), units to the inch, a reserved word and a checksum.

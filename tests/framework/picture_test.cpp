@@ -328,5 +328,32 @@ TEST_F(Picture, MetafileFillsItsControl) {
     EXPECT_TRUE(test_support::ShowsMetafile(canvas.DC(), rc));
 }
 
+TEST_F(Picture, MetafileStandsOnWhiteWhereTextIsLight) {
+    class DarkDialog : public LoggedDialog {
+      public:
+        using LoggedDialog::LoggedDialog;
+        HBRUSH OnCtlColor(HWND, HDC hDC, HWND, int) override {
+            SetTextColor(hDC, crText);
+            return static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+        }
+        COLORREF crText = 0;
+    } dark(log);
+    ADM_MetafileWnd picture;
+    dark.RegisterControl(IDC_METAFILE, &picture);
+    OpenDialog open(dark, IDD_PLAIN);
+    const struct {
+        COLORREF crText, crShown;
+    } kRows[] = {{RGB(255, 255, 0), RGB(255, 255, 255)},
+                 {RGB(0, 255, 0), RGB(255, 255, 255)},
+                 {RGB(0, 0, 255), RGB(0, 0, 0)},
+                 {RGB(60, 60, 60), RGB(0, 0, 0)}};
+    for (const auto& row : kRows) {
+        dark.crText = row.crText;
+        Canvas canvas(40, 20);
+        picture.Draw(canvas.DC());
+        EXPECT_EQ(canvas.At(1, 1), row.crShown) << std::hex << row.crText;
+    }
+}
+
 }  // namespace
 }  // namespace framework_test

@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <cstring>
+#include <ostream>
 
 #include "fit_control_ids.h"
 #include "sigproc_ids.h"
@@ -42,6 +43,7 @@ DialogRow FitRow() {
     };
     row.szFromData = "Parameter";
     row.delicate = {IDC_FIT_CUSTOM, IDC_FIT_GROUP, IDC_FIT_TERMS, IDC_FIT_COMPARE};
+    row.nOptionPages = 3;
     return row;
 }
 
@@ -80,6 +82,10 @@ Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
     params.bShowDestination = 1;
     params.bShowDynamicLink = 1;
     params.bShowWriteRegionInfo = 1;
+}
+
+void PrintTo(const DialogRow& row, std::ostream* pOut) {
+    *pOut << row.szName;
 }
 
 const std::vector<DialogRow>& Rows() {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <iosfwd>
 #include <set>
 #include <string>
 #include <vector>
@@ -28,7 +29,13 @@ struct DialogRow {
     const char* szFromData = nullptr;
     // What a user leaves alone who wants OK to be accepted.
     std::set<int> delicate = {};
+    int nOptionPages = 1;
+
+    int PageCount() const { return nOptionPages + (bHasDataTab ? 1 : 0); }
 };
+
+// For the reports of tests.
+void PrintTo(const DialogRow& row, std::ostream* pOut);
 
 // What one opening works on: the bytes of the option record, the data record, the host. Two regions
 // and a waveform, a selection of three sets, every optional control shown.

@@ -25,7 +25,7 @@ class EveryDialogAtTheKeyboard : public testing::TestWithParam<DialogRow> {
     }
     ~EveryDialogAtTheKeyboard() override { SetUseProfileFile(m_bOld); }
 
-    int PageCount() const { return GetParam().bHasDataTab ? 2 : 1; }
+    int PageCount() const { return GetParam().PageCount(); }
     int Show(DialogScript& script) {
         return script.Run([&] { return GetParam().show(m_opening); });
     }
