@@ -35,9 +35,9 @@ BINS, FLOOR = 16, -120.0
 class Canvas:
     """True is ink. Lengths are those of the smaller size and grow with the scale."""
 
-    def __init__(self, scale, margins):
+    def __init__(self, scale, margins, sizes=((176, 126), (264, 190))):
         self.scale = scale
-        self.width, self.height = (176, 126) if scale == 1 else (264, 190)
+        self.width, self.height = sizes[0] if scale == 1 else sizes[1]
         self.left, right, self.top, bottom = (round(m * scale) for m in margins)
         self.right, self.bottom = self.width - 1 - right, self.height - 1 - bottom
         self.pen = round(scale)
@@ -209,4 +209,5 @@ def main():
     sys.exit(wrong)
 
 
-main()
+if __name__ == "__main__":
+    main()
