@@ -291,8 +291,7 @@ int32_t ZXADLG_CALL ZXADLG_ShowCurveFitDialog(HWND__* parent, FitOptions* option
 // sections are applied one after another. The library FILTER beside the module is asked for the
 // smallest number of points; without it that check is left out.
 int32_t ZXADLG_CALL ZXADLG_ShowFilterDialog(HWND__* parent, FilterOptions* options,
-                                            ZXADLG_DataOptions* data,
-                                            ZXADLG_CDlgDataSource* source,
+                                            ZXADLG_DataOptions* data, ZXADLG_CDlgDataSource* source,
                                             const ZXADLG_DlgParams* params);
 
 // Power Spectrum: the spectral window, the length of the transforms, their overlap, and what is

@@ -61,7 +61,8 @@ using CheckResult = std::optional<Finding>;
 Finding Refusal(UINT nStringId, int nPage, int nControl = 0,
                 std::initializer_list<std::int64_t> numbers = {});
 Finding Question(UINT nStringId, int nPage, int nControl,
-                 std::initializer_list<std::int64_t> numbers, std::vector<Finding::Answer> vAnswers);
+                 std::initializer_list<std::int64_t> numbers,
+                 std::vector<Finding::Answer> vAnswers);
 
 // The texts of a dialog's fields as they stand on the screen, by control id.
 using TypedValues = std::map<int, std::string>;

@@ -1,6 +1,6 @@
 // A bitmap of the resources, centred in its control with an edge around it. The bitmap is loaded at
-// each paint; one that is missing leaves the control empty. Where there is a larger form of it, that
-// one is shown once the control has room for it.
+// each paint; one that is missing leaves the control empty. Where there is a larger form of it,
+// that one is shown once the control has room for it.
 #pragma once
 
 #include "framework/ADM_PictureWnd.h"

@@ -43,10 +43,6 @@ void SelectFilterType(FilterOptions& options, FilterType eType) {
     options.adaptive.m_bIsSelected = eType == kInterferenceFilter;
 }
 
-double RateOfInterval(const FilterOptions& options) {
-    return options.dSampleInterval > 0.0 ? KnownRate(kMicroseconds / options.dSampleInterval) : 0.0;
-}
-
 void StoreInterval(FilterOptions& options, double dRate) {
     options.dSampleInterval = SingleFrequency(kMicroseconds / dRate);
 }

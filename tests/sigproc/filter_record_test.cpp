@@ -9,6 +9,7 @@
 #include <string>
 
 #include "sigproc/FilterRecord.h"
+#include "sigproc/SamplingRate.h"
 
 namespace {
 

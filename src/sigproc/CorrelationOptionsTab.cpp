@@ -1,4 +1,4 @@
-#include "sigproc/CCorrelationOptionsTab.h"
+#include "sigproc/CorrelationOptionsTab.h"
 
 #include <cstring>
 #include <limits>

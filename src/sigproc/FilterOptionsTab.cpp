@@ -1,7 +1,8 @@
-#include "sigproc/CFilterOptionsTab.h"
+#include "sigproc/FilterOptionsTab.h"
 
 #include "ZXADLG.h"
 #include "ids.h"
+#include "sigproc/SamplingRate.h"
 #include "sigproc_ids.h"
 #include "widgets/FrameworkSetup.h"
 
