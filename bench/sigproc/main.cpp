@@ -1,0 +1,182 @@
+// Filter, Power Spectrum and Correlation against bare dialogs of the same templates with the same
+// items in them.
+#include "TabbedOpening.h"
+#include "analysis/Benchmarks.h"
+#include "entry/ShowSequence.h"
+#include "sigproc/FilterLimits.h"
+#include "sigproc/SpectrumWindows.h"
+#include "sigproc_ids.h"
+
+namespace {
+
+using opening::AddItem;
+
+// Enough points for every filter.
+class LongSource final : public NamedSource {
+  public:
+    LongSource() : NamedSource(12), many(kMany, 1.0) {}
+    const double* GetYValues(uint32_t, uint32_t, const ZXADLG_DataRange*, uint32_t) override {
+        return many.data();
+    }
+    uint32_t GetPointCount(uint32_t, uint32_t, const ZXADLG_DataRange*, uint32_t) override {
+        return kMany;
+    }
+    static constexpr uint32_t kMany = 2000;
+    std::vector<double> many;
+};
+
+void AddString(HWND hPage, int nId, int nString) {
+    char szText[128] = "";
+    LoadStringA(GetFrameworkInstance(), static_cast<UINT>(nString), szText, sizeof szText);
+    AddItem(hPage, nId, CB_ADDSTRING, szText);
+}
+
+void FillData(HWND hPage, const NamedSource& source) {
+    for (const std::string& sName : source.names)
+        AddItem(hPage, IDC_SET_LIST, LB_ADDSTRING, sName.c_str());
+    for (const char* szName : NamedSource::kGroupNames)
+        AddItem(hPage, IDC_GROUP, CB_ADDSTRING, szName);
+    for (const char* szName : NamedSource::kRegionNames)
+        AddItem(hPage, IDC_REGION, CB_ADDSTRING, szName);
+    SendMessageA(GetDlgItem(hPage, IDC_GROUP), CB_SETCURSEL, 0, 0);
+    SendMessageA(GetDlgItem(hPage, IDC_REGION), CB_SETCURSEL, 0, 0);
+    SendMessageA(GetDlgItem(hPage, IDC_SET_LIST), LB_SETSEL, TRUE, -1);
+    CheckDlgButton(hPage, IDC_SETS_ALL, BST_CHECKED);
+    CheckDlgButton(hPage, IDC_GROUPS_ONE, BST_CHECKED);
+}
+
+void SetTexts(HWND hPage, std::initializer_list<std::pair<int, const char*>> texts) {
+    for (const auto& [nId, szText] : texts) SetDlgItemTextA(hPage, nId, szText);
+}
+
+// The picture of the arrangement, or of a window, is painted there as well.
+void ShowBitmap(HWND hPage, int nId, int nBitmap) {
+    const HWND hStatic = GetDlgItem(hPage, nId);
+    SetWindowLongPtrA(hStatic, GWL_STYLE, GetWindowLongPtrA(hStatic, GWL_STYLE) | SS_BITMAP);
+    SendMessageA(
+        hStatic, STM_SETIMAGE, IMAGE_BITMAP,
+        reinterpret_cast<LPARAM>(LoadBitmapA(GetFrameworkInstance(), MAKEINTRESOURCEA(nBitmap))));
+}
+
+class Bench {
+  public:
+    Bench() {
+        m_params.bUseDataOptions = m_params.bShowGroupSelector = m_params.bShowDestination = 1;
+        m_params.bShowDynamicLink = m_params.bShowWriteRegionInfo = 1;
+    }
+
+    bool Filter() {
+        const opening::BareDialog bare = {
+            IDD_FILTER,
+            {{IDD_FILTER_OPTIONS, "Options"}, {IDD_UNITARY_DATA, "Data"}},
+            [this](const std::vector<HWND>& pages) {
+                for (const int nString :
+                     {IDS_FAMILY_BESSEL, IDS_FAMILY_BOXCAR, IDS_FAMILY_BUTTERWORTH,
+                      IDS_FAMILY_CHEBYSHEV, IDS_FAMILY_GAUSSIAN, IDS_FAMILY_RC, IDS_FAMILY_RC8})
+                    AddString(pages[0], IDC_LOWPASS_FAMILY, nString);
+                AddString(pages[0], IDC_HIGHPASS_FAMILY, IDS_FAMILY_BESSEL);
+                AddString(pages[0], IDC_HIGHPASS_FAMILY, IDS_FAMILY_RC);
+                SetTexts(pages[0], {{IDC_HIGHPASS_CUTOFF, "10"},
+                                    {IDC_HIGHPASS_RANGE, "Cutoff range = 1.0 to 1400.0 Hz"},
+                                    {IDC_LOWPASS_CUTOFF, "1000"},
+                                    {IDC_LOWPASS_RANGE, "Cutoff range = 1.0 to 1400.0 Hz"},
+                                    {IDC_LOWPASS_COEFFICIENTS, "= 11 coefficients"},
+                                    {IDC_HUM_HARMONICS, "10"},
+                                    {IDC_HUM_CYCLES, "20"},
+                                    {IDC_HUM_PERIOD, "= 200.00"},
+                                    {IDC_HUM_BANDWIDTH, "= 1.50 Hz"},
+                                    {IDC_NOTCH_CENTER, "60"},
+                                    {IDC_NOTCH_WIDTH, "10"},
+                                    {IDC_NOTCH_RANGE, "Center range = 10.0 to 3000.0 Hz"}});
+                ShowBitmap(pages[0], IDC_FILTER_PICTURE, IDB_FILTER_RESPONSE_FIRST);
+                CheckDlgButton(pages[0], IDC_FILTER_LOWPASS, BST_CHECKED);
+                CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
+                FillData(pages[1], m_source);
+            }};
+        const auto show = [this](HWND hOwner) {
+            FilterOptions options = {};
+            options.lowpass.m_eFilterFamily = kBessel;
+            options.adaptive.m_uHarmonicNumberEnd = 10;
+            options.adaptive.m_uAveragingCycles = 20;
+            ZXADLG_DataOptions data = Selection();
+            ZXADLG_ShowFilterDialog(hOwner, &options, &data, &m_source, &m_params);
+        };
+        return opening::MeasureOpening("Filter", show, bare, 1.2, 1.3);
+    }
+
+    bool Spectrum() {
+        const opening::BareDialog bare = {
+            IDD_SPECTRUM,
+            {{IDD_SPECTRUM_OPTIONS, "Options"}, {IDD_UNITARY_DATA, "Data"}},
+            [this](const std::vector<HWND>& pages) {
+                for (const SpectralWindow& window : SpectralWindows())
+                    AddString(pages[0], IDC_SPECTRUM_WINDOW, window.nString);
+                SendMessageA(GetDlgItem(pages[0], IDC_SPECTRUM_WINDOW), CB_SETCURSEL, 6, 0);
+                SetTexts(pages[0], {{IDC_SPECTRUM_KAISER, "2.00"},
+                                    {IDC_SPECTRUM_POISSON, "2.00"},
+                                    {IDC_SPECTRUM_LENGTH, "256"},
+                                    {IDC_SPECTRUM_MAXIMUM_VALUE, "(1024)"},
+                                    {IDC_SPECTRUM_OUTPUT, "Output length = 128"},
+                                    {IDC_SPECTRUM_RESOLUTION, "Spectral resolution = 39.06 Hz"},
+                                    {IDC_SPECTRUM_EXCLUDE, "1"}});
+                ShowBitmap(pages[0], IDC_SPECTRUM_SHAPE, IDB_WINDOW_SHAPE_FIRST + 6);
+                ShowBitmap(pages[0], IDC_SPECTRUM_MAGNITUDE, IDB_WINDOW_MAGNITUDE_FIRST + 6);
+                CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
+                FillData(pages[1], m_source);
+            }};
+        const auto show = [this](HWND hOwner) {
+            SpectrumOptions options = {};
+            options.eWindowType = 6;
+            options.dKaiserAlpha = options.dPoissonAlpha = 2.0;
+            options.uTransformLength = 256;
+            options.uNumBinsToExclude = 1;
+            ZXADLG_DataOptions data = Selection();
+            ZXADLG_ShowPowerSpectrumDialog(hOwner, &options, &data, &m_source, &m_params);
+        };
+        return opening::MeasureOpening("Power Spectrum", show, bare, 1.2, 1.3);
+    }
+
+    bool Correlation() {
+        const opening::BareDialog bare = {
+            IDD_CORRELATION,
+            {{IDD_CORRELATION_OPTIONS, "Options"}, {IDD_UNITARY_DATA, "Data"}},
+            [this](const std::vector<HWND>& pages) {
+                SetTexts(pages[0],
+                         {{IDC_CORRELATION_STATUS, "The sampling frequency is fixed."},
+                          {IDC_CORRELATION_FREQUENCY, "10000"},
+                          {IDC_CORRELATION_INTERVAL, "Interval = 0.01 \xB5s"},
+                          {IDC_CORRELATION_LAGS, "100"},
+                          {IDC_CORRELATION_TIMES, " = 1000.00 ms (maximum = 20000.00 ms)"}});
+                CheckDlgButton(pages[0], IDC_CORRELATION_AUTO, BST_CHECKED);
+                CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
+                FillData(pages[1], m_source);
+            }};
+        const auto show = [this](HWND hOwner) {
+            ZXADLG_CorrelationOptions options = {};
+            options.uNumberOfLags = 100;
+            ZXADLG_DataOptions data = Selection();
+            ZXADLG_ShowCorrelationDialog(hOwner, &options, &data, &m_source, &m_params);
+        };
+        return opening::MeasureOpening("Correlation", show, bare, 1.2, 1.3);
+    }
+
+  private:
+    static ZXADLG_DataOptions Selection() {
+        ZXADLG_DataOptions data = {};
+        data.eDataSet1SelectionMode = data.eDataGroup1SelectionMode = 1;
+        return data;
+    }
+
+    LongSource m_source;
+    ZXADLG_DlgParams m_params = {};
+};
+
+}  // namespace
+
+int main() {
+    PrepareLibrary();
+    Bench bench;
+    const bool bFilter = bench.Filter();
+    const bool bSpectrum = bench.Spectrum();
+    return bench.Correlation() && bSpectrum && bFilter ? 0 : 1;
+}
