@@ -24,11 +24,6 @@ class CorrelationDialogTest
             EXPECT_EQ(FindControl(hDialog, IDC_SET_LIST_2) != nullptr, bDual);
         });
     }
-    static void ExpectTitles(const DialogScript& script, const std::vector<std::string>& titles) {
-        std::vector<std::string> seen;
-        for (const auto& message : script.Messages()) seen.push_back(message.title);
-        EXPECT_EQ(seen, titles);
-    }
 };
 
 constexpr char kTooManyLags[] =
@@ -92,7 +87,7 @@ TEST_F(CorrelationDialogTest, AFrequencyOfZeroHidesTheTimesAndGreysTheLags) {
         .ExpectEnabled(IDC_CORRELATION_LAGS_SPIN, true)
         .ExpectEnabled(IDC_CORRELATION_TIMES, true);
     ShowAndAccept(script);
-    ExpectTitles(script, {"Error"});
+    EXPECT_EQ(TitlesOf(script), (std::vector<std::string>{"Error"}));
     EXPECT_EQ(options.dSamplingFrequency, 1.0);
 }
 
@@ -152,7 +147,7 @@ TEST_F(CorrelationDialogTest, MoreLagsThanPointsBecomeThePoints) {
         .Answer(kYesButton, kTooManyLags);
     EXPECT_EQ(Show(script), IDOK);
     EXPECT_EQ(options.uNumberOfLags, 36u);
-    ExpectTitles(script, {"Query", "Query"});
+    EXPECT_EQ(TitlesOf(script), (std::vector<std::string>{"Query", "Query"}));
     // As many as there are points pass.
     DialogScript passing;
     ShowAndAccept(passing);

@@ -4,8 +4,6 @@
 #include <cmath>
 
 #include "SigprocTest.h"
-#include "framework/ADM_BitmapPictureWnd.h"
-#include "framework/ADM_Dialog.h"
 #include "sigproc/SpectrumChecks.h"
 #include "sigproc/SpectrumDialog.h"
 #include "sigproc/SpectrumWindows.h"
@@ -26,11 +24,6 @@ class SpectrumDialogTest : public SigprocDialogTest<CSpectrumDialog, SpectrumOpt
     void SelectSets(int n) {
         std::snprintf(data.szUnitarySelectionList1, sizeof data.szUnitarySelectionList1, "1..%d",
                       n);
-    }
-    static void ExpectTitles(const DialogScript& script, const std::vector<std::string>& titles) {
-        std::vector<std::string> seen;
-        for (const auto& message : script.Messages()) seen.push_back(message.title);
-        EXPECT_EQ(seen, titles);
     }
 };
 
@@ -154,18 +147,28 @@ TEST(SpectralWindows, HaveAPairOfPicturesOrASeries) {
     }
 }
 
+TEST(SpectralWindows, EveryPictureIsThere) {
+    int nPictures = 0;
+    for (const SpectralWindow& window : SpectralWindows()) {
+        for (int nAlpha = 0; nAlpha <= 10; ++nAlpha) {
+            const WindowPictures pictures = PicturesOf(window.eType, nAlpha, nAlpha);
+            for (const int nId : {pictures.nShape, pictures.nMagnitude}) {
+                EXPECT_TRUE(HasBitmap(nId)) << nId;
+                EXPECT_TRUE(HasBitmap(nId + kLargerPicture)) << nId;
+                ++nPictures;
+            }
+        }
+        EXPECT_NE(FindResourceA(GetModuleHandleA(nullptr), window.szEquation, "METAFILE"), nullptr);
+    }
+    EXPECT_EQ(nPictures, 220);
+    EXPECT_FALSE(HasBitmap(2599));
+}
+
 TEST_F(SpectrumDialogTest, ThePicturesFollowWindowAndAlpha) {
     const auto expect = [](DialogScript& script, int nShape, int nMagnitude) {
         script.Do([nShape, nMagnitude](HWND hDialog) {
-            const HWND hShape = FindControl(hDialog, IDC_SPECTRUM_SHAPE);
-            const ADM_Dialog* pPage = ADM_Dialog::FromWindow(GetParent(hShape));
-            const auto idOf = [pPage, hDialog](int nId) {
-                auto* pPicture = dynamic_cast<ADM_BitmapPictureWnd*>(
-                    pPage->FindControl(FindControl(hDialog, nId)));
-                return pPicture != nullptr ? pPicture->GetBitmapId() : -1;
-            };
-            EXPECT_EQ(idOf(IDC_SPECTRUM_SHAPE), nShape);
-            EXPECT_EQ(idOf(IDC_SPECTRUM_MAGNITUDE), nMagnitude);
+            EXPECT_EQ(BitmapOf(hDialog, IDC_SPECTRUM_SHAPE), nShape);
+            EXPECT_EQ(BitmapOf(hDialog, IDC_SPECTRUM_MAGNITUDE), nMagnitude);
         });
     };
     DialogScript script;
@@ -289,7 +292,7 @@ TEST_F(SpectrumDialogTest, FewerThanSixteenPointsLeaveNothingToSet) {
                 "points.")
         .ExpectFocus(IDC_SPECTRUM_WINDOW);
     ShowAndCancel(script);
-    ExpectTitles(script, {"Error"});
+    EXPECT_EQ(TitlesOf(script), (std::vector<std::string>{"Error"}));
 }
 
 // --- Averaging -----------------------------------------------------------------------------------
@@ -362,7 +365,7 @@ TEST_F(SpectrumDialogTest, ALengthBeyondTheDataIsAskedFor) {
         .Answer(kYesButton, szText);
     EXPECT_EQ(Show(script), IDOK);
     EXPECT_EQ(options.uTransformLength, 512u);
-    ExpectTitles(script, {"Query", "Query"});
+    EXPECT_EQ(TitlesOf(script), (std::vector<std::string>{"Query", "Query"}));
 }
 
 TEST_F(SpectrumDialogTest, OfASweepTheQuestionSaysSo) {
@@ -388,7 +391,7 @@ TEST_F(SpectrumDialogTest, TooManySegmentsStayWhateverTheAnswer) {
     for (const int nAnswer : {kYesButton, kNoButton})
         script.Click(IDOK).Answer(nAnswer, szText).ExpectFocus(IDC_SPECTRUM_LENGTH);
     ShowAndCancel(script);
-    ExpectTitles(script, {"Query", "Query"});
+    EXPECT_EQ(TitlesOf(script), (std::vector<std::string>{"Query", "Query"}));
     Points(3500 * 16 - 1);
     DialogScript passing;
     ShowAndAccept(passing);
