@@ -17,7 +17,7 @@ function(zx_add_resources target)
     get_filename_component(stem ${rc} NAME_WE)
     get_filename_component(dir ${rc} DIRECTORY)
     file(GLOB inputs CONFIGURE_DEPENDS ${dir}/* ${CMAKE_SOURCE_DIR}/resources/* ${CMAKE_SOURCE_DIR}/resources/pictures/*.*
-         ${CMAKE_SOURCE_DIR}/resources/pictures/windows/*)
+         ${CMAKE_SOURCE_DIR}/resources/pictures/filters/* ${CMAKE_SOURCE_DIR}/resources/pictures/windows/*)
     set(res ${CMAKE_CURRENT_BINARY_DIR}/${target}_${stem}.res)
     if(ZX_WINDRES)
       add_custom_command(OUTPUT ${res} DEPENDS ${inputs}

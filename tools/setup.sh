@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what a task needs and this machine lacks, and says what it installs. Never asks a question.
 #
-#   tools/setup.sh native|windows|bench|fuzz|lint|mutate|seeds|equations|spectrum|pictures ...
+#   tools/setup.sh native|windows|bench|fuzz|lint|mutate|seeds|equations|bitmaps|pictures ...
 #
 # Exit codes: 0 all there; 3 the packages of a group cannot be had (the reason is on standard error).
 set -u
@@ -14,7 +14,7 @@ need_lint="clang-format python3 llvm binutils-mingw-w64-i686"
 need_mutate="python3 python3-clang-14"
 need_seeds="python3-numpy python3-scipy"
 need_equations="python3-numpy python3-matplotlib python3-mpmath"
-need_spectrum="python3-numpy python3-scipy python3-matplotlib python3-pil"
+need_bitmaps="python3-numpy python3-scipy python3-matplotlib python3-pil"
 need_pictures="imagemagick xdotool x11-utils xvfb"
 
 as_root() {

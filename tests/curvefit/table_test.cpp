@@ -6,27 +6,19 @@
 #include <cstring>
 
 #include "CurveFitFixture.h"
+#include "fixtures/LoadedModule.h"
 #include "platform/platform.h"
 
 namespace {
 
 using namespace curvefit_test;
 
-class LoadedLibrary {
+class LoadedLibrary : public test_support::LoadedModule {
   public:
-    LoadedLibrary() : m_hModule(LoadLibraryA("CURVEFIT.dll")) {}
-    ~LoadedLibrary() {
-        if (m_hModule != nullptr) FreeLibrary(m_hModule);
-    }
-    LoadedLibrary(const LoadedLibrary&) = delete;
-    HMODULE Get() const { return m_hModule; }
-    FARPROC Find(const char* szName) const { return GetProcAddress(m_hModule, szName); }
+    LoadedLibrary() : LoadedModule("CURVEFIT.dll") {}
     ZXADLG_CreateCurveFit Create() const {
         return reinterpret_cast<ZXADLG_CreateCurveFit>(Find("_CFIT_CreateCurveFit@4"));
     }
-
-  private:
-    HMODULE m_hModule;
 };
 
 TEST(Library, ExportsOneFunctionUnderItsName) {

@@ -3,30 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <set>
 #include <string>
 
+#include "fixtures/LoadedModule.h"
+#include "fixtures/ModuleFile.h"
 #include "platform/platform.h"
 #include "zxadlg/CurveFit.h"
 
 namespace {
 
-class LoadedModule {
-  public:
-    explicit LoadedModule(const char* szName) : m_hModule(LoadLibraryA(szName)) {}
-    ~LoadedModule() {
-        if (m_hModule != nullptr) FreeLibrary(m_hModule);
-    }
-    LoadedModule(const LoadedModule&) = delete;
-    HMODULE Get() const { return m_hModule; }
-    void* Find(const char* szName) const {
-        return reinterpret_cast<void*>(GetProcAddress(m_hModule, szName));
-    }
-
-  private:
-    HMODULE m_hModule;
-};
+using test_support::LoadedModule;
 
 TEST(VendorAbi, EveryPlaceArrivesWithItsArgumentsAndResults) {
     const LoadedModule library("CURVEFIT.dll");
@@ -49,33 +36,16 @@ TEST(VendorAbi, EveryPlaceArrivesWithItsArgumentsAndResults) {
     EXPECT_EQ(pCall(pCreate, &options), 0u);
 }
 
-template <class Directory>
-const Directory* DirectoryOf(HMODULE hModule, unsigned uIndex) {
-    const auto* base = reinterpret_cast<const BYTE*>(hModule);
-    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
-    return reinterpret_cast<const Directory*>(
-        base + nt->OptionalHeader.DataDirectory[uIndex].VirtualAddress);
-}
-
 TEST(CurveFitFile, ExportsOneNameAndImportsFromTheSystemAlone) {
     const LoadedModule library("CURVEFIT.dll");
     ASSERT_NE(library.Get(), nullptr);
     const auto* base = reinterpret_cast<const char*>(library.Get());
-    const auto* exports =
-        DirectoryOf<IMAGE_EXPORT_DIRECTORY>(library.Get(), IMAGE_DIRECTORY_ENTRY_EXPORT);
+    const auto* exports = test_support::ExportsOf(library.Get());
     ASSERT_EQ(exports->NumberOfNames, 1u);
     const auto* names = reinterpret_cast<const DWORD*>(base + exports->AddressOfNames);
     EXPECT_STREQ(base + names[0], "_CFIT_CreateCurveFit@4");
-    std::set<std::string> imported;
-    for (const auto* import =
-             DirectoryOf<IMAGE_IMPORT_DESCRIPTOR>(library.Get(), IMAGE_DIRECTORY_ENTRY_IMPORT);
-         import->Name != 0; ++import) {
-        std::string sName = base + import->Name;
-        for (char& ch : sName) ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
-        imported.insert(sName);
-    }
-    EXPECT_EQ(imported, (std::set<std::string>{"KERNEL32.DLL", "MSVCRT.DLL"}));
+    EXPECT_EQ(test_support::ImportedBy(library.Get()),
+              (std::set<std::string>{"KERNEL32.DLL", "MSVCRT.DLL"}));
 }
 
 }  // namespace

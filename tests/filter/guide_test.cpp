@@ -35,28 +35,31 @@ std::map<std::string, std::vector<std::string>> RowsOf(const char* szHeading) {
     return rows;
 }
 
+struct Family {
+    const char* szName;       // among the families
+    const char* szShortName;  // among the numbers of points
+    FilterOptions (*record)(double);
+};
+
+const Family kFamilies[] = {
+    {"Bessel (8-pole)", "Bessel", [](double f) { return Lowpass(2, f); }},
+    {"Butterworth (8-pole)", "Butterworth", [](double f) { return Lowpass(4, f); }},
+    {"Chebyshev (8-pole)", "Chebyshev", [](double f) { return Lowpass(5, f); }},
+    {"RC (single pole)", "RC", [](double f) { return Lowpass(7, f); }},
+    {"RC (8-coincident-pole)", "RC, 8 poles", [](double f) { return Lowpass(8, f); }},
+    {"Gaussian", "Gaussian", [](double f) { return Lowpass(6, f); }},
+    {"Highpass Bessel (8-pole)", "Highpass Bessel", [](double f) { return Highpass(2, f); }},
+    {"Highpass RC (single pole)", "Highpass RC", [](double f) { return Highpass(7, f); }},
+    {"Notch", "Notch", [](double f) { return Notch(f, 0.01); }},
+};
+
 TEST(Guide, HasTheSmallestNumbersOfPoints) {
     const auto rows = RowsOf("The smallest number of points");
-    struct Row {
-        const char* szName;
-        FilterOptions (*record)(double);
-    };
-    const Row families[] = {
-        {"Bessel", [](double f) { return Lowpass(2, f); }},
-        {"Butterworth", [](double f) { return Lowpass(4, f); }},
-        {"Chebyshev", [](double f) { return Lowpass(5, f); }},
-        {"RC", [](double f) { return Lowpass(7, f); }},
-        {"RC, 8 poles", [](double f) { return Lowpass(8, f); }},
-        {"Gaussian", [](double f) { return Lowpass(6, f); }},
-        {"Highpass Bessel", [](double f) { return Highpass(2, f); }},
-        {"Highpass RC", [](double f) { return Highpass(7, f); }},
-        {"Notch", [](double f) { return Notch(f, 0.01); }},
-    };
-    ASSERT_EQ(rows.size(), 1 + std::size(families));
-    for (const Row& family : families) {
-        SCOPED_TRACE(family.szName);
-        ASSERT_EQ(rows.count(family.szName), 1u);
-        const std::vector<std::string>& cells = rows.at(family.szName);
+    ASSERT_EQ(rows.size(), 1 + std::size(kFamilies));
+    for (const Family& family : kFamilies) {
+        SCOPED_TRACE(family.szShortName);
+        ASSERT_EQ(rows.count(family.szShortName), 1u);
+        const std::vector<std::string>& cells = rows.at(family.szShortName);
         ASSERT_EQ(cells.size(), 7u);
         const double fractions[] = {0.0001, 0.001, 0.01, 0.1};
         for (std::size_t i = 0; i < 4; ++i) {
@@ -73,22 +76,7 @@ TEST(Guide, HasTheSmallestNumbersOfPoints) {
 
 TEST(Guide, HasTheHighestCutoffs) {
     const auto rows = RowsOf("The families");
-    struct Row {
-        const char* szName;
-        FilterOptions (*record)(double);
-    };
-    const Row families[] = {
-        {"Bessel (8-pole)", [](double f) { return Lowpass(2, f); }},
-        {"Butterworth (8-pole)", [](double f) { return Lowpass(4, f); }},
-        {"Chebyshev (8-pole)", [](double f) { return Lowpass(5, f); }},
-        {"RC (single pole)", [](double f) { return Lowpass(7, f); }},
-        {"RC (8-coincident-pole)", [](double f) { return Lowpass(8, f); }},
-        {"Gaussian", [](double f) { return Lowpass(6, f); }},
-        {"Highpass Bessel (8-pole)", [](double f) { return Highpass(2, f); }},
-        {"Highpass RC (single pole)", [](double f) { return Highpass(7, f); }},
-        {"Notch", [](double f) { return Notch(f, 0.01); }},
-    };
-    for (const Row& family : families) {
+    for (const Family& family : kFamilies) {
         SCOPED_TRACE(family.szName);
         ASSERT_EQ(rows.count(family.szName), 1u);
         const std::string& sCell = rows.at(family.szName)[1];

@@ -5,31 +5,22 @@
 #include <cstring>
 
 #include "FilterFixture.h"
+#include "fixtures/LoadedModule.h"
 #include "platform/platform.h"
 
 namespace {
 
 using namespace filter_test;
 
-class LoadedLibrary {
+class LoadedLibrary : public test_support::LoadedModule {
   public:
-    LoadedLibrary() : m_hModule(LoadLibraryA("FILTER.dll")) {}
-    ~LoadedLibrary() {
-        if (m_hModule != nullptr) FreeLibrary(m_hModule);
-    }
-    LoadedLibrary(const LoadedLibrary&) = delete;
-    HMODULE Get() const { return m_hModule; }
+    LoadedLibrary() : LoadedModule("FILTER.dll") {}
     ZXADLG_CreateFilter Create() const {
-        return reinterpret_cast<ZXADLG_CreateFilter>(
-            GetProcAddress(m_hModule, MAKEINTRESOURCEA(1000)));
+        return reinterpret_cast<ZXADLG_CreateFilter>(Find(MAKEINTRESOURCEA(1000)));
     }
     ZXADLG_ReleaseFilter Release() const {
-        return reinterpret_cast<ZXADLG_ReleaseFilter>(
-            GetProcAddress(m_hModule, MAKEINTRESOURCEA(1001)));
+        return reinterpret_cast<ZXADLG_ReleaseFilter>(Find(MAKEINTRESOURCEA(1001)));
     }
-
-  private:
-    HMODULE m_hModule;
 };
 
 TEST(Library, ExportsTwoFunctionsByNumber) {
@@ -40,7 +31,7 @@ TEST(Library, ExportsTwoFunctionsByNumber) {
     EXPECT_EQ(ZXADLG_FILTER_CREATE, 1000);
     EXPECT_EQ(ZXADLG_FILTER_RELEASE, 1001);
     for (const int nOrdinal : {1, 999, 1002})
-        EXPECT_EQ(GetProcAddress(library.Get(), MAKEINTRESOURCEA(nOrdinal)), nullptr) << nOrdinal;
+        EXPECT_EQ(library.Find(MAKEINTRESOURCEA(nOrdinal)), nullptr) << nOrdinal;
 }
 
 // The places by their numbers: a table of its own, with nothing of the contract.

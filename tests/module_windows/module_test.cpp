@@ -8,6 +8,8 @@
 
 #include "ZXADLG.h"
 #include "fixtures/DialogScript.h"
+#include "fixtures/LoadedModule.h"
+#include "fixtures/ModuleFile.h"
 #include "fixtures/TestDataSource.h"
 #include "fixtures/TestWindows.h"
 #include "ids.h"
@@ -16,25 +18,7 @@
 namespace {
 
 using test_support::DialogScript;
-
-class LoadedModule {
-  public:
-    explicit LoadedModule(const char* szName) : m_hModule(LoadLibraryA(szName)) {}
-    ~LoadedModule() {
-        if (m_hModule != nullptr) FreeLibrary(m_hModule);
-    }
-    LoadedModule(const LoadedModule&) = delete;
-    LoadedModule& operator=(const LoadedModule&) = delete;
-
-    HMODULE Get() const { return m_hModule; }
-    template <class F>
-    F* Function(const char* szName) const {
-        return reinterpret_cast<F*>(reinterpret_cast<void*>(GetProcAddress(m_hModule, szName)));
-    }
-
-  private:
-    HMODULE m_hModule;
-};
+using test_support::LoadedModule;
 
 constexpr char kModule[] = "ZXANALYSISDIALOGS.dll";
 using ShowNormalizeFunction = int32_t __cdecl(HWND, ZXADLG_NormalizeOptions*, ZXADLG_DataOptions*,
@@ -83,31 +67,13 @@ TEST(Module, ExportedTablesAreThoseThatTheConstructorsStore) {
     }
 }
 
-// Names of the modules that an image imports from, in capitals.
-std::set<std::string> ImportsOf(HMODULE hModule) {
-    const auto* base = reinterpret_cast<const BYTE*>(hModule);
-    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
-    const IMAGE_DATA_DIRECTORY& directory =
-        nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    std::set<std::string> names;
-    const auto* import =
-        reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + directory.VirtualAddress);
-    for (; import->Name != 0; ++import) {
-        std::string sName = reinterpret_cast<const char*>(base + import->Name);
-        for (char& ch : sName) ch = static_cast<char>(toupper(static_cast<unsigned char>(ch)));
-        names.insert(sName);
-    }
-    return names;
-}
-
 TEST(Module, ImportsFromTheSystemAlone) {
     const LoadedModule module(kModule);
     ASSERT_NE(module.Get(), nullptr);
     const std::set<std::string> system = {"ADVAPI32.DLL", "COMCTL32.DLL", "GDI32.DLL",
                                           "KERNEL32.DLL", "MSVCRT.DLL",   "USER32.DLL",
                                           "UXTHEME.DLL",  "SHELL32.DLL",  "OLE32.DLL"};
-    for (const std::string& sName : ImportsOf(module.Get()))
+    for (const std::string& sName : test_support::ImportedBy(module.Get()))
         EXPECT_EQ(system.count(sName), 1u) << sName;
 }
 
