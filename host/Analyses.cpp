@@ -61,6 +61,7 @@ constexpr FitOptions kDefaults<FitOptions> = {.dLMPrecision = 1e-6,
                                               .bWriteFittedData = 1};
 template <>
 constexpr ZXADLG_SignalProcessingOptions kDefaults<ZXADLG_SignalProcessingOptions> = {
+    .dSampleInterval = 100.0,
     .lowpass = {.m_bIsSelected = 1,
                 .m_eFilterFamily = 2,
                 .m_uNumAveragePoints = 7,

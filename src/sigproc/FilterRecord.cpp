@@ -53,6 +53,9 @@ void CompleteFilterRecord(FilterOptions& options, double dRate) {
     if (!IsHighpassFamily(options.highpass.m_eFilterFamily))
         options.highpass.m_eFilterFamily = kBessel;
 
+    std::int32_t& eReference = options.adaptive.m_eReferenceGeneration;
+    if (eReference < k50Hz || eReference > kAutoReference) eReference = k50Hz;
+
     // A high- or lowpass leaves the other two sections as they are.
     const FilterType eType = FilterTypeOf(options);
     const bool bNone = options.lowpass.m_bIsSelected == 0 && options.highpass.m_bIsSelected == 0;

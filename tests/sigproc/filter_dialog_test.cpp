@@ -484,6 +484,7 @@ TEST_F(FilterDialogTest, ReadOnlyShowsTheRecordAsItIs) {
     params.bReadOnly = 1;
     options.lowpass = {1, 2, 0, 0, 9000.0, 0.0, 0.0, 3, {}};
     options.highpass.m_dCornerFreq = 0.0;
+    options.adaptive.m_eReferenceGeneration = 9;
     const FilterOptions before = options;
     DialogScript script;
     script.ExpectTitle("Filter (read only)")
