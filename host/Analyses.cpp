@@ -76,6 +76,7 @@ constexpr ZXADLG_SignalProcessingOptions kDefaults<ZXADLG_SignalProcessingOption
     .eWindowType = 6,
     .dPoissonAlpha = 2.0,
     .dKaiserAlpha = 2.0,
+    .uTransformLength = 1024,
     .uNumBinsToExclude = 1,
     .bAverageSegments = 1};
 template <>
