@@ -13,6 +13,11 @@ struct PairedTiming {
     double dRatio;  // median of the rounds' ratios
 };
 
+inline double Median(std::vector<double> v) {
+    std::sort(v.begin(), v.end());
+    return v[v.size() / 2];
+}
+
 template <class Ours, class Peer>
 PairedTiming TimeInTurn(int nRounds, Ours ours, Peer peer) {
     using Clock = std::chrono::steady_clock;
@@ -29,11 +34,7 @@ PairedTiming TimeInTurn(int nRounds, Ours ours, Peer peer) {
         vOurs.push_back(time(ours));
         vRatios.push_back(vOurs.back() / vPeers.back());
     }
-    const auto median = [](std::vector<double>& v) {
-        std::sort(v.begin(), v.end());
-        return v[v.size() / 2];
-    };
-    return {median(vOurs), median(vPeers), median(vRatios)};
+    return {Median(vOurs), Median(vPeers), Median(vRatios)};
 }
 
 // "name ratio target ok", with the two times behind.

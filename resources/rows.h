@@ -5,7 +5,9 @@
 #define ZX_DIALOG_STYLE DS_SETFONT | DS_FIXEDSYS | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU
 #define ZX_PAGE_STYLE DS_SETFONT | DS_FIXEDSYS | WS_CHILD
 
-#define ZX_CHILD WS_CHILD | WS_VISIBLE
+// How the rows behind it start: a template may set this anew for controls that start grey or hidden.
+#define ZX_START WS_VISIBLE
+#define ZX_CHILD WS_CHILD | ZX_START
 
 // A label starts a group of its own, which ends a radio set before it.
 #define LABEL(text, id, x, y, w, h) CONTROL text, id, "STATIC", SS_LEFT | WS_GROUP | ZX_CHILD, x, y, w, h

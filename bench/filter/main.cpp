@@ -19,7 +19,7 @@
 namespace {
 
 constexpr std::size_t kPoints = 1000000;
-constexpr int kRounds = 9;
+constexpr int kRounds = 25;
 constexpr double kLoopTarget = 1.5;
 constexpr double kTransformTarget = 1.0 / 20.0;
 constexpr double kSamplingFrequency = 10000.0;

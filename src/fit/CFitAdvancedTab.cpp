@@ -179,30 +179,16 @@ void CFitAdvancedTab::UpdateControls() {
 void CFitAdvancedTab::ShowMethods() {
     ShowValue(m_chkAutomatic, m_pRecord->bAutoDefaultOptions != 0);
     EnableControls({&m_chkAutomatic}, true);
-    const std::array<bool, 4> search = {m_pFit->IsSearchLMEnabled(), m_pFit->IsSearchVMEnabled(),
-                                        m_pFit->IsSearchSimplexEnabled(),
-                                        m_pFit->IsSearchChebyshevEnabled()};
-    const std::array<bool, 4> minim = {m_pFit->IsMinimSSEnabled(), m_pFit->IsMinimMLEnabled(),
-                                       m_pFit->IsMinimMinimaxEnabled(),
-                                       m_pFit->IsMinimMeanAbsEnabled()};
-    const std::array<bool, 4> weight = {
-        m_pFit->IsWeightNoneEnabled(), m_pFit->IsWeightFunctionEnabled(),
-        m_pFit->IsWeightDataEnabled(), m_pFit->IsWeightBinWidthEnabled()};
-    const auto show = [this](ADM_RadioButtons& rad, std::int32_t eMethod,
-                             const std::array<bool, 4>& enabled,
+    const auto show = [this](ADM_RadioButtons& rad, std::int32_t eMethod, FitMethodGroup eGroup,
                              std::initializer_list<ADM_Wnd*> around) {
         ShowValue(rad, eMethod);
-        bool bAny = false;
-        for (int i = 0; i < 4; ++i) {
-            const bool bEnabled = enabled[static_cast<std::size_t>(i)];
-            EnableButton(rad, i, bEnabled);
-            bAny = bAny || bEnabled;
-        }
-        EnableControls(around, bAny);
+        for (int i = 0; i < kFitMethods; ++i) EnableButton(rad, i, m_pFit->IsOpen(eGroup, i));
+        EnableControls(around, m_pFit->IsAnyOpen(eGroup));
     };
-    show(m_radSearch, m_pFit->GetSearchMethod(), search, {&m_grpSearch, &m_lblPrecision});
-    show(m_radMinim, m_pRecord->eMinimMethod, minim, {&m_grpMinim});
-    show(m_radWeight, m_pRecord->eWeightingType, weight, {&m_grpWeight});
+    show(m_radSearch, m_pFit->GetSearchMethod(), FitMethodGroup::kSearch,
+         {&m_grpSearch, &m_lblPrecision});
+    show(m_radMinim, m_pRecord->eMinimMethod, FitMethodGroup::kMinim, {&m_grpMinim});
+    show(m_radWeight, m_pRecord->eWeightingType, FitMethodGroup::kWeighting, {&m_grpWeight});
 
     EnablePrecision(m_lm, kSearchLM, &FitOptions::bUseLMPrecisionDefault);
     EnablePrecision(m_vm, kSearchVM, &FitOptions::bUseVMPrecisionDefault);
@@ -242,6 +228,7 @@ void CFitAdvancedTab::ShowRange() {
     const CurveRangeForm form =
         FormOfCurveRange(data, m_bHasDataPage, IsReadOnly(), m_pFit->bDeferred);
     if (form.nCaption != 0) m_grpRange.LoadText(m_hInstance, static_cast<UINT>(form.nCaption));
+    EnableControls({&m_grpRange}, true);
     ShowControls({&m_chkCursorPair, &m_cmbCursorPair}, form.bCursorPair);
     ShowControls({&m_chkFrom, &m_chkTo}, form.bLimits);
     ShowControls({&m_txtFrom, &m_txtTo}, form.bLimitEdits);
@@ -260,7 +247,7 @@ void CFitAdvancedTab::ShowRange() {
 // --- Events --------------------------------------------------------------------------------------
 
 void CFitAdvancedTab::ChangeMethod() {
-    if (!m_pFit->Apply()) ShowFinding(m_hWnd, LibraryFailure());
+    ApplyOrTell(*m_pFit, m_hWnd);
 }
 
 void CFitAdvancedTab::ChangeZeroShift(bool bBefore) {

@@ -2,8 +2,6 @@
 // output, the range of the fitted curve and what stands in for an x of zero.
 #pragma once
 
-#include <array>
-
 #include "analysis/COptionsTabBase.h"
 #include "fit/CFitOptionsInterface.h"
 #include "framework/ADM_DoubleText.h"

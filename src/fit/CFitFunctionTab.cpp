@@ -78,9 +78,10 @@ void CFitFunctionTab::BindFunction() {
 // A number is stored as it is typed, pulled into its range; the text follows when it is left.
 void CFitFunctionTab::BindNumber(int nLabel, int nField, int nSpin, Number& number, Get get,
                                  Set set) {
+    number.get = get;
     Label(nLabel, number.lbl);
     Bind(nField, number.txt, get, set);
-    OnEvent(number.txt, ADMN_KILLFOCUS, [&number, get] { number.txt.SetValue(get()); });
+    OnEvent(number.txt, ADMN_KILLFOCUS, [&number] { number.txt.SetValue(number.get()); });
     Spinner(nSpin, number.spn, number.txt);
 }
 
@@ -155,7 +156,7 @@ bool CFitFunctionTab::SetUp() {
         m_cmbGroup.SetItemData(m_cmbGroup.AddString(group.szCaption), group.eGroup);
     m_cmbEquation.LimitText(kEquationLimit);
     StoreExampleEquations(*m_pRecord);
-    if (!IsReadOnly() && !m_pFit->Apply()) ShowFinding(m_hWnd, LibraryFailure());
+    if (!IsReadOnly()) ApplyOrTell(*m_pFit, m_hWnd);
     return true;
 }
 
@@ -181,17 +182,19 @@ void CFitFunctionTab::ShowFunction() {
 void CFitFunctionTab::ShowNumbers() {
     const UpdateScope updating(m_bUpdating);
     ShowFunction();
-    m_terms.txt.SetValue(static_cast<std::int32_t>(m_pFit->GetDlgOrder()));
-    m_powerA.txt.SetValue(static_cast<std::int32_t>(m_pFit->GetPowerA()));
-    m_powerB.txt.SetValue(static_cast<std::int32_t>(m_pFit->GetPowerB()));
+    ShowStoredNumbers();
     m_txtTemperature.SetValue(m_pFit->GetTemperature());
-    m_valence.txt.SetValue(m_pFit->GetValence());
+}
+
+// What was typed out of its range has been stored within it.
+void CFitFunctionTab::ShowStoredNumbers() {
+    for (Number* pNumber : {&m_terms, &m_powerA, &m_powerB, &m_valence, &m_start, &m_end})
+        pNumber->txt.SetValue(pNumber->get());
 }
 
 // In the group chosen, and offered at all.
 bool CFitFunctionTab::IsListed(std::int32_t eFunction) const {
-    const bool bSeveralVariables = eFunction == 19 || eFunction == 20;
-    if (bSeveralVariables && !m_pFit->bGhkAvailable) return false;
+    if (NeedsColumns(eFunction) && !m_pFit->bGhkAvailable) return false;
     const FitFunctionEntry* pEntry = FindFitFunction(eFunction);
     return pEntry != nullptr && (m_pRecord->eFunctionGroupID == kAllFunctions ||
                                  m_pRecord->eFunctionGroupID == pEntry->eGroup);
@@ -277,8 +280,7 @@ BOOL CFitFunctionTab::OnPageShow() {
 // --- Events --------------------------------------------------------------------------------------
 
 void CFitFunctionTab::Settle() {
-    if (m_pFit->Apply()) return;
-    ShowFinding(m_hWnd, LibraryFailure());
+    if (ApplyOrTell(*m_pFit, m_hWnd)) return;
     ShowNumbers();
     RequestUpdate();
 }
@@ -373,15 +375,9 @@ bool CFitFunctionTab::Compile(bool bReport) {
 // --- Checking ------------------------------------------------------------------------------------
 
 BOOL CFitFunctionTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
-    // What is typed out of its range has been stored within it.
     if (!IsReadOnly()) {
         const UpdateScope updating(m_bUpdating);
-        m_terms.txt.SetValue(static_cast<std::int32_t>(m_pFit->GetDlgOrder()));
-        m_powerA.txt.SetValue(static_cast<std::int32_t>(m_pFit->GetPowerA()));
-        m_powerB.txt.SetValue(static_cast<std::int32_t>(m_pFit->GetPowerB()));
-        m_valence.txt.SetValue(m_pFit->GetValence());
-        m_start.txt.SetValue(static_cast<std::int32_t>(m_pRecord->uStartCompare));
-        m_end.txt.SetValue(static_cast<std::int32_t>(m_pRecord->uEndCompare));
+        ShowStoredNumbers();
     }
     const auto fail = [ppFailed](ADM_Wnd* pControl) {
         if (ppFailed != nullptr) *ppFailed = pControl;

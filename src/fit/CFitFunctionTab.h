@@ -24,14 +24,15 @@ class CFitFunctionTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialo
     bool Compile(bool bReport);
 
   private:
+    using Get = std::function<std::int32_t()>;
+    using Set = std::function<void(std::int32_t)>;
     // A number with its label and spinner.
     struct Number {
         ADM_Static lbl;
         ADM_IntegerListText txt;
         ADM_Spinner spn;
+        Get get;
     };
-    using Get = std::function<std::int32_t()>;
-    using Set = std::function<void(std::int32_t)>;
 
     bool SetUp() override;
     void ShowOptions() override;
@@ -40,6 +41,7 @@ class CFitFunctionTab : public CRecordPage<FitOptions, CEditPage<ADM_TabSubDialo
     void BindComparison();
     void BindFunction();
     void ShowNumbers();
+    void ShowStoredNumbers();
     void ShowFunction();
     void FillList();
     void FillEquations();

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr double kUsualTemperature = 20.0;
-constexpr std::int32_t kStandardExponential = 15;
+constexpr std::int32_t kPolynomial = 34;
 constexpr double kEvenTolerance = 0.01;
 constexpr std::uint32_t kMostParams = 24;
 constexpr std::uint32_t kColumns = 4;  // of the grid
@@ -170,22 +170,22 @@ void CFitOptionsInterface::SetValence(std::int32_t nValence) {
 // --- Terms ---------------------------------------------------------------------------------------
 
 std::uint32_t CFitOptionsInterface::GetDlgOrder() const {
-    constexpr std::int32_t kPolynomial = 34;
     return InTerms(GetFunction() == kPolynomial ? m_pOptions->uPolynomTerm
                                                 : m_pOptions->uDlgFitOrder);
 }
 
 void CFitOptionsInterface::SetDlgOrder(std::uint32_t uOrder) {
-    constexpr std::int32_t kPolynomial = 34;
     (GetFunction() == kPolynomial ? m_pOptions->uPolynomTerm : m_pOptions->uDlgFitOrder) = uOrder;
     // One for a function without a number of terms.
     m_pOptions->uFitOrder = EffectiveTermCount();
 }
 
+bool CFitOptionsInterface::IsOneTermByChebyshev() const {
+    return GetSearchMethod() == kSearchChebyshev && (GetFunction() == 3 || GetFunction() == 11);
+}
+
 bool CFitOptionsInterface::IsTermCapable() const {
-    const bool bOneTermOnly =
-        GetSearchMethod() == kSearchChebyshev && (GetFunction() == 3 || GetFunction() == 11);
-    return !bOneTermOnly && m_Props.bMultiTerm != 0;
+    return !IsOneTermByChebyshev() && m_Props.bMultiTerm != 0;
 }
 
 bool CFitOptionsInterface::IsComparing() const {
@@ -282,6 +282,26 @@ bool CFitOptionsInterface::IsWeightBinWidthEnabled() const {
     return IsWeightEnabled(kWeightBinWidth) && m_Props.bBinWidthWeighting != 0;
 }
 
+bool CFitOptionsInterface::IsOpen(FitMethodGroup eGroup, std::int32_t eMethod) const {
+    using Rule = bool (CFitOptionsInterface::*)() const;
+    using This = CFitOptionsInterface;
+    static constexpr Rule kRules[][kFitMethods] = {
+        {&This::IsSearchLMEnabled, &This::IsSearchVMEnabled, &This::IsSearchSimplexEnabled,
+         &This::IsSearchChebyshevEnabled},
+        {&This::IsMinimSSEnabled, &This::IsMinimMLEnabled, &This::IsMinimMinimaxEnabled,
+         &This::IsMinimMeanAbsEnabled},
+        {&This::IsWeightNoneEnabled, &This::IsWeightFunctionEnabled, &This::IsWeightDataEnabled,
+         &This::IsWeightBinWidthEnabled}};
+    return (this->*kRules[static_cast<int>(eGroup)][eMethod])();
+}
+
+bool CFitOptionsInterface::IsAnyOpen(FitMethodGroup eGroup) const {
+    for (std::int32_t e = 0; e < kFitMethods; ++e) {
+        if (IsOpen(eGroup, e)) return true;
+    }
+    return false;
+}
+
 bool CFitOptionsInterface::IsZeroShiftPermitted() const {
     return m_Props.bZeroShiftAllowed != 0 && m_Props.bZeroShiftMandatory == 0;
 }
@@ -302,9 +322,7 @@ bool CFitOptionsInterface::IsForcePositiveInEffect() const {
 }
 
 bool CFitOptionsInterface::IsFreeAndRefitEnabled() const {
-    const bool bNoRefit =
-        GetSearchMethod() == kSearchChebyshev && (GetFunction() == 3 || GetFunction() == 11);
-    return !IsLineOrPolynomial() && !bNoRefit;
+    return !IsLineOrPolynomial() && !IsOneTermByChebyshev();
 }
 
 bool CFitOptionsInterface::IsAutoRefitEnabled() const {

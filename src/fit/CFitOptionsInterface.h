@@ -108,6 +108,9 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     bool IsWeightFunctionEnabled() const { return IsWeightEnabled(kWeightFunction); }
     bool IsWeightDataEnabled() const { return IsWeightEnabled(kWeightData); }
     bool IsWeightBinWidthEnabled() const;
+    // The same by the number of the method.
+    bool IsOpen(FitMethodGroup eGroup, std::int32_t eMethod) const;
+    bool IsAnyOpen(FitMethodGroup eGroup) const;
     bool IsZeroShiftPermitted() const;
     // What a record for the library is given; mandatory zero-shift is the library's own.
     bool IsZeroShiftInEffect() const;
@@ -190,12 +193,15 @@ class CFitOptionsInterface : public CAnalysisOptionsInterfaceBase {
     bool IsFirstXZero() const;
     bool ChooseAutomatically();
     bool MoveSelections();
-    bool MoveSearch();
-    bool MoveMinim();
-    bool MoveWeighting();
+    std::int32_t MovedSearch();
+    std::int32_t MovedMinim() const;
+    std::int32_t MovedWeighting() const;
+    template <class Next>
+    std::int32_t MoveOn(FitMethodGroup eGroup, std::int32_t eMethod, Next next) const;
     bool ReadFor(const Settled& now);
     bool IsAutomaticallyOther(std::int32_t eStands, std::int32_t eThis) const;
     bool IsWeightEnabled(std::int32_t eWeighting) const;
+    bool IsOneTermByChebyshev() const;
 
     FitOptions* m_pOptions;
     CDataOptionsInterface* m_pData;

@@ -91,105 +91,49 @@ bool CFitOptionsInterface::ChooseAutomatically() {
 
 // --- Moving a selection by hand ------------------------------------------------------------------
 
-bool CFitOptionsInterface::MoveSearch() {
-    const std::int32_t eBefore = GetSearchMethod();
-    const auto enabled = [this](std::int32_t eMethod) {
-        switch (eMethod) {
-            case kSearchLM:
-                return IsSearchLMEnabled();
-            case kSearchVM:
-                return IsSearchVMEnabled();
-            case kSearchSimplex:
-                return IsSearchSimplexEnabled();
-            default:
-                return IsSearchChebyshevEnabled();
-        }
-    };
-    const auto any = [&enabled] {
-        return enabled(kSearchLM) || enabled(kSearchVM) || enabled(kSearchSimplex) ||
-               enabled(kSearchChebyshev);
-    };
-    if (!any()) return false;
-    std::int32_t eMethod = eBefore;
-    for (int i = 0; i < 4 && !enabled(eMethod); ++i) {
-        const bool bConstrained = GetFunction() == kConstrainedExponential;
-        eMethod = eMethod == kSearchChebyshev || (eMethod == kSearchSimplex && bConstrained)
-                      ? kSearchLM
-                      : eMethod + 1;
-    }
-    if (eMethod == kSearchChebyshev && GetFunction() != 15 && GetFunction() != 14 &&
-        GetFunction() != 3 && GetFunction() != 11) {
-        // The traits are those of the function under another method.
-        SetSearchMethod(kSearchLM);
-        ReadFor(Now());
-        eMethod = m_Props.bSubstitutesZeroX != 0 ? kSearchSimplex : kSearchLM;
-    }
-    SetSearchMethod(eMethod);
-    return eMethod != eBefore;
+// The method, moved on until one that is open is found. Where none is, it stays.
+template <class Next>
+std::int32_t CFitOptionsInterface::MoveOn(FitMethodGroup eGroup, std::int32_t eMethod,
+                                          Next next) const {
+    if (!IsAnyOpen(eGroup)) return eMethod;
+    for (int i = 0; i < kFitMethods && !IsOpen(eGroup, eMethod); ++i) eMethod = next(eMethod);
+    return eMethod;
 }
 
-bool CFitOptionsInterface::MoveWeighting() {
-    const std::int32_t eBefore = m_pOptions->eWeightingType;
-    const auto enabled = [this](std::int32_t eWeighting) {
-        return eWeighting == kWeightBinWidth ? IsWeightBinWidthEnabled()
-                                             : IsWeightEnabled(eWeighting);
-    };
-    const auto any = [&enabled] {
-        return enabled(kWeightNone) || enabled(kWeightFunction) || enabled(kWeightData) ||
-               enabled(kWeightBinWidth);
-    };
-    if (!any()) return false;
-    std::int32_t e = eBefore;
-    for (int i = 0; i < 4 && !enabled(e); ++i) e = (e + 1) % 4;
-    m_pOptions->eWeightingType = e;
-    return e != eBefore;
+std::int32_t CFitOptionsInterface::MovedSearch() {
+    if (!IsAnyOpen(FitMethodGroup::kSearch)) return GetSearchMethod();
+    const bool bConstrained = GetFunction() == kConstrainedExponential;
+    const std::int32_t eMethod =
+        MoveOn(FitMethodGroup::kSearch, GetSearchMethod(), [bConstrained](std::int32_t e) {
+            const bool bLast = e == kSearchChebyshev || (e == kSearchSimplex && bConstrained);
+            return bLast ? kSearchLM : e + 1;
+        });
+    if (eMethod != kSearchChebyshev || IsFittedByChebyshev(GetFunction())) return eMethod;
+    // The traits are those of the function under another method.
+    SetSearchMethod(kSearchLM);
+    ReadFor(Now());
+    return m_Props.bSubstitutesZeroX != 0 ? kSearchSimplex : kSearchLM;
 }
 
-bool CFitOptionsInterface::MoveMinim() {
-    const std::int32_t eBefore = m_pOptions->eMinimMethod;
-    const auto enabled = [this](std::int32_t eMinim) {
-        switch (eMinim) {
-            case kMinimSS:
-                return IsMinimSSEnabled();
-            case kMinimML:
-                return IsMinimMLEnabled();
-            case kMinimMinimax:
-                return IsMinimMinimaxEnabled();
-            default:
-                return IsMinimMeanAbsEnabled();
-        }
-    };
-    const auto any = [&enabled] {
-        return enabled(kMinimSS) || enabled(kMinimML) || enabled(kMinimMinimax) ||
-               enabled(kMinimMeanAbs);
-    };
-    if (!any()) return false;
-    std::int32_t e = eBefore;
-    for (int i = 0; i < 4 && !enabled(e); ++i) {
-        switch (e) {
-            case kMinimSS:
-                e = kMinimML;
-                break;
-            case kMinimML:
-                e = enabled(kMinimSS) ? kMinimSS : kMinimMinimax;
-                break;
-            case kMinimMinimax:
-                e = kMinimMeanAbs;
-                break;
-            default:
-                e = kMinimSS;
-                break;
-        }
-    }
-    m_pOptions->eMinimMethod = e;
-    return e != eBefore;
+std::int32_t CFitOptionsInterface::MovedWeighting() const {
+    return MoveOn(FitMethodGroup::kWeighting, m_pOptions->eWeightingType,
+                  [](std::int32_t e) { return (e + 1) % kFitMethods; });
+}
+
+std::int32_t CFitOptionsInterface::MovedMinim() const {
+    return MoveOn(FitMethodGroup::kMinim, m_pOptions->eMinimMethod, [this](std::int32_t e) {
+        if (e == kMinimML && !IsMinimSSEnabled()) return kMinimMinimax;
+        constexpr FitMinimMethod kNext[] = {kMinimML, kMinimSS, kMinimMeanAbs, kMinimSS};
+        return kNext[e];
+    });
 }
 
 bool CFitOptionsInterface::MoveSelections() {
-    const bool bSearch = MoveSearch();
-    const bool bWeighting = MoveWeighting();
-    const bool bMinim = MoveMinim();
-    return bSearch || bWeighting || bMinim;
+    const Settled before = Now();
+    SetSearchMethod(MovedSearch());
+    m_pOptions->eWeightingType = MovedWeighting();
+    m_pOptions->eMinimMethod = MovedMinim();
+    return Now() != before;
 }
 
 // --- Coming to rest ------------------------------------------------------------------------------

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+#include "fit/FitVariables.h"
+
 namespace {
 
 constexpr std::uint32_t kRows = 6;
@@ -32,6 +34,10 @@ FitDataStats StatsOf(const double* pX, const double* pY, std::uint32_t uCount) {
 CFitSeedInterface::CFitSeedInterface(CFitOptionsInterface* pFit, CDataOptionsInterface* pData)
     : m_pFit(pFit), m_pData(pData) {}
 
+std::uint32_t CFitSeedInterface::GridCount() const {
+    return std::min(m_pFit->GridParameterCount(), kGridPlaces);
+}
+
 std::uint32_t CFitSeedInterface::PlaceOfFlat(std::uint32_t uFlat) const {
     if (m_pFit->IsCustomFunction()) return uFlat * kColumns - (uFlat / kRows) * 23;
     const std::uint32_t uTerms = m_pFit->EffectiveTermCount();
@@ -55,7 +61,7 @@ std::uint32_t CFitSeedInterface::GetSeeds(double* pSeeds, std::uint32_t* pFixed)
         if (pFixed != nullptr) pFixed[uCount] = uFixed[uPlace];
         ++uCount;
     };
-    const std::uint32_t uGrid = std::min(m_pFit->GridParameterCount(), kGridPlaces);
+    const std::uint32_t uGrid = GridCount();
     for (std::uint32_t i = 0; i < uGrid; ++i) add(PlaceOfFlat(i));
     if (m_pFit->IsCustomFunction()) return uCount;
     if (m_pFit->Properties().bHasOffset != 0) add(CFitOptionsInterface::kOffsetPlace);
@@ -65,7 +71,7 @@ std::uint32_t CFitSeedInterface::GetSeeds(double* pSeeds, std::uint32_t* pFixed)
 
 void CFitSeedInterface::SetSeeds(const double* pSeeds) {
     dSeeds.fill(0.0);
-    const std::uint32_t uGrid = std::min(m_pFit->GridParameterCount(), kGridPlaces);
+    const std::uint32_t uGrid = GridCount();
     for (std::uint32_t i = 0; i < uGrid; ++i) dSeeds[PlaceOfFlat(i)] = *pSeeds++;
     if (m_pFit->IsCustomFunction()) return;
     if (m_pFit->Properties().bHasOffset != 0)
@@ -121,17 +127,7 @@ bool CFitSeedInterface::Draw(const double* pX, double* pY, std::uint32_t uCount,
     stats.dOffsetSeed = dWork[CFitOptionsInterface::kOffsetPlace];
     stats.dSlopeSeed = dWork[CFitOptionsInterface::kSlopePlace];
     if (use->SetUpCurve(&stats, pFlat) == 0) return false;
-    // A constant stands in for its variable at every point.
-    const std::uint32_t uVariables = std::clamp<std::uint32_t>(
-        m_pData->GetConstantCount(), 1, CDataOptionsInterface::kMaxConstants);
-    std::vector<std::vector<double>> constants(uVariables);
-    std::vector<const double*> arrays(uVariables, pX);
-    for (std::uint32_t i = 0; uVariables > 1 && i < uVariables; ++i) {
-        if (!m_pData->GetIsConstant(i)) continue;
-        constants[i].assign(uCount, m_pData->GetConstant(i));
-        arrays[i] = constants[i].data();
-    }
-    return use->Evaluate(arrays.data(), pY, uCount) != 0;
+    return use->Evaluate(FitVariables(*m_pData, pX, uCount).Arrays(), pY, uCount) != 0;
 }
 
 bool CFitSeedInterface::CurveFromSeeds(const double* pX, double* pY, std::uint32_t uCount,
@@ -139,7 +135,7 @@ bool CFitSeedInterface::CurveFromSeeds(const double* pX, double* pY, std::uint32
     const std::uint32_t uEffective = m_pFit->EffectiveTermCount();
     if (uTerms < uEffective) return CurveOfTerm(pX, pY, uCount, 0);
     double flat[kPlaces] = {};
-    const std::uint32_t uGrid = std::min(m_pFit->GridParameterCount(), kGridPlaces);
+    const std::uint32_t uGrid = GridCount();
     for (std::uint32_t i = 0; i < uGrid; ++i) flat[i] = dWork[PlaceOfFlat(i)];
     AddLinear(flat + uGrid);
     return Draw(pX, pY, uCount, uEffective, flat);

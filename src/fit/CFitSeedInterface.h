@@ -24,6 +24,9 @@ class CFitSeedInterface {
         return uColumn + uTerm * kColumns;
     }
 
+    // Grid parameters of the current function that have a place.
+    std::uint32_t GridCount() const;
+
     // --- Values. Terms and columns beyond the places read 0 and keep nothing; term 6 is the offset
     // (column 0) and the slope (column 1).
     double GetSeed(std::uint32_t uTerm, std::uint32_t uColumn) const;

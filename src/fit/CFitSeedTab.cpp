@@ -4,6 +4,7 @@
 
 #include "fit/FitChecks.h"
 #include "fit/FitSeedRules.h"
+#include "fit/FitVariables.h"
 #include "fit_control_ids.h"
 #include "fit_ids.h"
 #include "text/CaptionText.h"
@@ -201,18 +202,9 @@ bool CFitSeedTab::Compute() {
     const double* y = data.GetYValues();
     if (x == nullptr || y == nullptr) return false;
     const std::uint32_t uPoints = std::min(data.GetFetchedXCount(), data.GetFetchedYCount());
-    // A constant stands in for its variable at every point.
-    const std::uint32_t uVariables = std::max(data.GetConstantCount(), 1u);
-    std::vector<std::vector<double>> constants(uVariables);
-    std::vector<const double*> arrays(uVariables, x);
-    for (std::uint32_t i = 0; uVariables > 1 && i < uVariables; ++i) {
-        if (!data.GetIsConstant(i)) continue;
-        constants[i].assign(uPoints, data.GetConstant(i));
-        arrays[i] = constants[i].data();
-    }
-    arrays.push_back(y);
-    return m_pSeeds->ComputeSeeds(arrays.data(), static_cast<std::uint32_t>(arrays.size()),
-                                  uPoints);
+    FitVariables variables(data, x, uPoints);
+    variables.Append(y);
+    return m_pSeeds->ComputeSeeds(variables.Arrays(), variables.Count(), uPoints);
 }
 
 // --- What was typed ------------------------------------------------------------------------------
@@ -220,7 +212,7 @@ bool CFitSeedTab::Compute() {
 void CFitSeedTab::TakeTyped() {
     if (!m_bTyped) return;
     m_bTyped = false;
-    if (IsAnySeedMissing(*m_pFit, *m_pSeeds)) return;
+    if (FindMissingSeed(*m_pFit, *m_pSeeds)) return;
     const bool bChebyshev = m_pFit->GetSearchMethod() == kSearchChebyshev;
     if (!m_pFit->IsCustomFunction() && (!bChebyshev || m_pFit->bSeedsValid)) {
         m_pFit->bSeedsValid = AreSeedsUsable(*m_pFit, *m_pSeeds);

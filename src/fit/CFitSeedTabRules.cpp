@@ -29,8 +29,7 @@ bool CFitSeedTab::IsShownPlace(std::uint32_t uPlace) const {
         return !m_pFit->IsCustomFunction() && props.bHasOffset != 0;
     if (uPlace == CFitOptionsInterface::kSlopePlace)
         return !m_pFit->IsCustomFunction() && props.bHasSlope != 0;
-    const std::uint32_t uCount = std::min(m_pFit->GridParameterCount(), kGrid);
-    for (std::uint32_t i = 0; i < uCount; ++i) {
+    for (std::uint32_t i = 0; i < m_pSeeds->GridCount(); ++i) {
         if (m_pSeeds->PlaceOfFlat(i) == uPlace) return true;
     }
     return false;
@@ -58,9 +57,8 @@ int CFitSeedTab::NoteString() const {
 // What is forced positive, or why nothing is; the first that applies.
 int CFitSeedTab::ForceString() const {
     const FitFunctionProps& props = m_pFit->Properties();
-    const bool bChebyshev = m_pFit->GetSearchMethod() == kSearchChebyshev &&
-                            (m_pFit->GetFunction() == 3 || m_pFit->GetFunction() == 11 ||
-                             m_pFit->GetFunction() == 14 || m_pFit->GetFunction() == 15);
+    const bool bChebyshev =
+        m_pFit->GetSearchMethod() == kSearchChebyshev && IsFittedByChebyshev(m_pFit->GetFunction());
     if (props.bAlwaysPositive != 0)
         return props.bHasOffset != 0 ? IDS_FIT_FORCED_ALL_BUT_OFFSET : IDS_FIT_FORCED_ALL;
     if (m_pFit->IsLineOrPolynomial()) return IDS_FIT_FORCE_NOT_REGRESSION;

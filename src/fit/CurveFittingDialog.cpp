@@ -12,23 +12,11 @@
 #include "fit/FitEquation.h"
 #include "fit/FitMemory.h"
 #include "fit/FitMessages.h"
-#include "fit/FitNameLine.h"
 #include "fit/FitSeedRules.h"
 #include "fit_control_ids.h"
 #include "fit_ids.h"
 #include "ids.h"
 #include "widgets/FrameworkSetup.h"
-
-namespace {
-
-constexpr std::int32_t kStandardExponential = 15;
-
-// Functions of several variables, which only a sheet can give.
-bool NeedsColumns(std::int32_t eFunction) {
-    return eFunction == 19 || eFunction == 20;
-}
-
-}  // namespace
 
 // --- Building ------------------------------------------------------------------------------------
 
@@ -259,8 +247,11 @@ void CFitDialog::UpdateControls() {
 
 void CFitDialog::ShowName() {
     const auto fields = FitNameLine(*m_pFit, *m_pSeeds);
-    for (int i = 0; i < kFitNameFields; ++i)
-        m_lblName.SetArg(i, fields[static_cast<std::size_t>(i)].c_str());
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (fields[i] == m_name[i]) continue;
+        m_name[i] = fields[i];
+        m_lblName.SetArg(static_cast<int>(i), fields[i].c_str());
+    }
 }
 
 void CFitDialog::ShowPicture() {

@@ -11,6 +11,7 @@
 
 #include "analysis/CParentDialogBase.h"
 #include "fit/CFitSeedInterface.h"
+#include "fit/FitNameLine.h"
 #include "framework/ADM_MetafileWnd.h"
 #include "framework/ADM_StaticText.h"
 
@@ -92,6 +93,7 @@ class CFitDialog : public CParentDialogBase {
     std::string m_sSelectedData;  // that the pages know of
 
     ADM_StaticText m_lblName;
+    FitNameFields m_name;  // shown
     ADM_Static m_lblHelp;
     ADM_MetafileWnd m_picture;
     std::string m_sPicture;  // shown

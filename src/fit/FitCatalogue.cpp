@@ -167,6 +167,14 @@ const char* FitFunctionPictureName(std::int32_t eFunction, std::int32_t eSearch,
     return pEntry->szPicture;
 }
 
+bool IsFittedByChebyshev(std::int32_t eFunction) {
+    return eFunction == 3 || eFunction == 11 || eFunction == 14 || eFunction == 15;
+}
+
+bool NeedsColumns(std::int32_t eFunction) {
+    return eFunction == 19 || eFunction == 20;
+}
+
 double FitOptions::*FitTemperatureField(std::int32_t eFunction) {
     return FieldOf(eFunction, &OwnFields::pTemperature);
 }

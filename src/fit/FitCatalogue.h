@@ -10,6 +10,7 @@
 
 // Numbers of eFunctionType beyond the predefined functions 0 to 37.
 constexpr std::int32_t kCustomFitFunction = 38;
+constexpr std::int32_t kStandardExponential = 15;  // what stands in for one that cannot be had
 constexpr std::int32_t kNoFitFunction = 39;  // no function before; never stored as a selection
 
 enum FitFunctionGroup : std::int32_t {
@@ -40,6 +41,10 @@ enum FitWeighting : std::int32_t {
     kWeightBinWidth = 3,
 };
 
+// The three choices of a method, and how many methods each has.
+enum class FitMethodGroup { kSearch, kMinim, kWeighting };
+constexpr std::int32_t kFitMethods = 4;
+
 struct FitFunctionEntry {
     std::int32_t eFunction;
     int nCaptionString;
@@ -60,6 +65,11 @@ const FitFunctionEntry* FindFitFunction(std::int32_t eFunction);
 int FitCaptionString(std::int32_t eFunction);
 // The METAFILE resource of the equation.
 const char* FitFunctionPictureName(std::int32_t eFunction, std::int32_t eSearch, bool bHasOffset);
+
+// The functions that Chebyshev is for when the methods are chosen by hand.
+bool IsFittedByChebyshev(std::int32_t eFunction);
+// Functions of several variables, which only the columns of a sheet can give.
+bool NeedsColumns(std::int32_t eFunction);
 
 // The field in which a function keeps a number of its own, or null.
 double FitOptions::*FitTemperatureField(std::int32_t eFunction);

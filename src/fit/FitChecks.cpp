@@ -7,6 +7,7 @@
 
 #include "ZXADLG.h"
 #include "contract/SelectionList.h"
+#include "fit/FitSeedRules.h"
 #include "fit_control_ids.h"
 #include "fit_ids.h"
 #include "ids.h"
@@ -152,24 +153,10 @@ CheckResult CheckColumnLengths(const CDataOptionsInterface& data) {
 
 namespace {
 
-bool AreUsable(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds) {
-    CFitSeedInterface::Values flat{};
-    CFitSeedInterface::Flags fixed{};
-    seeds.GetSeeds(flat.data(), fixed.data());
-    return fit.AreSeedsUsable(flat.data(), fixed.data());
-}
-
 // The edit of the first seed that is missing.
 int FirstMissing(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds) {
-    const std::uint32_t uGrid =
-        std::min(fit.GridParameterCount(), CFitOptionsInterface::kOffsetPlace);
-    for (std::uint32_t i = 0; i < uGrid; ++i) {
-        const std::uint32_t uPlace = seeds.PlaceOfFlat(i);
-        const double d = seeds.dSeeds[uPlace];
-        if (!fit.IsCustomFunction() && i == fit.Properties().uZeroAllowedParam) continue;
-        if (d == 0.0 || !std::isfinite(d)) return IDC_FIT_SEED_FIRST + static_cast<int>(uPlace);
-    }
-    return 0;
+    const auto uPlace = FindMissingSeed(fit, seeds);
+    return uPlace ? IDC_FIT_SEED_FIRST + static_cast<int>(*uPlace) : 0;
 }
 
 }  // namespace
@@ -183,7 +170,7 @@ CheckResult CheckSeeds(CFitOptionsInterface& fit, const CFitSeedInterface& seeds
     if (fit.IsComparing()) return {};
     // There is no estimate that could be more valid than what was typed.
     if (fit.IsCustomFunction()) fit.bSeedsValid = true;
-    const bool bUsable = AreUsable(fit, seeds);
+    const bool bUsable = AreSeedsUsable(fit, seeds);
     if (bUsable && fit.bSeedsValid) return {};
     fit.bAutoSeedDeclined = false;
     if (fit.IsCustomFunction())
@@ -215,7 +202,7 @@ CheckResult CheckSeeds(CFitOptionsInterface& fit, const CFitSeedInterface& seeds
 }
 
 CheckResult CheckEstimate(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds) {
-    if (fit.IsComparing() || fit.bSeedsValid || AreUsable(fit, seeds)) return {};
+    if (fit.IsComparing() || fit.bSeedsValid || AreSeedsUsable(fit, seeds)) return {};
     return Finding{.nPage = kFitSeedPage};
 }
 

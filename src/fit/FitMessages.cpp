@@ -7,6 +7,12 @@ Finding LibraryFailure() {
     return {.nStringId = IDS_FIT_LIBRARY_FAILED};
 }
 
+bool ApplyOrTell(CFitOptionsInterface& fit, HWND hOwner) {
+    if (fit.Apply()) return true;
+    ShowFinding(hOwner, LibraryFailure());
+    return false;
+}
+
 void EquationMessages::ShowString(int nStringId) {
     ShowFinding(m_hOwner, {.nStringId = static_cast<UINT>(nStringId)});
 }

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "contract/Finding.h"
+#include "fit/CFitOptionsInterface.h"
 #include "parser/CustomFunction.h"
 
 // The curve-fit library is missing or refuses the function.
 Finding LibraryFailure();
+// Brings the record to rest. False where the library refused, of which the user is told.
+bool ApplyOrTell(CFitOptionsInterface& fit, HWND hOwner);
 
 // Tells of the faults of a custom function over a window.
 class EquationMessages final : public CustomFunctionMessages {

@@ -26,8 +26,7 @@ bool IsAnyFixed(const CFitSeedInterface& seeds) {
 
 }  // namespace
 
-std::array<std::string, kFitNameFields> FitNameLine(const CFitOptionsInterface& fit,
-                                                    const CFitSeedInterface& seeds) {
+FitNameFields FitNameLine(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds) {
     const FitOptions& options = fit.Options();
     const FitFunctionProps& props = fit.Properties();
     const auto text = [&fit](int nString) -> std::string {

@@ -7,7 +7,6 @@
 
 #include "fit/CFitSeedInterface.h"
 
-constexpr int kFitNameFields = 8;
+using FitNameFields = std::array<std::string, 8>;
 
-std::array<std::string, kFitNameFields> FitNameLine(const CFitOptionsInterface& fit,
-                                                    const CFitSeedInterface& seeds);
+FitNameFields FitNameLine(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds);

@@ -37,10 +37,6 @@ bool CanDivideBy(double dSum) {
     return dSum > 0.0 && std::isfinite(dSum) && std::fabs(dSum - 1.0) > kNormalTolerance;
 }
 
-std::uint32_t GridCount(const CFitOptionsInterface& fit) {
-    return std::min(fit.GridParameterCount(), CFitOptionsInterface::kOffsetPlace);
-}
-
 }  // namespace
 
 MendedSeeds MendSigns(const CFitOptionsInterface& fit, CFitSeedInterface& seeds) {
@@ -51,8 +47,9 @@ MendedSeeds MendSigns(const CFitOptionsInterface& fit, CFitSeedInterface& seeds)
     const bool bForceProps = bAlways || fit.Options().bForcePropsPositive != 0;
     const bool bForceOthers = bAlways || fit.Options().bForceTausPositive != 0;
     const std::uint32_t uTerms = fit.EffectiveTermCount();
-    const std::uint32_t uCount = std::min(
-        props.bOnlyProportionsForced != 0 ? uTerms : uTerms * props.uParamsPerTerm, GridCount(fit));
+    const std::uint32_t uCount =
+        std::min(props.bOnlyProportionsForced != 0 ? uTerms : uTerms * props.uParamsPerTerm,
+                 seeds.GridCount());
     for (std::uint32_t i = 0; i < uCount; ++i) {
         const bool bProportion = i < uTerms;
         double& dSeed = seeds.dSeeds[seeds.PlaceOfFlat(i)];
@@ -63,13 +60,15 @@ MendedSeeds MendSigns(const CFitOptionsInterface& fit, CFitSeedInterface& seeds)
     return mended;
 }
 
-bool IsAnySeedMissing(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds) {
-    for (std::uint32_t i = 0; i < GridCount(fit); ++i) {
+std::optional<std::uint32_t> FindMissingSeed(const CFitOptionsInterface& fit,
+                                             const CFitSeedInterface& seeds) {
+    for (std::uint32_t i = 0; i < seeds.GridCount(); ++i) {
         if (!fit.IsCustomFunction() && i == fit.Properties().uZeroAllowedParam) continue;
-        const double d = seeds.dSeeds[seeds.PlaceOfFlat(i)];
-        if (d == 0.0 || !std::isfinite(d)) return true;
+        const std::uint32_t uPlace = seeds.PlaceOfFlat(i);
+        const double d = seeds.dSeeds[uPlace];
+        if (d == 0.0 || !std::isfinite(d)) return uPlace;
     }
-    return false;
+    return {};
 }
 
 bool AreSeedsUsable(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds) {
@@ -143,7 +142,7 @@ void StoreSeeds(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds,
         // While models are compared nothing is fixed.
         if (!fit.IsComparing()) options.uConstraints[uPlace] = seeds.uFixed[uPlace];
     };
-    for (std::uint32_t i = 0; i < GridCount(fit); ++i) store(seeds.PlaceOfFlat(i));
+    for (std::uint32_t i = 0; i < seeds.GridCount(); ++i) store(seeds.PlaceOfFlat(i));
     if (fit.IsCustomFunction()) return;
     if (fit.Properties().bHasOffset != 0) store(CFitOptionsInterface::kOffsetPlace);
     if (fit.Properties().bHasSlope != 0) store(CFitOptionsInterface::kSlopePlace);

@@ -3,6 +3,8 @@
 // message.
 #pragma once
 
+#include <optional>
+
 #include "fit/CFitSeedInterface.h"
 
 // Which kinds of seeds had their sign mended.
@@ -12,8 +14,10 @@ struct MendedSeeds {
 };
 // Makes negative seeds positive where their kind is forced positive.
 MendedSeeds MendSigns(const CFitOptionsInterface& fit, CFitSeedInterface& seeds);
-// Whether a grid seed in use is missing: zero, or no finite number. One parameter may be zero.
-bool IsAnySeedMissing(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds);
+// The place of the first grid seed in use that is missing: zero, or no finite number. One parameter
+// may be zero.
+std::optional<std::uint32_t> FindMissingSeed(const CFitOptionsInterface& fit,
+                                             const CFitSeedInterface& seeds);
 bool AreSeedsUsable(const CFitOptionsInterface& fit, const CFitSeedInterface& seeds);
 
 // The sum of the absolute proportions becomes the scale; where that is 0, one of the data, below.

@@ -123,11 +123,19 @@ HBRUSH ADM_Wnd::OnCtlColor(HWND, HDC, HWND, int) {
 }
 
 void ADM_Wnd::Show(int nCmdShow) {
-    if (m_hWnd != nullptr) ::ShowWindow(m_hWnd, nCmdShow);
+    if (m_hWnd == nullptr) return;
+    // Most rules say again what holds: that asks the system for nothing. To show a window that is
+    // no child again brings it to the front.
+    const LONG_PTR nStyle = ::GetWindowLongPtrA(m_hWnd, GWL_STYLE);
+    const bool bVisible = (nStyle & WS_VISIBLE) != 0;
+    const bool bHolds = nCmdShow == (bVisible ? SW_SHOW : SW_HIDE);
+    if ((nStyle & WS_CHILD) != 0 && bHolds) return;
+    ::ShowWindow(m_hWnd, nCmdShow);
 }
 
 void ADM_Wnd::Enable(BOOL bEnable) {
-    if (m_hWnd == nullptr) return;
+    // Most rules say again what holds: that asks the system for nothing.
+    if (m_hWnd == nullptr || !::IsWindowEnabled(m_hWnd) == !bEnable) return;
     // A greyed window would take the focus with it, and the keyboard would be dead.
     if (!bEnable && HasFocus() && (::GetWindowLongPtrA(m_hWnd, GWL_STYLE) & WS_CHILD) != 0) {
         ::SendMessageA(::GetAncestor(m_hWnd, GA_ROOT), WM_NEXTDLGCTL, 0, FALSE);

@@ -13,17 +13,10 @@ class FitEvents : public FitDialogTest {
     FitEvents() {
         library = StandInLibrary::kFile;
         ByHand(kSearchLM);
-        FitFunctionProps& props = standIn->props;
-        standIn->bProps = 1;
-        props.uParamsPerTerm = 2;
-        props.uNumDataArrays = 2;
-        props.uZeroAllowedParam = 99;
-        props.bMultiTerm = props.bHasOffset = props.bZeroShiftAllowed = 1;
-        props.bAllowLM = props.bAllowSimplex = props.bAllowChebyshev = 1;
-        props.bAllowChebyFilter = 1;
+        FitFunctionProps& props = standIn.TellTraits();
+        props.bZeroShiftAllowed = props.bAllowChebyFilter = 1;
         props.bCanForcePositive = props.bCanNormalizeProportions = 1;
-        standIn->bSeeds = 1;
-        for (double& d : standIn->dSeeds) d = 2.5;
+        standIn.TellSeed(2.5);
         options.eFunctionGroupID = kAllFunctions;
         options.bAutoZeroShift = 0;
     }

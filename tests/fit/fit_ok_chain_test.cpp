@@ -31,16 +31,8 @@ class FitOk : public FitDialogTest {
         source.y = {9, 7, 5, 4, 3, 2.5, 2.25, 2};
         source.Points(8);
         ByHand(kSearchLM);
-        FitFunctionProps& props = standIn->props;
-        standIn->bProps = 1;
-        props.uParamsPerTerm = 2;
-        props.uNumDataArrays = 2;
-        props.uZeroAllowedParam = 99;
-        props.bMultiTerm = 1;
-        props.bHasOffset = 1;
-        props.bAllowLM = props.bAllowSimplex = props.bAllowChebyshev = 1;
-        standIn->bSeeds = 1;
-        for (double& d : standIn->dSeeds) d = 2.5;
+        standIn.TellTraits();
+        standIn.TellSeed(2.5);
     }
 
     using FitDialogTest::data;

@@ -44,22 +44,6 @@ TEST_F(FitOpening, WithoutALibraryThereIsOneMessageAndNoDialog) {
     }
 }
 
-TEST_F(FitOpening, ALibraryThatRefusesIsOneMessageAndNoDialog) {
-    library = StandInLibrary::kFile;
-    StandInLibrary standIn;
-    const auto refused = [this] {
-        DialogScript script;
-        script.ExpectText(90, kNoLibrary).Click(kOkButton);
-        EXPECT_EQ(Show(script), IDCANCEL);
-    };
-    standIn->object = {1, 1};
-    refused();
-    standIn.Reset();
-    standIn->places[40] = {1, 1};
-    refused();
-    EXPECT_EQ(standIn->uAlive, 0u);
-}
-
 TEST_F(FitOpening, ALaterRefusalIsToldOnceAndTheFunctionGoesBack) {
     library = StandInLibrary::kFile;
     StandInLibrary standIn;
@@ -222,28 +206,6 @@ TEST_F(FitOpening, WithoutDataOptionsThereIsNoDataPage) {
         EXPECT_EQ(SendMessageA(GetDlgItem(hDialog, IDC_TABS), TCM_GETITEMCOUNT, 0, 0), 3);
     });
     ShowAndAccept(script);
-}
-
-// Whatever the library fails at, the dialog opens or says why, and can be left.
-TEST_F(FitOpening, ALibraryThatFailsAtAnyPlaceCrashesNothing) {
-    library = StandInLibrary::kFile;
-    StandInLibrary standIn;
-    for (const int nPlace : {7, 11, 17, 18, 30, 44, 45, 46, 47, 48, 59}) {
-        SCOPED_TRACE(nPlace);
-        standIn.Reset();
-        standIn->places[nPlace] = {1, kAlways};
-        DialogScript script;
-        script.SelectTab(kAdvanced).SelectTab(kSeeds);
-        if (nPlace == 7) {
-            script.Answer(kOkButton,
-                          "The seed values could not be estimated from the data.\nEnter the seed "
-                          "values.");
-        }
-        script.SelectTab(kData).SelectTab(kFunction);
-        ShowAndCancel(script);
-        EXPECT_EQ(standIn->uAlive, 0u);
-        EXPECT_EQ(script.Messages().size(), nPlace == 7 ? 1u : 0u);
-    }
 }
 
 TEST_F(FitOpening, HostileDataHaveAMessageAndCrashNothing) {

@@ -398,4 +398,70 @@ TEST_F(FunctionTab, ConstrainedExponentialIsForVariableMetricAndGivesTheMethodBa
     ShowAndCancel(script);
 }
 
+// --- Numbers, each with its label and its spinner.
+
+TEST_F(FunctionTab, EachSpinnerStepsItsFieldThroughItsValues) {
+    library = StandInLibrary::kFile;
+    StandInLibrary standIn;
+    FitFunctionProps& props = standIn.TellTraits();
+    props.bUsesPowerA = props.bUsesPowerB = props.bUsesTemperature = props.bUsesValence = 1;
+    ByHand(kSearchLM);
+    options.eFunctionGroupID = kAllFunctions;
+    options.bAutoCompare = 0;
+    struct Row {
+        std::int32_t eFunction;
+        int nLabel, nField, nSpin;
+        const char* szFrom;
+        const char* szUp;
+        const char* szUpAgain;
+        bool bComparing;
+    };
+    const Row rows[] = {
+        {15, IDC_FIT_TERMS_LABEL, IDC_FIT_TERMS, IDC_FIT_TERMS_SPIN, "1", "2", "3", false},
+        {7, IDC_FIT_POWER_A_LABEL, IDC_FIT_POWER_A, IDC_FIT_POWER_A_SPIN, "4", "5", "6", false},
+        {7, IDC_FIT_POWER_B_LABEL, IDC_FIT_POWER_B, IDC_FIT_POWER_B_SPIN, "2", "3", "4", false},
+        {5, IDC_FIT_TEMPERATURE_LABEL, IDC_FIT_TEMPERATURE, IDC_FIT_TEMPERATURE_SPIN, "36", "37",
+         "38", false},
+        {30, IDC_FIT_VALENCE_LABEL, IDC_FIT_VALENCE, IDC_FIT_VALENCE_SPIN, "-1", "1", "2", false},
+        {30, IDC_FIT_VALENCE_LABEL, IDC_FIT_VALENCE, IDC_FIT_VALENCE_SPIN, "-4", "-3", "-2", false},
+        {30, IDC_FIT_VALENCE_LABEL, IDC_FIT_VALENCE, IDC_FIT_VALENCE_SPIN, "2", "3", "4", false},
+        {15, IDC_FIT_START_TERM_LABEL, IDC_FIT_START_TERM, IDC_FIT_START_TERM_SPIN, "2", "3", "4",
+         true},
+        {15, IDC_FIT_END_TERM_LABEL, IDC_FIT_END_TERM, IDC_FIT_END_TERM_SPIN, "3", "4", "5", true},
+        {15, IDC_FIT_CONFIDENCE_LABEL, IDC_FIT_CONFIDENCE, IDC_FIT_CONFIDENCE_SPIN, "0.5", "0.51",
+         "0.52", true},
+    };
+    const FitOptions before = options;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.nField << " from " << row.szFrom);
+        options = before;
+        options.eFunctionType = row.eFunction;
+        options.bCompareModels = row.bComparing;
+        DialogScript script;
+        script.ExpectEnabled(row.nLabel, true)
+            .Type(row.nField, row.szFrom)
+            .MouseClickAt(row.nSpin, 5, 3)
+            .ExpectText(row.nField, row.szUp)
+            .MouseClickAt(row.nSpin, 5, 3)
+            .ExpectText(row.nField, row.szUpAgain);
+        ShowAndCancel(script);
+    }
+}
+
+TEST_F(FunctionTab, AConfidenceOutOfItsRangeIsToldAtOk) {
+    ByHand(kSearchLM);
+    options.bCompareModels = 1;
+    for (const char* sz : {"0.0099", "0.9991"}) {
+        SCOPED_TRACE(sz);
+        const FitOptions before = options;
+        DialogScript script;
+        script.Type(IDC_FIT_CONFIDENCE, sz)
+            .Click(IDOK)
+            .Answer(kOkButton)
+            .ExpectFocus(IDC_FIT_CONFIDENCE);
+        ShowAndCancel(script);
+        options = before;
+    }
+}
+
 }  // namespace

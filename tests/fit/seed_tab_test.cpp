@@ -23,24 +23,12 @@ class SeedTab : public FitDialogTest {
     SeedTab() {
         library = StandInLibrary::kFile;
         ByHand(kSearchLM);
-        standIn->bProps = 1;
-        FitFunctionProps& props = standIn->props;
-        props.uParamsPerTerm = 2;
-        props.uNumDataArrays = 2;
-        props.uZeroAllowedParam = 99;
-        props.bMultiTerm = 1;
-        props.bHasOffset = 1;
-        props.bAllowLM = props.bAllowSimplex = props.bAllowChebyshev = 1;
+        FitFunctionProps& props = standIn.TellTraits();
         props.bCanForcePositive = 1;
         props.bCanNormalizeProportions = 1;
         options.uDlgFitOrder = 2;
         // A1, A2, tau1, tau2, C.
-        Seeds({3.0, 5.0, 0.25, 0.5, 9.0});
-    }
-    void Seeds(std::initializer_list<double> flat) {
-        standIn->bSeeds = 1;
-        std::fill(std::begin(standIn->dSeeds), std::end(standIn->dSeeds), 0.0);
-        std::copy(flat.begin(), flat.end(), standIn->dSeeds);
+        standIn.TellSeeds({3.0, 5.0, 0.25, 0.5, 9.0});
     }
     FitFunctionProps& Props() { return standIn->props; }
 
@@ -69,6 +57,31 @@ TEST_F(SeedTab, EstimatedSeedsStandInTheirPlaces) {
     for (int i = 0; i < 8; ++i) EXPECT_EQ(options.dParameters[i], record[i]) << i;
     EXPECT_EQ(options.dParameters[24], 9.0);
     EXPECT_EQ(options.dParameters[25], 0.0);
+}
+
+TEST_F(SeedTab, ASlopeStandsUnderItsNameBesideTheOffset) {
+    Props().bHasSlope = 1;
+    std::strcpy(standIn->szTexts[48], "slope");
+    standIn.TellSeeds({3.0, 5.0, 0.25, 0.5, 9.0, 1.75});
+    DialogScript script;
+    script.SelectTab(kSeeds)
+        .ExpectVisible(IDC_FIT_SLOPE_LABEL, true)
+        .ExpectText(IDC_FIT_SLOPE_LABEL, "slope")
+        .ExpectText(kSlope, "1.75");
+    ShowAndCancel(script);
+}
+
+TEST_F(SeedTab, SeedsThatTheHostKeepsAreEstimatedAnewForFilesWithSweepsAlone) {
+    params.bFitKeepSeeds = 1;
+    for (const std::uint32_t uKind : {0u, 1u}) {
+        SCOPED_TRACE(uKind);
+        source.Kind(uKind);
+        DialogScript script;
+        script.SelectTab(kSeeds)
+            .Type(SeedId(0, 0), "4")
+            .ExpectEnabled(IDC_FIT_ESTIMATE, uKind == 0);
+        ShowAndCancel(script);
+    }
 }
 
 TEST_F(SeedTab, SixTermsFillTheGrid) {
@@ -307,7 +320,7 @@ TEST_F(SeedTab, ForceChecksAreOpenWhereTheFunctionAllowsThem) {
 }
 
 TEST_F(SeedTab, EachForceCheckMendsItsOwnKind) {
-    Seeds({3.0, -5.0, -0.25, 0.5, -9.0});
+    standIn.TellSeeds({3.0, -5.0, -0.25, 0.5, -9.0});
     DialogScript script;
     script.SelectTab(kSeeds)
         .ExpectText(SeedId(1, 0), "-5")
@@ -324,7 +337,7 @@ TEST_F(SeedTab, EachForceCheckMendsItsOwnKind) {
 TEST_F(SeedTab, ANegativeFractionBecomesAThousandthOfItsSize) {
     Props().bFractionalProportions = 1;
     options.bForcePropsPositive = options.bForceTausPositive = 1;
-    Seeds({3.0, -5.0, -0.25, 0.5, 9.0});
+    standIn.TellSeeds({3.0, -5.0, -0.25, 0.5, 9.0});
     DialogScript script;
     script.SelectTab(kSeeds).ExpectText(SeedId(1, 0), "0.005").ExpectText(SeedId(0, 1), "0.25");
     ShowAndCancel(script);
@@ -454,7 +467,7 @@ TEST_F(SeedTab, NormalizedProportionsAreDividedByTheirSumAndRestoredByIt) {
 }
 
 TEST_F(SeedTab, NegativeProportionsCountByTheirSize) {
-    Seeds({0.5, -0.3, 0.25, 0.5, 9.0});
+    standIn.TellSeeds({0.5, -0.3, 0.25, 0.5, 9.0});
     DialogScript script;
     script.SelectTab(kSeeds)
         .Click(IDC_FIT_NORMALIZED)
@@ -482,7 +495,7 @@ TEST_F(SeedTab, NormalizedProportionsReachTheRecordAbsolute) {
 
 TEST_F(SeedTab, ProportionsThatMustSumToOneDoSoInTheRecord) {
     Props().bFractionalProportions = Props().bProportionsSumToOne = 1;
-    Seeds({2.0, 6.0, 0.25, 0.5, 9.0});
+    standIn.TellSeeds({2.0, 6.0, 0.25, 0.5, 9.0});
     DialogScript script;
     ShowAndAccept(script);
     EXPECT_DOUBLE_EQ(options.dParameters[0], 0.25);

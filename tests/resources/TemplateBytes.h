@@ -24,7 +24,8 @@ struct TemplateItem {
     DWORD buttonType() const { return kind == "BUTTON" ? style & 0xF : 0xFF; }
     bool isRadio() const { return buttonType() == BS_AUTORADIOBUTTON; }
     bool isGroupBox() const { return buttonType() == BS_GROUPBOX; }
-    bool isVisible() const { return (style & WS_VISIBLE) != 0; }
+    // What is hidden for good has no id; with one it starts hidden, and a rule shows it.
+    bool isVisible() const { return (style & WS_VISIBLE) != 0 || id != -1; }
     bool isTabStop() const { return (style & WS_TABSTOP) != 0; }
 };
 

@@ -182,11 +182,11 @@ const std::map<int, Captions>& GivenCaptions() {
              {2087, "Fix"},
              {2088, "Fix"},
              {2089, "Fix"},
+             {2090, "Fix"},
+             {2091, "Fix"},
              {2119, "Auto-&Estimate"},
              {2118, "Free All"},
              {2162, "Graphical..."},
-             {2090, "Fix"},
-             {2091, "Fix"},
              {2173, "Force pr&oportions positive"},
              {2176, "Force time &constants positive"},
              {2123, "Absolute proportions"},
@@ -578,7 +578,8 @@ TEST(Captions, StandAsTheyAreGiven) {
         Captions& captions = seen[dialog.id];
         if (!dialog.caption.empty()) captions.push_back({0, dialog.caption});
         for (const TemplateItem& item : dialog.items) {
-            if (!item.text.empty()) captions.push_back({item.id, item.text});
+            // A field starts with a value, which is no caption.
+            if (!item.text.empty() && item.kind != "EDIT") captions.push_back({item.id, item.text});
         }
     }
     for (const auto& [id, captions] : GivenCaptions()) {
