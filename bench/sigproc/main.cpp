@@ -41,20 +41,6 @@ void AddItem(HWND hPage, int nId, UINT uMsg, const char* szText) {
     SendMessageA(GetDlgItem(hPage, nId), uMsg, 0, reinterpret_cast<LPARAM>(szText));
 }
 
-// Enough points for every filter.
-class LongSource final : public NamedSource {
-  public:
-    LongSource() : NamedSource(12), many(kMany, 1.0) {}
-    const double* GetYValues(uint32_t, uint32_t, const ZXADLG_DataRange*, uint32_t) override {
-        return many.data();
-    }
-    uint32_t GetPointCount(uint32_t, uint32_t, const ZXADLG_DataRange*, uint32_t) override {
-        return kMany;
-    }
-    static constexpr uint32_t kMany = 2000;
-    std::vector<double> many;
-};
-
 void AddString(HWND hPage, int nId, int nString) {
     char szText[128] = "";
     LoadStringA(GetFrameworkInstance(), static_cast<UINT>(nString), szText, sizeof szText);
@@ -77,15 +63,6 @@ void FillData(HWND hPage, const NamedSource& source) {
 
 void SetTexts(HWND hPage, std::initializer_list<std::pair<int, const char*>> texts) {
     for (const auto& [nId, szText] : texts) SetDlgItemTextA(hPage, nId, szText);
-}
-
-// The picture of the arrangement, or of a window, is painted there as well.
-void ShowBitmap(HWND hPage, int nId, int nBitmap) {
-    const HWND hStatic = GetDlgItem(hPage, nId);
-    SetWindowLongPtrA(hStatic, GWL_STYLE, GetWindowLongPtrA(hStatic, GWL_STYLE) | SS_BITMAP);
-    SendMessageA(
-        hStatic, STM_SETIMAGE, IMAGE_BITMAP,
-        reinterpret_cast<LPARAM>(LoadBitmapA(GetFrameworkInstance(), MAKEINTRESOURCEA(nBitmap))));
 }
 
 class Bench {
@@ -116,7 +93,6 @@ class Bench {
                                     {IDC_NOTCH_CENTER, "60"},
                                     {IDC_NOTCH_WIDTH, "10"},
                                     {IDC_NOTCH_RANGE, "Center range = 10.0 to 3000.0 Hz"}});
-                ShowBitmap(pages[0], IDC_FILTER_PICTURE, IDB_FILTER_RESPONSE_FIRST);
                 CheckDlgButton(pages[0], IDC_FILTER_LOWPASS, BST_CHECKED);
                 CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
                 FillData(pages[1], m_source);
@@ -140,13 +116,11 @@ class Bench {
                 SendMessageA(GetDlgItem(pages[0], IDC_SPECTRUM_WINDOW), CB_SETCURSEL, 6, 0);
                 SetTexts(pages[0], {{IDC_SPECTRUM_KAISER, "2.00"},
                                     {IDC_SPECTRUM_POISSON, "2.00"},
-                                    {IDC_SPECTRUM_LENGTH, "256"},
-                                    {IDC_SPECTRUM_MAXIMUM_VALUE, "(1024)"},
-                                    {IDC_SPECTRUM_OUTPUT, "Output length = 128"},
-                                    {IDC_SPECTRUM_RESOLUTION, "Spectral resolution = 39.06 Hz"},
+                                    {IDC_SPECTRUM_LENGTH, "32"},
+                                    {IDC_SPECTRUM_MAXIMUM_VALUE, "(64)"},
+                                    {IDC_SPECTRUM_OUTPUT, "Output length = 16"},
+                                    {IDC_SPECTRUM_RESOLUTION, "Spectral resolution = 312.50 Hz"},
                                     {IDC_SPECTRUM_EXCLUDE, "1"}});
-                ShowBitmap(pages[0], IDC_SPECTRUM_SHAPE, IDB_WINDOW_SHAPE_FIRST + 6);
-                ShowBitmap(pages[0], IDC_SPECTRUM_MAGNITUDE, IDB_WINDOW_MAGNITUDE_FIRST + 6);
                 CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
                 FillData(pages[1], m_source);
             }};
@@ -154,7 +128,7 @@ class Bench {
             SpectrumOptions options = {};
             options.eWindowType = 6;
             options.dKaiserAlpha = options.dPoissonAlpha = 2.0;
-            options.uTransformLength = 256;
+            options.uTransformLength = 32;
             options.uNumBinsToExclude = 1;
             ZXADLG_DataOptions data = Selection();
             ZXADLG_ShowPowerSpectrumDialog(m_timing.GetOwner(), &options, &data, &m_source,
@@ -205,7 +179,7 @@ class Bench {
     }
 
     DialogTiming m_timing;
-    LongSource m_source;
+    NamedSource m_source{12};
     ZXADLG_DlgParams m_params = {};
 };
 
