@@ -61,6 +61,7 @@ constexpr FitOptions kDefaults<FitOptions> = {.dLMPrecision = 1e-6,
                                               .bWriteFittedData = 1};
 template <>
 constexpr ZXADLG_SignalProcessingOptions kDefaults<ZXADLG_SignalProcessingOptions> = {
+    .dSampleInterval = 100.0,
     .lowpass = {.m_bIsSelected = 1,
                 .m_eFilterFamily = 2,
                 .m_uNumAveragePoints = 7,
@@ -75,6 +76,7 @@ constexpr ZXADLG_SignalProcessingOptions kDefaults<ZXADLG_SignalProcessingOption
     .eWindowType = 6,
     .dPoissonAlpha = 2.0,
     .dKaiserAlpha = 2.0,
+    .uTransformLength = 1024,
     .uNumBinsToExclude = 1,
     .bAverageSegments = 1};
 template <>

@@ -129,7 +129,7 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
     std::vector<double> room(kMaxOptionSize / sizeof(double), 0.0);
     std::memcpy(room.data(), analysis.defaults, analysis.size);
     const std::vector<double> roomBefore = room;
-    ZXADLG_DataOptions data = {};
+    ZXADLG_DataOptions data = DefaultData();
     const ZXADLG_DataOptions dataBefore = data;
 
     out << "data: " << recording.Describe() << "\n";

@@ -121,6 +121,12 @@ std::vector<FieldValue> CompareRecords(const char* type, const void* before, con
     return values;
 }
 
+ZXADLG_DataOptions DefaultData() {
+    ZXADLG_DataOptions data = {};
+    data.bUseFullDataRange = 1;
+    return data;
+}
+
 ZXADLG_DlgParams DefaultParams() {
     ZXADLG_DlgParams params = {};
     params.bUseDataOptions = 1;

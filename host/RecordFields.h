@@ -33,6 +33,9 @@ extern const std::span<const ParamName> kParamNames;
 
 // What a host that offers everything sets.
 ZXADLG_DlgParams DefaultParams();
+// The selection as a first run shows it: all rows of a sheet, since not every dialog lets the user
+// choose them.
+ZXADLG_DataOptions DefaultData();
 
 // Applies "name=0/1,name=0/1". On failure false with what is wrong; nothing is changed then.
 bool ApplyParams(const std::string& text, ZXADLG_DlgParams* params, std::string* error);

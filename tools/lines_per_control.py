@@ -4,7 +4,7 @@
     lines_per_control.py [FOLDER...]      (default: the dialogs' folders of src/)
 
 A control object is a member of a dialog or a tab whose type is one of the library's control classes; an array of
-them counts each. Files without a window (rules, checks, a model) are left out: they cost what their rules cost.
+them counts each, and so does a struct of them. Files without a window (rules, checks, a model) are left out: they cost what their rules cost.
 """
 import pathlib
 import re
@@ -15,8 +15,21 @@ FOLDERS = ("fit", "arithmetic", "sigproc", "measure", "traceops")
 CONTROL = re.compile(r"^\s+(?:ADM_(?!Dialog|Tab|Wnd\b)\w+|CZxDlg\w+(?:<[\w:]+>)?) (m_\w+(?:, m_\w+)*);", re.M)
 
 ARRAY = re.compile(r"^\s+std::array<(?:ADM_|CZxDlg)\w+, (\w+)> m_\w+;", re.M)
+# A struct of controls, and the members that are such structs.
+STRUCT = re.compile(r"^    struct (\w+) \{\n((?:        .*;\n)+)    \};", re.M)
+IN_STRUCT = re.compile(r"^        (?:ADM_(?!Dialog|Tab|Wnd\b)\w+|CZxDlg\w+(?:<[\w:]+>)?) (\w+(?:, \w+)*);", re.M)
+MEMBERS = r"^    %s (m_\w+(?:, m_\w+)*);"
 CONSTANT = re.compile(r"constexpr [\w:]+ (\w+) = (\d+);")
 WINDOW = re.compile(r"\b(?:ADM_|CEditPage|CRecordPage|COptionsTab|CParentDialog|CUntabbedDialog|CSinglePage|C\w*(?:Tab|Dialog)\b)")
+
+
+def in_structs(text):
+    count = 0
+    for name, body in STRUCT.findall(text):
+        each = sum(names.count(",") + 1 for names in IN_STRUCT.findall(body))
+        members = re.findall(MEMBERS % name, text, re.M)
+        count += each * sum(names.count(",") + 1 for names in members)
+    return count
 
 
 def main(folders):
@@ -29,6 +42,7 @@ def main(folders):
         own_lines = sum(text.count("\n") for text in texts)
         own_controls = sum(m.group(1).count(",") + 1 for text in texts for m in CONTROL.finditer(text))
         own_controls += sum(constants.get(n) or int(n) for text in texts for n in ARRAY.findall(text))
+        own_controls += sum(in_structs(text) for text in texts)
         if own_controls:
             print(f"{folder}: {own_lines} lines, {own_controls} controls, {own_lines / own_controls:.1f} each")
             lines, controls = lines + own_lines, controls + own_controls

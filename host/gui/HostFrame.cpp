@@ -67,7 +67,7 @@ class Frame {
             recordOf_.emplace_back(analysis.size / sizeof(double) + 1, 0.0);
             std::memcpy(recordOf_.back().data(), analysis.defaults, analysis.size);
         }
-        dataOf_.resize(kAnalyses.size());
+        dataOf_.resize(kAnalyses.size(), DefaultData());
         INITCOMMONCONTROLSEX controls = {sizeof controls,
                                          ICC_LISTVIEW_CLASSES | ICC_PROGRESS_CLASS};
         InitCommonControlsEx(&controls);

@@ -1,4 +1,5 @@
 // The four filters of one record, each a section of its own. Frequencies have the text of a float.
+// Behind the keys stand the fields that the store does not keep.
 
 #include "contract/OptionPersistence.h"
 #include "contract/OptionTables.h"
@@ -12,6 +13,8 @@ constexpr OptionKey kLowpassFilterKeys[] = {
     KEY(lowpass.m_eFilterFamily),         KEY(lowpass.m_eFilterType),
     KEY(lowpass.m_uNumAveragePoints),     FLOAT_KEY(lowpass.m_dCornerFreq),
     FLOAT_KEY(lowpass.m_dPrevFilterFreq), KEY(lowpass.m_bIsSelected),
+    NotKept(KEY(dSampleInterval)),        NotKept(KEY(lowpass.m_d3dbWidth)),
+    NotKept(KEY(lowpass.uApplyOrder)),
 };
 constexpr OptionBlock kLowpassFilterBlocks[] = {{kLowpassFilterKeys}};
 
@@ -19,13 +22,19 @@ constexpr OptionKey kHighpassFilterKeys[] = {
     KEY(highpass.m_eFilterFamily),         KEY(highpass.m_eFilterType),
     KEY(highpass.m_uNumAveragePoints),     FLOAT_KEY(highpass.m_dCornerFreq),
     FLOAT_KEY(highpass.m_dPrevFilterFreq), KEY(highpass.m_bIsSelected),
+    NotKept(KEY(highpass.m_d3dbWidth)),    NotKept(KEY(highpass.uApplyOrder)),
 };
 constexpr OptionBlock kHighpassFilterBlocks[] = {{kHighpassFilterKeys}};
 
 constexpr OptionKey kNotchFilterKeys[] = {
-    KEY(notch.m_eFilterFamily),     KEY(notch.m_eFilterType),
-    FLOAT_KEY(notch.m_dCornerFreq), FLOAT_KEY(notch.m_dPrevFilterFreq),
-    FLOAT_KEY(notch.m_d3dbWidth),   KEY(notch.m_bIsSelected),
+    KEY(notch.m_eFilterFamily),
+    KEY(notch.m_eFilterType),
+    FLOAT_KEY(notch.m_dCornerFreq),
+    FLOAT_KEY(notch.m_dPrevFilterFreq),
+    FLOAT_KEY(notch.m_d3dbWidth),
+    KEY(notch.m_bIsSelected),
+    NotKept(KEY(notch.m_uNumAveragePoints)),
+    NotKept(KEY(notch.uApplyOrder)),
 };
 constexpr OptionBlock kNotchFilterBlocks[] = {{kNotchFilterKeys}};
 

@@ -23,6 +23,7 @@ constexpr OptionKey kKeys[] = {
     KEY(bUseMaxSegment),
     KEY(uTransformLength),
     KEY(uNumBinsToExclude),
+    NotKept(KEY(dDisplayValue)),
     NotKept(KEY(common.bDynamicLink)),
     NotKept(KEY(common.bWriteRegionInfo)),
 };

@@ -2,7 +2,7 @@
 
 #include "analysis/CUnitaryDataTab.h"
 #include "ids.h"
-#include "sigproc/CCorrelationOptionsTab.h"
+#include "sigproc/CorrelationOptionsTab.h"
 #include "sigproc_ids.h"
 
 CCorrelationDialog::CCorrelationDialog(HWND hwndParent, ZXADLG_CorrelationOptions* pOptions,

@@ -1,7 +1,7 @@
 #include "sigproc/FilterDialog.h"
 
 #include "ids.h"
-#include "sigproc/CFilterOptionsTab.h"
+#include "sigproc/FilterOptionsTab.h"
 #include "sigproc_ids.h"
 #include "widgets/FrameworkSetup.h"
 

@@ -63,10 +63,6 @@ double GaussianMinimum(double dRate, std::uint32_t uPoints) {
 
 }  // namespace
 
-double KnownRate(double dRate) {
-    return dRate > 0.0 && dRate <= kDoubleLimit ? dRate : 0.0;
-}
-
 FilterLimits LowpassLimits(std::int32_t eFamily, double dRate, std::uint32_t uPoints) {
     FilterLimits limits;
     if (eFamily == kBoxcar) {

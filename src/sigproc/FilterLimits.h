@@ -1,8 +1,8 @@
 // What the cutoffs, the smoothing points and the figures of a filter may be, by its family, the
 // sampling frequency and the number of points. Plain functions, no window.
 //
-// Frequencies are in Hz. A sampling frequency is known, which is to say above 0 and at most 1e300,
-// wherever a limit is asked for.
+// Frequencies are in Hz. The sampling frequency is a known one (SamplingRate.h) wherever a limit is
+// asked for.
 #pragma once
 
 #include <cstdint>
@@ -26,10 +26,6 @@ struct FilterLimits {
     double dLow;
     double dHigh;
 };
-
-// A rate as the limits take it: 0, which stands for an unknown one, unless it is above 0 and
-// finite.
-double KnownRate(double dRate);
 
 // Of the cutoff; of a boxcar the smoothing points.
 FilterLimits LowpassLimits(std::int32_t eFamily, double dRate, std::uint32_t uPoints);

@@ -43,10 +43,6 @@ void SelectFilterType(FilterOptions& options, FilterType eType) {
     options.adaptive.m_bIsSelected = eType == kInterferenceFilter;
 }
 
-double RateOfInterval(const FilterOptions& options) {
-    return options.dSampleInterval > 0.0 ? KnownRate(kMicroseconds / options.dSampleInterval) : 0.0;
-}
-
 void StoreInterval(FilterOptions& options, double dRate) {
     options.dSampleInterval = SingleFrequency(kMicroseconds / dRate);
 }
@@ -56,6 +52,9 @@ void CompleteFilterRecord(FilterOptions& options, double dRate) {
         options.lowpass.m_eFilterFamily = kGaussian;
     if (!IsHighpassFamily(options.highpass.m_eFilterFamily))
         options.highpass.m_eFilterFamily = kBessel;
+
+    std::int32_t& eReference = options.adaptive.m_eReferenceGeneration;
+    if (eReference < k50Hz || eReference > kAutoReference) eReference = k50Hz;
 
     // A high- or lowpass leaves the other two sections as they are.
     const FilterType eType = FilterTypeOf(options);

@@ -30,8 +30,7 @@ FilterType FilterTypeOf(const FilterOptions& options);
 // Selects the sections of an arrangement and no others.
 void SelectFilterType(FilterOptions& options, FilterType eType);
 
-// The rate in Hz of the record's own interval; 0 where it tells none.
-double RateOfInterval(const FilterOptions& options);
+// Stores the interval of a rate in the record, with single precision.
 void StoreInterval(FilterOptions& options, double dRate);
 
 // Makes a record that the dialog can show out of any: a family that is not offered becomes the

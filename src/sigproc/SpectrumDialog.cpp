@@ -1,7 +1,7 @@
 #include "sigproc/SpectrumDialog.h"
 
 #include "ids.h"
-#include "sigproc/CSpectrumOptionsTab.h"
+#include "sigproc/SpectrumOptionsTab.h"
 #include "sigproc_ids.h"
 
 CSpectrumDialog::CSpectrumDialog(HWND hwndParent, SpectrumOptions* pOptions,

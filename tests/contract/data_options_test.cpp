@@ -1,5 +1,7 @@
 // What the model behind the data tabs corrects, answers and stores.
 
+#include <cmath>
+
 #include "DataOptionsFixture.h"
 
 namespace {
@@ -285,6 +287,87 @@ TEST_F(DataOptions, SheetCountIsTheSmallerOfTheTwoColumnsWithNoRange) {
     EXPECT_EQ(m.GetSelectedPointCount(), 10u);
     record.bUseFullDataRange = 1;
     EXPECT_EQ(m.GetSelectedPointCount(), 1000u);
+}
+
+TEST_F(DataOptions, FiguresOfAnAnalysisComeFromTheSource) {
+    source.Region(3, "Cursors", 100, 199);
+    record.aRegionPoints[2] = {10, 59};
+    record.dSamplingFrequency = 5.0;
+    record.bSegmented = 1;
+    CDataOptionsInterface& m = Model();
+    m.SetRegion(3, 0);
+    EXPECT_EQ(m.GetAnalysisPointCount(), 100u);
+    EXPECT_EQ(m.GetSamplingFrequency(), 10000.0);
+    EXPECT_FALSE(m.IsSegmented());
+    source.segmented = true;
+    EXPECT_TRUE(m.IsSegmented());
+    for (const double dNone : {0.0, -1.0, std::nan(""), static_cast<double>(INFINITY)}) {
+        source.samplingFrequency = dNone;
+        EXPECT_EQ(m.GetSamplingFrequency(), 0.0);
+    }
+    source.Kind(1).samplingFrequency = 77.0;
+    EXPECT_EQ(m.GetSamplingFrequency(), 0.0);
+}
+
+TEST_F(DataOptions, FiguresOfADeferredRunComeFromTheBlock) {
+    source.Region(3, "Cursors", 100, 199).Region(26, "Epoch", 0, 299);
+    record.aRegionPoints[2] = {10, 59};
+    record.dSamplingFrequency = 5.0;
+    record.bSegmented = 1;
+    CDataOptionsInterface& m = Model();
+    m.SetDeferred(true);
+    EXPECT_EQ(m.GetAnalysisPointCount(), 1000u) << "no region";
+    m.SetRegion(3, 0);
+    EXPECT_EQ(m.GetAnalysisPointCount(), 50u);
+    EXPECT_EQ(m.GetSamplingFrequency(), 5.0);
+    EXPECT_TRUE(m.IsSegmented());
+    // Where it tells nothing, the source does.
+    record.aRegionPoints[2] = {59, 59};
+    EXPECT_EQ(m.GetAnalysisPointCount(), 100u);
+    record.aRegionPoints[24] = {0, 6};
+    m.SetRegion(26, 0);
+    EXPECT_EQ(m.GetAnalysisPointCount(), 300u);
+    m.SetRegion(25, 0);
+    EXPECT_EQ(m.GetAnalysisPointCount(), 7u);
+    record.dSamplingFrequency = 0.0;
+    EXPECT_EQ(m.GetSamplingFrequency(), 10000.0);
+    record.dSamplingFrequency = std::nan("");
+    EXPECT_EQ(m.GetSamplingFrequency(), 10000.0);
+    record.bSegmented = 0;
+    EXPECT_FALSE(m.IsSegmented());
+    // Also for data that are no file: the block is what the host kept of them.
+    record.dSamplingFrequency = 6.0;
+    source.Kind(2);
+    EXPECT_EQ(m.GetSamplingFrequency(), 6.0);
+}
+
+TEST_F(DataOptions, SelectedSetsCountByTheirMode) {
+    source.hiddenEvery = 4;
+    List("0..4,7");
+    CDataOptionsInterface& m = Model();
+    const auto count = [&](int eMode) {
+        record.eDataSet1SelectionMode = eMode;
+        return m.GetSelectedSetCount();
+    };
+    EXPECT_EQ(count(CDataOptionsInterface::kVisibleSets), 9u);
+    EXPECT_EQ(count(CDataOptionsInterface::kAllSets), 12u);
+    EXPECT_EQ(count(CDataOptionsInterface::kActiveSet), 1u);
+    EXPECT_EQ(count(CDataOptionsInterface::kListedSets), 6u);
+    EXPECT_EQ(count(CDataOptionsInterface::kTypedSets), 6u);
+    List("x");
+    EXPECT_EQ(count(CDataOptionsInterface::kListedSets), 1u);
+    source.Sets(0);
+    EXPECT_EQ(count(CDataOptionsInterface::kAllSets), 1u);
+}
+
+TEST_F(DataOptions, TheWholeSetCountsWithoutARange) {
+    source.Region(3, "Cursors", 100, 199);
+    List("2");
+    CDataOptionsInterface& m = Model();
+    m.SetRegion(3, 0);
+    source.Record();
+    EXPECT_EQ(m.GetWholePointCount(), 1000u);
+    EXPECT_EQ(LastAsked(), "GetPointCount(0,2,null)");
 }
 
 TEST_F(DataOptions, FewestPointsAreTheSmallestCountOfTheSets) {

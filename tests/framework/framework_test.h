@@ -50,3 +50,4 @@
 #define IDS_NOTHING 399     // no such string
 
 #define IDB_RAMP 400
+#define IDB_RAMP_LARGER 410

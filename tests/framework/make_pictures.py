@@ -3,7 +3,7 @@
 
 bell.wmf is a placeable metafile: the curve exp(-x^2/2) over its axis, in units of 1/1440 inch.
 wrong_key.wmf, zero_size.wmf and short.wmf are the same file with one fault each. ramp.bmp is a grey
-ramp with a mark in each corner, 24 x 16 points. Run it in its own folder; the results are kept beside it.
+ramp with a mark in each corner, 24 x 16 points, ramp_larger.bmp of 48 x 32. Run it in its own folder; the results are kept beside it.
 """
 import math
 import struct
@@ -57,8 +57,7 @@ def placeable(bits, key=0x9AC6CDD7, width=WIDTH, height=HEIGHT):
     return head + struct.pack('<H', checksum) + bits
 
 
-def ramp():
-    width, height = 24, 16
+def ramp(width=24, height=16):
     rows = b''
     for y in range(height):
         for x in range(width):
@@ -77,6 +76,7 @@ if __name__ == '__main__':
         'zero_size.wmf': placeable(bits, height=0),
         'short.wmf': placeable(bits)[:20],
         'ramp.bmp': ramp(),
+        'ramp_larger.bmp': ramp(48, 32),
     }
     for name, data in pictures.items():
         with open(name, 'wb') as out:

@@ -219,6 +219,32 @@ TEST_F(Picture, BitmapIsCentredByIntegerHalves) {
     EXPECT_EQ(canvas.At(rc.left + 22, rc.top), RGB(243, 243, 243));
 }
 
+TEST_F(Picture, TheLargerFormShowsWhereItFits) {
+    EdgedPicture picture;
+    dialog.RegisterControl(IDC_PICTURE, &picture);
+    Open();
+    const auto shown = [&picture](int nWidth, int nHeight) {
+        SetWindowPos(picture.GetHandle(), nullptr, 0, 0, nWidth, nHeight, SWP_NOMOVE);
+        Canvas canvas(400, 200);
+        picture.rcOverlay = {};
+        picture.Draw(canvas.DC());
+        return picture.rcOverlay.right - picture.rcOverlay.left;
+    };
+    picture.SetBitmap(Module(), IDB_RAMP, IDB_RAMP_LARGER);
+    EXPECT_EQ(picture.GetBitmapId(), IDB_RAMP);
+    EXPECT_EQ(shown(48, 32), 48);
+    EXPECT_EQ(shown(47, 32), 24);
+    EXPECT_EQ(shown(48, 31), 24);
+    EXPECT_EQ(shown(10, 10), 24);
+    picture.SetBitmap(Module(), IDB_RAMP);
+    EXPECT_EQ(shown(300, 150), 24);
+    // One form alone may be missing.
+    picture.SetBitmap(Module(), IDB_RAMP, 9999);
+    EXPECT_EQ(shown(300, 150), 24);
+    picture.SetBitmap(Module(), 9999, IDB_RAMP_LARGER);
+    EXPECT_EQ(shown(300, 150), 48);
+}
+
 TEST_F(Picture, MissingBitmapLeavesTheControlEmpty) {
     EdgedPicture picture;
     dialog.RegisterControl(IDC_PICTURE, &picture);

@@ -211,6 +211,45 @@ TYPED_TEST(TextGauge, TheRangeSetsTheScale) {
     EXPECT_TRUE(field.IsEnabled());
 }
 
+TEST(DoubleGaugeText, LimitsScaleTheGaugeAndLeaveTheValue) {
+    ControlHost host;
+    ProbeGauge gauge;
+    ADM_DoubleGaugeText field;
+    field.SetGauge(&gauge);
+    field.SetRange(0, 100, 10);
+    field.SetValue(50);
+    const HWND hWnd = host.BindEdit(field);
+    field.SetLimits(60, 80, 5);
+    EXPECT_EQ(TextOf(hWnd), "50");
+    EXPECT_EQ(MaxOf(gauge), 4);
+    EXPECT_EQ(field.GetTypedValue(), 50.0);
+    EXPECT_FALSE(field.Validate(TRUE, nullptr));
+    // What the arrows do stays within.
+    Stroke(hWnd, VK_UP);
+    EXPECT_EQ(TextOf(hWnd), "60");
+    EXPECT_TRUE(field.Validate(TRUE, nullptr));
+    // Text that was typed and not yet read stays as well.
+    SetWindowTextA(hWnd, "7.5");
+    field.SetLimits(10, 20, 5);
+    EXPECT_EQ(TextOf(hWnd), "7.5");
+    EXPECT_EQ(field.GetTypedValue(), 7.5);
+    EXPECT_EQ(field.GetValue(), 10.0);
+    field.SetLimits(5, 5, 1);
+    EXPECT_FALSE(field.IsEnabled());
+}
+
+TYPED_TEST(TextGauge, TheTypedValueKnowsNoRange) {
+    auto& field = this->control;
+    const HWND hWnd = this->Bind();
+    SetWindowTextA(hWnd, "700");
+    EXPECT_EQ(field.GetTypedValue(), 700);
+    SetWindowTextA(hWnd, "-3");
+    EXPECT_EQ(field.GetTypedValue(), -3);
+    SetWindowTextA(hWnd, "");
+    EXPECT_EQ(field.GetTypedValue(), -3);
+    EXPECT_EQ(TextOf(hWnd), "");
+}
+
 TYPED_TEST(TextGauge, ARangeOfNoWidthDisablesTheField) {
     auto& field = this->control;
     auto& gauge = this->probe;

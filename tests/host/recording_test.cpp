@@ -187,10 +187,15 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
     };
     // Of curve fitting: what is reserved, the ends of its texts, padding, and what has no key.
     constexpr std::size_t kFitUnseen = 2220 + (255 + 20 * 255 + 44) + 8 + 163;
+    // Of signal processing: what is reserved, in the record and its four sections, and padding.
+    constexpr std::size_t kSigprocUnseen = 8 + 3 * (3 + 28) + 54 + 4 + 16 + 4 + 4 + 4 + 2;
     // A common block has two bytes of padding; texts show what stands before their end alone.
     const Row kRows[] = {{"normalize", 5},
                          {"time-shift", 2},
                          {"curve-fit", kFitUnseen},
+                         {"filter", kSigprocUnseen},
+                         {"power-spectrum", kSigprocUnseen},
+                         {"correlation", 4 + 68 + 2},
                          {"force-values", 2},
                          {"adjust-baseline", 2},
                          {"leak-subtraction", 6},

@@ -35,6 +35,28 @@ TEST_F(HostRun, PreparesACurveFitAsItsExampleSays) {
     EXPECT_NE(ReadFile(Store()).find("DlgConstraint0=1"), std::string::npos);
 }
 
+// The rows of the sheet are too few for a filter or a spectrum.
+TEST_F(HostRun, OpensSignalProcessingOnItsOwnRecordings) {
+    for (const std::string szRecording : {"family", "second-kind", "no-waveform", "sheet"}) {
+        const bool bSheet = szRecording == "sheet";
+        const std::string steps = WriteFile("steps.txt", bSheet ? "cancel\n" : "ok\n");
+        for (const std::string szAnalysis : {"filter", "power-spectrum", "correlation"}) {
+            SCOPED_TRACE(szAnalysis + " on " + szRecording);
+            ASSERT_EQ(Run({"run", szAnalysis, "--recording", szRecording, "--script", steps,
+                           "--store", Store()}),
+                      zxhost::kDone)
+                << err;
+            EXPECT_TRUE(OutHas(bSheet ? "result: 2 (Cancel)\n" : "result: 1 (OK)\n")) << out;
+            EXPECT_EQ(err, "");
+        }
+    }
+    const std::string stored = ReadFile(Store());
+    for (const char* szSection :
+         {"[LowpassFilterSection]", "[PowerSpectrumSection]", "[CorrelationSection]",
+          "[FilterDataSection]", "[SpectrumDataSection]", "[CorrelationDataSection]"})
+        EXPECT_NE(stored.find(szSection), std::string::npos) << szSection;
+}
+
 TEST_F(HostRun, FindsTheSettingsOfTheLastRun) {
     ASSERT_EQ(Play("click \"Use specified regions\"\nchoose 2364 \"Cursors 3..4\"\nok\n"), 0)
         << err;

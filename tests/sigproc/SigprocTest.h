@@ -17,6 +17,8 @@
 #include "fixtures/ScratchStore.h"
 #include "fixtures/TestDataSource.h"
 #include "fixtures/WindowReading.h"
+#include "framework/ADM_BitmapPictureWnd.h"
+#include "framework/ADM_Dialog.h"
 #include "ids.h"
 #include "sigproc_ids.h"
 #include "store/ProfileStore.h"
@@ -34,6 +36,25 @@ using test_support::TestDataSource;
 constexpr int kOkButton = 101;
 constexpr int kYesButton = 101;
 constexpr int kNoButton = 102;
+
+// The bitmap that a picture of the open page shows.
+inline int BitmapOf(HWND hDialog, int nId) {
+    const HWND hPicture = FindControl(hDialog, nId);
+    const ADM_Dialog* pPage = ADM_Dialog::FromWindow(GetParent(hPicture));
+    const auto* pPicture = dynamic_cast<ADM_BitmapPictureWnd*>(pPage->FindControl(hPicture));
+    return pPicture != nullptr ? pPicture->GetBitmapId() : -1;
+}
+// Whether the program has a bitmap of this id.
+inline bool HasBitmap(int nId) {
+    return FindResourceA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(nId),
+                         MAKEINTRESOURCEA(2 /* bitmap */)) != nullptr;
+}
+// The titles of the messages, which tell their icons.
+inline std::vector<std::string> TitlesOf(const DialogScript& script) {
+    std::vector<std::string> titles;
+    for (const auto& message : script.Messages()) titles.push_back(message.title);
+    return titles;
+}
 
 template <class Dialog, class Record>
 class SigprocDialogTest : public testing::Test {

@@ -66,6 +66,7 @@ TEST_F(FilterDialogTest, EachFamilyIsOfferedWhereItBelongs) {
 struct Arrangement {
     const char* szName;
     int nButton;
+    int nPicture;
     const char* szSelected;  // of lowpass, highpass, notch, interference
     bool bHighpass, bLowpass, bHum, bNotch;
 };
@@ -76,7 +77,11 @@ class FilterArrangements : public FilterDialogTest,
 TEST_P(FilterArrangements, SelectsItsSectionsAndEnablesTheirGroups) {
     const Arrangement& row = GetParam();
     DialogScript script;
-    script.Click(row.nButton);
+    script.Click(row.nButton).Do([&row](HWND hDialog) {
+        EXPECT_EQ(BitmapOf(hDialog, IDC_FILTER_PICTURE), row.nPicture);
+        EXPECT_TRUE(HasBitmap(row.nPicture));
+        EXPECT_TRUE(HasBitmap(row.nPicture + 200));
+    });
     const struct {
         bool bEnabled;
         std::vector<int> ids;
@@ -131,12 +136,12 @@ TEST_P(FilterArrangements, ComesBackAsItsButton) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, FilterArrangements,
-    testing::Values(Arrangement{"Bandpass", IDC_FILTER_BANDPASS, "LH", true, true, false, false},
-                    Arrangement{"Highpass", IDC_FILTER_HIGHPASS, "H", true, false, false, false},
-                    Arrangement{"Lowpass", IDC_FILTER_LOWPASS, "L", false, true, false, false},
-                    Arrangement{"Interference", IDC_FILTER_INTERFERENCE, "A", false, false, true,
-                                false},
-                    Arrangement{"Notch", IDC_FILTER_NOTCH, "N", false, false, false, true}),
+    testing::Values(
+        Arrangement{"Bandpass", IDC_FILTER_BANDPASS, 2630, "LH", true, true, false, false},
+        Arrangement{"Highpass", IDC_FILTER_HIGHPASS, 2631, "H", true, false, false, false},
+        Arrangement{"Lowpass", IDC_FILTER_LOWPASS, 2632, "L", false, true, false, false},
+        Arrangement{"Interference", IDC_FILTER_INTERFERENCE, 2633, "A", false, false, true, false},
+        Arrangement{"Notch", IDC_FILTER_NOTCH, 2634, "N", false, false, false, true}),
     [](const testing::TestParamInfo<Arrangement>& row) { return row.param.szName; });
 
 TEST_F(FilterDialogTest, SectionsThatAreNotChosenKeepTheirValues) {
@@ -176,6 +181,14 @@ TEST_F(FilterDialogTest, TheLowpassRangeFollowsItsFamily) {
         .Click(IDC_FILTER_HIGHPASS)
         .Choose(IDC_HIGHPASS_FAMILY, "RC (single pole)")
         .ExpectText(IDC_HIGHPASS_RANGE, "Cutoff range = 1.0 to 5000.0 Hz");
+    ShowAndCancel(script);
+}
+
+TEST_F(FilterDialogTest, LimitsAboveTenMillionShowInExponentForm) {
+    source.samplingFrequency = 24691356.0;
+    options.lowpass = {1, 7, 0, 0, 2500.0, 0.0, 0.0, 0, {}};
+    DialogScript script;
+    script.ExpectText(IDC_LOWPASS_RANGE, "Cutoff range = 2469.1 to 1.2345678e7 Hz");
     ShowAndCancel(script);
 }
 
@@ -471,6 +484,7 @@ TEST_F(FilterDialogTest, ReadOnlyShowsTheRecordAsItIs) {
     params.bReadOnly = 1;
     options.lowpass = {1, 2, 0, 0, 9000.0, 0.0, 0.0, 3, {}};
     options.highpass.m_dCornerFreq = 0.0;
+    options.adaptive.m_eReferenceGeneration = 9;
     const FilterOptions before = options;
     DialogScript script;
     script.ExpectTitle("Filter (read only)")

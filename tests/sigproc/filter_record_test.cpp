@@ -7,8 +7,10 @@
 #include <cmath>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "sigproc/FilterRecord.h"
+#include "sigproc/SamplingRate.h"
 
 namespace {
 
@@ -80,6 +82,16 @@ TEST(FilterRecord, GetsAFamilyThatIsOffered) {
         CompleteFilterRecord(options, 10000.0);
         EXPECT_EQ(options.lowpass.m_eFilterFamily, row.eLowpass);
         EXPECT_EQ(options.highpass.m_eFilterFamily, row.eHighpass);
+    }
+}
+
+TEST(FilterRecord, GetsAReferenceThatIsOffered) {
+    for (const auto& [eStored, eShown] :
+         std::vector<std::pair<int, int>>{{0, 0}, {1, 1}, {2, 2}, {3, 0}, {-1, 0}}) {
+        FilterOptions options = {};
+        options.adaptive.m_eReferenceGeneration = eStored;
+        CompleteFilterRecord(options, 10000.0);
+        EXPECT_EQ(options.adaptive.m_eReferenceGeneration, eShown);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "sigproc/FilterLimits.h"
+#include "sigproc/SamplingRate.h"
 #include "sigproc/SpectrumLengths.h"
 #include "text/NumberParse.h"
 

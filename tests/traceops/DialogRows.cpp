@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "fit_control_ids.h"
+#include "sigproc_ids.h"
 
 namespace traceops_test {
 namespace {
@@ -52,6 +53,7 @@ DialogRow SpectrumRow() {
     row.prepare = [](std::vector<unsigned char>& options) {
         reinterpret_cast<SpectrumOptions*>(options.data())->uTransformLength = 64;
     };
+    row.delicate = {IDC_SPECTRUM_EXCLUDE};
     return row;
 }
 

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "StandInControl.h"
-#include "platform/platform.h"
+#include "fixtures/LoadedModule.h"
 
 namespace sigproc_test {
 
@@ -16,21 +16,14 @@ class FilterStandIn {
     static constexpr const char* kMissingFile = "FILTER_MISSING.dll";
     static constexpr const char* kFileWithoutExport = "FILTER_NOEXPORT.dll";
 
-    FilterStandIn() : m_hLibrary(LoadLibraryA(kFile)) {
-        using Give = FilterStandInControl* (*)();
-        m_pControl = reinterpret_cast<Give>(
-            reinterpret_cast<void*>(GetProcAddress(m_hLibrary, FILTER_STANDIN_CONTROL)))();
-        *m_pControl = {};
-    }
-    ~FilterStandIn() { FreeLibrary(m_hLibrary); }
-    FilterStandIn(const FilterStandIn&) = delete;
-    FilterStandIn& operator=(const FilterStandIn&) = delete;
+    FilterStandIn() { *m_pControl = {}; }
 
     FilterStandInControl* operator->() const { return m_pControl; }
 
   private:
-    HMODULE m_hLibrary;
-    FilterStandInControl* m_pControl;
+    test_support::LoadedModule m_library{kFile};
+    FilterStandInControl* m_pControl =
+        m_library.Function<FilterStandInControl*()>(FILTER_STANDIN_CONTROL)();
 };
 
 }  // namespace sigproc_test

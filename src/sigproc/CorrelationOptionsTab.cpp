@@ -1,5 +1,6 @@
-#include "sigproc/CCorrelationOptionsTab.h"
+#include "sigproc/CorrelationOptionsTab.h"
 
+#include <cstring>
 #include <limits>
 
 #include "ZXADLG.h"
@@ -35,8 +36,10 @@ CCorrelationOptionsTab::CCorrelationOptionsTab(Options* pOptions, const ZXADLG_D
     Bind(
         IDC_CORRELATION_LAGS, m_txtLags, [this] { return ShownCount(m_pRecord->uNumberOfLags); },
         [this](std::int32_t n) {
-            // A number below 0 is not stored; OK refuses it.
-            if (n >= 0) m_pRecord->uNumberOfLags = TypedCount(n);
+            // What begins as a number below 0 is not stored, from its sign on; OK refuses it.
+            char szText[16] = "";
+            m_txtLags.GetWindowText(szText, sizeof szText);
+            if (std::strchr(szText, '-') == nullptr) m_pRecord->uNumberOfLags = TypedCount(n);
         });
     Spinner(IDC_CORRELATION_LAGS_SPIN, m_spnLags, m_txtLags);
     Label(IDC_CORRELATION_TIMES, m_lblTimes);

@@ -1,7 +1,8 @@
-#include "sigproc/CFilterOptionsTab.h"
+#include "sigproc/FilterOptionsTab.h"
 
 #include "ZXADLG.h"
 #include "ids.h"
+#include "sigproc/SamplingRate.h"
 #include "sigproc_ids.h"
 #include "widgets/FrameworkSetup.h"
 
@@ -86,8 +87,7 @@ void CFilterOptionsTab::BindInterference() {
     m_radReference.SetupIds(this, 3, kReferences, nullptr);
     BindTo(
         m_radReference, [&adaptive] { return adaptive.m_eReferenceGeneration; },
-        [&adaptive](int e) { adaptive.m_eReferenceGeneration = e; })
-        .Corrects();
+        [&adaptive](int e) { adaptive.m_eReferenceGeneration = e; });
     BindNumber({IDC_HUM_HARMONICS_LABEL, IDC_HUM_HARMONICS, IDC_HUM_HARMONICS_SPIN}, m_harmonics,
                adaptive.m_uHarmonicNumberEnd);
     BindNumber({IDC_HUM_CYCLES_LABEL, IDC_HUM_CYCLES, IDC_HUM_CYCLES_SPIN}, m_cycles,

@@ -1,8 +1,8 @@
-#include "sigproc/CSpectrumOptionsTab.h"
+#include "sigproc/SpectrumOptionsTab.h"
 
 #include "ZXADLG.h"
 #include "ids.h"
-#include "sigproc/FilterRecord.h"
+#include "sigproc/SamplingRate.h"
 #include "sigproc/SpectrumWindows.h"
 #include "sigproc_ids.h"
 
