@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "fit/CGraphicalSeedDialog.h"
 #include "fit/FitChecks.h"
 #include "fit/FitSeedRules.h"
 #include "fit/FitVariables.h"
+#include "fit/GraphicalSeeding.h"
 #include "fit_control_ids.h"
 #include "fit_ids.h"
 #include "text/CaptionText.h"

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "FitFixture.h"
-#include "fit/CGraphicalSeedDialog.h"
+#include "fit/GraphicalSeeding.h"
 #include "framework/RandomUser.h"
 #include "widgets/FrameworkSetup.h"
 

@@ -1,4 +1,4 @@
-#include "fit/CGraphicalSeedDialog.h"
+#include "fit/GraphicalSeeding.h"
 
 #include <algorithm>
 #include <cstdlib>
