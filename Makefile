@@ -1,5 +1,5 @@
 # Each target does all that it needs on a fresh machine; tools/setup.sh installs what is missing.
-.PHONY: demo pictures test test-win64 bench seeds fuzz mutate format lint clean
+.PHONY: demo pictures test test-win64 differential bench seeds fuzz mutate format lint clean
 
 demo:
 	@tools/demo.sh
@@ -13,6 +13,11 @@ test:
 
 test-win64:
 	@tools/test.sh win64
+
+# Random windows and users on both window systems, side by side: make differential BASE=7
+BASE ?= 1
+differential:
+	@tools/differential.sh long $(BASE)
 
 bench:
 	@tools/bench.sh

@@ -90,9 +90,9 @@ void Button::SetCheck(UINT check) {
 }
 
 void Button::Press(bool withFocus) {
-    SetCapture(m_hwnd);
     if (withFocus) SetFocus(m_hwnd);
     if (m_hwnd == nullptr) return;
+    SetCapture(m_hwnd);
     m_pressed = true;
     SendMessageA(m_hwnd, BM_SETSTATE, TRUE, 0);
 }

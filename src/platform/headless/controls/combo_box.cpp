@@ -6,6 +6,7 @@
 
 #include "platform/headless/controls/combo_messages.h"
 #include "platform/headless/controls/controls.h"
+#include "platform/headless/controls/text_order.h"
 #include "zxadlg/headless/diagnostics.h"
 
 namespace headless {
@@ -85,7 +86,7 @@ void RegisterComboBoxClass() {
 ComboBox::ComboBox(HWND hwnd, const CREATESTRUCTA& create)
     : ControlObject(hwnd),
       m_ownerDraws((create.style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0) {
-    if (!m_ownerDraws) SetStyle(CBS_HASSTRINGS, true);
+    m_hasStrings = !m_ownerDraws || (create.style & CBS_HASSTRINGS) != 0;
     if ((create.style & CBS_OEMCONVERT) != 0) ReportUnsupported("CBS_OEMCONVERT");
     // The scroll bar of the style is the list's.
     SetStyle(WS_VSCROLL | WS_HSCROLL | WS_BORDER, false);
@@ -117,6 +118,7 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             ToList(message, wParam, lParam);
             if (!m_ownHeight) m_fieldHeight = FieldHeightOfFont();
             UpdateHeight();
+            SizeList();
             return 0;
         case WM_GETFONT:
             return reinterpret_cast<LRESULT>(m_font);
@@ -133,6 +135,7 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             // A new height is that of the open list below the field.
             if (position->cy != ClosedHeight()) {
                 m_droppedHeight = std::max(position->cy - ClosedHeight(), 0);
+                SizeList();
                 position->cy = ClosedHeight();
             }
             break;
@@ -142,9 +145,10 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Repaint();
             return 0;
         case WM_SETREDRAW:
+            m_redraws = wParam != 0;
             ToList(message, wParam, lParam);
-            if (m_edit != nullptr) ToEdit(message, wParam, lParam);
-            break;
+            Repaint();
+            return 0;
         case WM_ERASEBKGND:
             return 1;
         case WM_PAINT: {
@@ -195,6 +199,8 @@ LRESULT ComboBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             ToList(message, wParam, lParam);
             m_trackedByKey = false;
             return 0;
+        case kComboChoiceAtOpening:
+            return m_choiceAtOpening;
         case kComboListKey:
             return OnListKey(static_cast<int>(wParam), lParam) ? 1 : 0;
         case WM_LBUTTONDOWN:
@@ -297,10 +303,11 @@ LRESULT ComboBox::HandleListMessage(UINT message, WPARAM wParam, LPARAM lParam) 
         case CB_SELECTSTRING: {
             const LRESULT index =
                 ToList(message == CB_SETCURSEL ? LB_SETCURSEL : LB_SELECTSTRING, wParam, lParam);
-            if (index < 0 && (message == CB_SELECTSTRING || static_cast<int>(wParam) != -1)) {
-                return CB_ERR;
-            }
-            if (index >= 0) ToList(LB_SETTOPINDEX, static_cast<WPARAM>(index), 0);
+            if (index < 0 && message == CB_SELECTSTRING) return CB_ERR;
+            // An index that is none clears the selection.
+            if (index < 0) ToList(LB_SETCURSEL, static_cast<WPARAM>(-1));
+            if (index >= 0 && message == CB_SETCURSEL)
+                ToList(LB_SETTOPINDEX, static_cast<WPARAM>(index), 0);
             ShowItemInEdit(static_cast<int>(index));
             Repaint();
             return index;
@@ -318,8 +325,23 @@ LRESULT ComboBox::HandleListMessage(UINT message, WPARAM wParam, LPARAM lParam) 
         ReportUnsupported(UnsupportedName(message));
         return CB_ERR;
     }
+    if ((message == CB_ADDSTRING || message == CB_INSERTSTRING) && m_hasStrings && lParam != 0) {
+        const std::string item = WithCase(reinterpret_cast<const char*>(lParam));
+        return ToList(listMessage, wParam, reinterpret_cast<LPARAM>(item.c_str()));
+    }
     const LRESULT result = ToList(listMessage, wParam, lParam);
     if (message == CB_DELETESTRING || message == CB_SETITEMDATA) Repaint();
+    return result;
+}
+
+// The styles for one case hold for the items as well.
+std::string ComboBox::WithCase(std::string_view text) const {
+    std::string result(text);
+    if (HasStyle(CBS_UPPERCASE)) {
+        std::transform(result.begin(), result.end(), result.begin(), ToUpperCase);
+    } else if (HasStyle(CBS_LOWERCASE)) {
+        std::transform(result.begin(), result.end(), result.begin(), ToLowerCase);
+    }
     return result;
 }
 
@@ -342,7 +364,9 @@ LRESULT ComboBox::OnCreate(const CREATESTRUCTA& create) {
         m_fieldHeight = static_cast<int>(measure.itemHeight) + 6;
         m_ownHeight = true;
     }
-    m_droppedHeight = std::max(create.cy - ClosedHeight(), 0);
+    // A field with an edit is made one pixel lower than the font asks for.
+    const int closed = ClosedHeight() - (TypeOf(style) == CBS_DROPDOWN ? 1 : 0);
+    m_droppedHeight = std::max(create.cy - closed, 0);
     MakeChildren(create);
     if (m_list == nullptr) return -1;
     UpdateHeight();
@@ -369,7 +393,9 @@ void ComboBox::MakeChildren(const CREATESTRUCTA& create) {
     if (m_list == nullptr) return;
     SetWindowLongPtrA(m_list, GWLP_ID, kListId);
     if (TypeOf(style) != CBS_DROPDOWN) return;
-    DWORD editStyle = WS_CHILD | WS_VISIBLE | ES_NOHIDESEL | ES_LEFT;
+    // The bit that marks the edit of a combo box has no name.
+    constexpr DWORD kInComboBox = 0x200;
+    DWORD editStyle = WS_CHILD | WS_VISIBLE | ES_NOHIDESEL | ES_LEFT | kInComboBox;
     if ((style & CBS_AUTOHSCROLL) != 0) editStyle |= ES_AUTOHSCROLL;
     if ((style & CBS_UPPERCASE) != 0) {
         editStyle |= ES_UPPERCASE;
@@ -462,7 +488,7 @@ LRESULT ComboBox::ForwardOwnerDraw(UINT message, LPARAM lParam) {
 
 std::string ComboBox::ItemText(int index) const {
     const LRESULT length = index < 0 ? LB_ERR : ToList(LB_GETTEXTLEN, static_cast<WPARAM>(index));
-    if (length <= 0 || !HasStyle(CBS_HASSTRINGS)) return std::string();
+    if (length <= 0 || !m_hasStrings) return std::string();
     std::string text(static_cast<size_t>(length), '\0');
     // The list writes the closing zero, for which a string has room.
     ToList(LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/headless/controls/control_object.h"
 
@@ -39,6 +40,7 @@ class ComboBox : public ControlObject<ComboBox> {
     }
     int Current() const { return static_cast<int>(ToList(LB_GETCURSEL)); }
     std::string ItemText(int index) const;
+    std::string WithCase(std::string_view text) const;
 
     // --- combo_box_input.cpp: the list opens and closes, keys and mouse
     void Focus();
@@ -63,21 +65,27 @@ class ComboBox : public ControlObject<ComboBox> {
     void UpdateHeight();
     void PlaceEdit();
     RECT DroppedRect() const;
+    void SizeList();
     void Paint(HDC dc);
     void PaintField(HDC dc);
-    void Repaint() { InvalidateRect(m_hwnd, nullptr, TRUE); }
+    void Repaint() {
+        if (m_redraws) InvalidateRect(m_hwnd, nullptr, TRUE);
+    }
 
     HWND m_edit = nullptr;  // null in a drop-down list
     HWND m_list = nullptr;
     HFONT m_font = nullptr;
     bool m_ownerDraws;
+    bool m_hasStrings;
     int m_fieldHeight = 0;     // of the selection field, without the border
     int m_droppedHeight = 0;   // of the open list
     int m_droppedWidth = 0;    // 0: as wide as the window
     bool m_ownHeight = false;  // the field's height was set or measured by the owner
     bool m_sizing = false;
+    bool m_redraws = true;  // WM_SETREDRAW
     bool m_focused = false;
     bool m_dropped = false;
+    int m_choiceAtOpening = -1;
     bool m_buttonDown = false;
     bool m_quietEdit = false;     // the edit changes because the list did
     bool m_trackedByKey = false;  // a key moves in the open list, which stays open

@@ -11,6 +11,7 @@ void ComboBox::Focus() {
     if (m_hwnd == nullptr) return;
     m_focused = true;
     Repaint();
+    if (m_edit != nullptr) ToEdit(EM_SETSEL, 0, -1);
 }
 
 // Leaving ends the choice, whether the list was open or not.
@@ -31,6 +32,7 @@ void ComboBox::DropDown() {
         ToList(LB_SETCURSEL, static_cast<WPARAM>(index));
         if (index >= 0 && !m_buttonDown) ShowItemInEdit(index);
     }
+    m_choiceAtOpening = Current();
     ToList(LB_SETTOPINDEX, static_cast<WPARAM>(std::max(Current(), 0)));
     ShowList();
     Repaint();
@@ -67,6 +69,8 @@ void ComboBox::ShowList() {
     if (top + height > screen && window.top - height >= 0) top = window.top - height;
     SetWindowPos(m_list, HWND_TOPMOST, window.left, top, dropped.right - dropped.left, height,
                  SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    // The open list has the mouse, once the button that opened it is up.
+    if (GetCapture() != m_hwnd) SetCapture(m_list);
 }
 
 // The item that the text of the edit stands for: the same text, or else one that begins with it.
@@ -82,14 +86,11 @@ int ComboBox::MatchEditText() const {
     return static_cast<int>(ToList(LB_FINDSTRING, fromStart, wanted));
 }
 
-// Typing takes the selection away; an open list shows what the text begins.
+// Typing takes the selection away, but for an open list, which selects what the text begins. The
+// caret of the list goes there in any case, and the arrow keys go on from it.
 void ComboBox::OnEditChange() {
-    if (!m_dropped) {
-        ToList(LB_SETCURSEL, static_cast<WPARAM>(-1));
-        return;
-    }
     const int index = MatchEditText();
-    ToList(LB_SETCURSEL, static_cast<WPARAM>(-1));
+    ToList(LB_SETCURSEL, static_cast<WPARAM>(m_dropped ? index : -1));
     ToList(LB_SETCARETINDEX, static_cast<WPARAM>(std::max(index, 0)));
     ToList(LB_SETTOPINDEX, static_cast<WPARAM>(std::max(index, 0)));
 }

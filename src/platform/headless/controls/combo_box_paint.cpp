@@ -60,6 +60,14 @@ RECT ComboBox::DroppedRect() const {
     return rect;
 }
 
+// A list that has never been open already scrolls by the height that it will have.
+void ComboBox::SizeList() {
+    if (m_dropped) return;
+    const RECT dropped = DroppedRect();
+    SetWindowPos(m_list, nullptr, 0, 0, dropped.right - dropped.left, m_droppedHeight,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void ComboBox::Paint(HDC dc) {
     RECT client;
     GetClientRect(m_hwnd, &client);

@@ -8,4 +8,7 @@ namespace headless {
 // From the edit: a key that works on the list (wParam: the key). Non-zero if the key is used up.
 inline constexpr UINT kComboListKey = 0x7F00;
 
+// From the list: the index that was chosen when it opened.
+inline constexpr UINT kComboChoiceAtOpening = 0x7F01;
+
 }  // namespace headless

@@ -58,9 +58,6 @@ Edit::Edit(HWND hwnd, const CREATESTRUCTA& create)
     if ((create.style & ES_PASSWORD) != 0 && (create.style & ES_MULTILINE) == 0) {
         m_passwordChar = '*';
     }
-    if ((create.style & ES_MULTILINE) != 0 && (create.style & WS_VSCROLL) != 0) {
-        SetStyle(ES_AUTOVSCROLL, true);
-    }
     if ((create.style & ES_OEMCONVERT) != 0) ReportUnsupported("ES_OEMCONVERT");
 }
 
@@ -149,7 +146,7 @@ LRESULT Edit::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             OnDoubleClick(point);
             return 0;
         case WM_MOUSEMOVE:
-            if (m_dragging) MoveTo(IndexFromPoint(point, nullptr), true);
+            if (m_dragging) MoveTo(IndexFromPoint(Confined(point), nullptr), true);
             return 0;
         case WM_LBUTTONUP:
             if (!m_dragging) return 0;

@@ -78,6 +78,9 @@ class Edit : public ControlObject<Edit> {
     int VisibleLines() const;
     bool ScrollLines(int lines);
     void ScrollToCaret();
+    void ScrollLineToCaret();
+    void ScrollLinesToColumn(int x);
+    POINT Confined(POINT point) const;
     LRESULT ScrollBy(int request);
 
     // --- edit_input.cpp: keys and mouse

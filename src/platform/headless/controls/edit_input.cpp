@@ -237,16 +237,22 @@ void Edit::OnDelete(bool shift, bool control) {
     Clear();
 }
 
+// The mouse means the nearest place where text stands.
+POINT Edit::Confined(POINT point) const {
+    return {std::clamp(point.x, m_format.left, std::max(m_format.right - 1, m_format.left)),
+            std::clamp(point.y, m_format.top, std::max(m_format.bottom - 1, m_format.top))};
+}
+
 void Edit::OnButtonDown(POINT point, bool extend) {
     SetCapture(m_hwnd);
     m_dragging = true;
-    MoveTo(IndexFromPoint(point, nullptr), extend);
+    MoveTo(IndexFromPoint(Confined(point), nullptr), extend);
     // The focus comes last: who selects the text then has the last word.
     if (GetFocus() != m_hwnd) SetFocus(m_hwnd);
 }
 
 void Edit::OnDoubleClick(POINT point) {
-    const size_t index = IndexFromPoint(point, nullptr);
+    const size_t index = IndexFromPoint(Confined(point), nullptr);
     const size_t start =
         IsWordStart(m_text, index) && index < m_text.size() ? index : WordBackward(index);
     Select(start, WordForward(start));

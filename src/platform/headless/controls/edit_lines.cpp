@@ -6,6 +6,8 @@
 namespace headless {
 namespace {
 
+constexpr int kScrolledPart = 3;  // of the width, that scrolling brings in at once
+
 bool IsSpace(char c) {
     return c == ' ' || c == '\t';
 }
@@ -87,7 +89,6 @@ void Edit::Reformat() {
     UpdateFormatRect();
     m_lines = BreakLines(m_text);
     m_firstLine = std::min(m_firstLine, m_lines.size() - 1);
-    m_firstChar = std::min(m_firstChar, m_text.size());
 }
 
 void Edit::UpdateFormatRect() {
@@ -251,22 +252,41 @@ bool Edit::ScrollLines(int lines) {
     return true;
 }
 
+// A caret that has left the field comes back with a third of the field beyond it, as far as there
+// is text.
+void Edit::ScrollLineToCaret() {
+    const ControlDc dc(m_hwnd, m_font);
+    const int room = m_format.right - m_format.left;
+    if (m_caret < m_firstChar) {
+        do {
+            --m_firstChar;
+        } while (m_firstChar > 0 &&
+                 (m_caret < m_firstChar ||
+                  TextWidth(dc, m_firstChar, m_caret - m_firstChar) < room / kScrolledPart));
+        return;
+    }
+    if (TextWidth(dc, m_firstChar, m_caret - m_firstChar) <= room) return;
+    // Widths shrink as the first character moves on, so both ends are found by halves.
+    const auto firstThat = [&](size_t low, size_t high, const auto& fits) {
+        while (low < high) {
+            const size_t middle = low + (high - low) / 2;
+            fits(middle) ? high = middle : low = middle + 1;
+        }
+        return low;
+    };
+    const int goal = room - room / kScrolledPart;
+    const size_t atGoal = firstThat(m_firstChar + 1, m_caret, [&](size_t first) {
+        return TextWidth(dc, first, m_caret - first) <= goal;
+    });
+    const size_t atEnd = firstThat(m_firstChar + 1, m_text.size(), [&](size_t first) {
+        return TextWidth(dc, first, m_text.size() - first) <= room;
+    });
+    m_firstChar = std::min(atGoal, atEnd);
+}
+
 void Edit::ScrollToCaret() {
     if (!IsMultiLine()) {
-        if (!HasStyle(ES_AUTOHSCROLL)) return;
-        if (m_caret < m_firstChar) m_firstChar = m_caret;
-        const ControlDc dc(m_hwnd, m_font);
-        const int room = m_format.right - m_format.left;
-        // The first character from which on the text up to the caret fits.
-        size_t last = m_caret;
-        while (m_firstChar < last) {
-            const size_t middle = m_firstChar + (last - m_firstChar) / 2;
-            if (TextWidth(dc, middle, m_caret - middle) <= room) {
-                last = middle;
-            } else {
-                m_firstChar = middle + 1;
-            }
-        }
+        if (HasStyle(ES_AUTOHSCROLL)) ScrollLineToCaret();
         return;
     }
     const int line = static_cast<int>(CaretLine());
@@ -276,13 +296,24 @@ void Edit::ScrollToCaret() {
     } else if (line >= first + VisibleLines()) {
         ScrollLines(line - first - VisibleLines() + 1);
     }
-    if (Wraps()) return;
-    const int x = CaretPoint().x;
+    // Nothing is left empty below the last line while there are lines above.
+    ScrollLines(0);
+    if (!Wraps()) ScrollLinesToColumn(CaretPoint().x);
+}
+
+// As in a single line, a third of the width comes in at once, in whole letters.
+void Edit::ScrollLinesToColumn(int x) {
+    const ControlDc dc(m_hwnd, m_font);
+    const int room = m_format.right - m_format.left;
+    const int letter = std::max<int>(dc.Metrics().tmAveCharWidth, 1);
+    int shift = 0;
     if (x < m_format.left) {
-        m_leftOffset = std::max<int>(m_leftOffset - (m_format.left - x), 0);
+        shift = x - m_format.left - room / kScrolledPart / letter * letter;
     } else if (x > m_format.right) {
-        m_leftOffset += x - m_format.right;
+        const int rest = (kScrolledPart - 1) * room / kScrolledPart;
+        shift = x - m_format.left - rest / letter * letter;
     }
+    m_leftOffset = std::max(m_leftOffset + shift, 0);
 }
 
 // The lines scrolled in the low word, TRUE in the high word; 0 for a control of one line.

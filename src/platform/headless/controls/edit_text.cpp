@@ -94,7 +94,7 @@ size_t Edit::FittingLength(std::string_view text, size_t start, size_t end) cons
 
 // Whether all lines show with the text in the place of the bytes from start to end.
 bool Edit::FitsLines(std::string_view text, size_t start, size_t end) const {
-    if (HasStyle(ES_AUTOVSCROLL)) return true;
+    if (HasStyle(ES_AUTOVSCROLL | WS_VSCROLL)) return true;
     std::string whole = m_text;
     whole.replace(start, end - start, text);
     return BreakLines(whole).size() <= static_cast<size_t>(VisibleLines());
@@ -173,7 +173,7 @@ void Edit::Copy() {
 }
 
 void Edit::Paste() {
-    if (IsReadOnly() || !OpenClipboard(m_hwnd)) return;
+    if (IsReadOnly() || !IsClipboardFormatAvailable(CF_TEXT) || !OpenClipboard(m_hwnd)) return;
     std::string text;
     HANDLE memory = GetClipboardData(CF_TEXT);
     if (memory != nullptr) {

@@ -47,8 +47,7 @@ ListBox::ListBox(HWND hwnd, const CREATESTRUCTA& create)
       m_variableHeights((create.style & LBS_OWNERDRAWVARIABLE) != 0),
       m_scrollStyle((create.style & WS_VSCROLL) != 0 && (create.style & LBS_DISABLENOSCROLL) == 0) {
     if (m_inCombo) m_owner = static_cast<HWND>(create.lpCreateParams);
-    if (!IsDrawnByOwner()) SetStyle(LBS_HASSTRINGS, true);
-    m_hasStrings = HasStyle(LBS_HASSTRINGS);
+    m_hasStrings = !IsDrawnByOwner() || HasStyle(LBS_HASSTRINGS);
     for (const auto& [bit, name] :
          {std::pair<DWORD, const char*>{LBS_MULTICOLUMN, "LBS_MULTICOLUMN"},
           {LBS_NOSEL, "LBS_NOSEL"},
@@ -77,6 +76,12 @@ LRESULT ListBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS | DLGC_WANTCHARS;
         case WM_ENABLE:
+            Repaint();
+            return 0;
+        case WM_SETREDRAW:
+            // A mark of its own: a list that is hidden stays so.
+            m_redraws = wParam != 0;
+            UpdateScrollStyle();
             Repaint();
             return 0;
         case WM_ERASEBKGND:
@@ -128,7 +133,8 @@ LRESULT ListBox::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_CANCELMODE:
             m_tracking = false;
-            if (GetCapture() == m_hwnd) ReleaseCapture();
+            if (m_inCombo) SendMessageA(m_owner, CB_SHOWDROPDOWN, FALSE, 0);
+            if (m_hwnd != nullptr && GetCapture() == m_hwnd) ReleaseCapture();
             return 0;
         case WM_CAPTURECHANGED:
             m_tracking = false;
@@ -268,7 +274,7 @@ void ListBox::Notify(int code) {
 }
 
 void ListBox::Repaint() {
-    InvalidateRect(m_hwnd, nullptr, TRUE);
+    if (m_redraws) InvalidateRect(m_hwnd, nullptr, TRUE);
 }
 
 }  // namespace headless

@@ -58,8 +58,8 @@ class ListBox : public ControlObject<ListBox> {
     LRESULT SetSelection(LRESULT index, bool on);
     LRESULT SelectRange(LRESULT first, LRESULT last, bool on);
     void SelectOnly(int first, int last);
-    void SetCaret(int index);
-    void MoveCaret(int index);
+    void SetCaret(int index, bool whole = true);
+    void MoveCaret(int index, bool whole = true);
     LRESULT GetSelectedItems(LRESULT room, int* indexes) const;
     LRESULT OnKeyDown(int key);
     LRESULT OnChar(char c);
@@ -72,7 +72,7 @@ class ListBox : public ControlObject<ListBox> {
     int PageSize() const;
     int MaxTop() const;
     void SetTop(int index);
-    void EnsureVisible(int index);
+    void EnsureVisible(int index, bool whole = true);
     void UpdateScrollStyle();
     int ItemFromPoint(POINT point) const;
     LRESULT ItemFromPointResult(POINT point) const;
@@ -99,6 +99,7 @@ class ListBox : public ControlObject<ListBox> {
     int m_caret = 0;
     int m_anchor = -1;
     int m_top = 0;
+    bool m_redraws = true;    // WM_SETREDRAW
     bool m_tracking = false;  // the button went down on an item and is held
 
     HFONT m_font = nullptr;

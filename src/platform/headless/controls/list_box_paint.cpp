@@ -43,12 +43,17 @@ void ListBox::SetTop(int index) {
     Repaint();
 }
 
-void ListBox::EnsureVisible(int index) {
+// The mouse leaves an item that shows in part where it is.
+void ListBox::EnsureVisible(int index, bool whole) {
     if (index < m_top) {
         SetTop(index);
         return;
     }
     if (!m_variableHeights) {
+        RECT client;
+        GetClientRect(m_hwnd, &client);
+        const int page = PageSize();
+        if (!whole && index == m_top + page && client.bottom > page * ItemHeight(0)) return;
         if (index >= m_top + PageSize()) SetTop(index - PageSize() + 1);
         return;
     }

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/headless/controls/combo_messages.h"
 #include "platform/headless/controls/list_box.h"
 
 namespace headless {
@@ -101,18 +102,18 @@ void ListBox::SelectOnly(int first, int last) {
     Repaint();
 }
 
-void ListBox::SetCaret(int index) {
+void ListBox::SetCaret(int index, bool whole) {
     m_caret = index;
-    EnsureVisible(index);
+    EnsureVisible(index, whole);
     Repaint();
 }
 
 // Moves the caret as a key or the mouse does: the selection follows, except where each item is
-// switched by itself.
-void ListBox::MoveCaret(int index) {
-    SetCaret(index);
+// switched by itself and where it has no anchor yet.
+void ListBox::MoveCaret(int index, bool whole) {
+    SetCaret(index, whole);
     if (m_extended) {
-        SelectOnly(m_anchor == -1 ? index : m_anchor, index);
+        if (m_anchor != -1) SelectOnly(m_anchor, index);
     } else if (!m_multiple) {
         m_current = index;
     }
@@ -168,7 +169,9 @@ LRESULT ListBox::OnKeyDown(int key) {
                     SetSelection(m_caret, !m_items[static_cast<size_t>(m_caret)]->selected);
                     Notify(LBN_SELCHANGE);
                 }
-                return 0;
+                if (!starts) return 0;
+                caret = m_caret;
+                break;
             default:
                 return 0;
         }
@@ -203,10 +206,23 @@ void ListBox::OnButtonDown(POINT point, WPARAM keys) {
     RECT client;
     GetClientRect(m_hwnd, &client);
     if (m_inCombo) {
-        // The open list has the mouse; a press elsewhere closes it and selects nothing.
+        // The open list has the mouse; a press elsewhere closes it and leaves the choice as it was.
         if (!PtInRect(&client, point)) {
+            // The border and the scroll bar are still the list's.
+            RECT window;
+            POINT onScreen = point;
+            GetWindowRect(m_hwnd, &window);
+            ClientToScreen(m_hwnd, &onScreen);
+            if (PtInRect(&window, onScreen)) return;
+            const auto choice =
+                static_cast<int>(SendMessageA(m_owner, kComboChoiceAtOpening, 0, 0));
+            if (choice < Count()) SetSelection(choice, true);
+            if (IsIndex(choice)) SetCaret(choice);
             SendMessageA(m_owner, CB_SHOWDROPDOWN, FALSE, 0);
         } else {
+            // A list that a program opened brings the focus to its combo box.
+            if (GetFocus() != m_owner && !IsChild(m_owner, GetFocus())) SetFocus(m_owner);
+            if (m_hwnd == nullptr) return;
             SetCapture(m_hwnd);
             m_tracking = true;
         }
@@ -220,10 +236,10 @@ void ListBox::OnButtonDown(POINT point, WPARAM keys) {
     const bool control = (keys & MK_CONTROL) != 0;
     if ((keys & MK_SHIFT) == 0 || !IsMultiple()) m_anchor = index;
     if (m_multiple || (m_extended && control)) {
-        SetCaret(index);
+        SetCaret(index, false);
         SetSelection(index, !m_items[static_cast<size_t>(index)]->selected);
     } else {
-        MoveCaret(index);
+        MoveCaret(index, false);
     }
 }
 
@@ -235,7 +251,7 @@ void ListBox::OnMouseMove(POINT point) {
         // The item under the pointer is shown as selected; nobody is told before the button goes
         // up.
         const int index = inside ? ItemFromPoint(point) : -1;
-        if (index != -1 && index != m_current) MoveCaret(index);
+        if (index != -1 && index != m_current) MoveCaret(index, false);
         return;
     }
     if (!m_tracking || Count() == 0) return;
@@ -247,7 +263,7 @@ void ListBox::OnMouseMove(POINT point) {
     } else {
         index = ItemFromPoint({0, point.y});
     }
-    if (index != -1 && index != m_caret) MoveCaret(index);
+    if (index != -1 && index != m_caret) MoveCaret(index, false);
 }
 
 void ListBox::OnButtonUp(POINT point) {
@@ -258,7 +274,7 @@ void ListBox::OnButtonUp(POINT point) {
         const bool chosen = inside && (m_tracking || GetCapture() == m_hwnd);
         m_tracking = false;
         if (chosen) {
-            MoveCaret(ItemFromPoint(point));
+            MoveCaret(ItemFromPoint(point), false);
             Notify(LBN_SELCHANGE);
         }
         return;

@@ -70,11 +70,20 @@ void Tab::Layout() {
         item.rect = {x, kFirstTab, x + width, kFirstTab + height};
         x += width;
     }
+    if (IsWindowVisible(m_hwnd)) CheckThatTabsFit();
+    Repaint();
+}
+
+// The platform would bring up arrows to scroll the tabs with.
+void Tab::CheckThatTabsFit() const {
     RECT client = {};
     GetClientRect(m_hwnd, &client);
-    if (x > client.right && client.right > 0 && IsWindowVisible(m_hwnd))
+    if (!m_items.empty() && m_items.back().rect.right > client.right && client.right > 0)
         ReportUnsupported("tabs that do not fit their control");
-    InvalidateRect(m_hwnd, nullptr, TRUE);
+}
+
+void Tab::Repaint() const {
+    if (m_redraws) InvalidateRect(m_hwnd, nullptr, TRUE);
 }
 
 int Tab::ItemAt(POINT point) const {
@@ -149,7 +158,7 @@ int Tab::Select(int index) {
     if (index >= Count()) return -1;
     const int old = m_selected;
     m_selected = m_focused = std::max(index, -1);
-    if (old != m_selected) InvalidateRect(m_hwnd, nullptr, TRUE);
+    if (old != m_selected) Repaint();
     return old;
 }
 
@@ -215,6 +224,15 @@ LRESULT Tab::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS | DLGC_WANTCHARS;
+        case WM_NCHITTEST: {
+            // What is no tab lets the mouse through to the dialog.
+            POINT at = point;
+            ScreenToClient(m_hwnd, &at);
+            return ItemAt(at) < 0 ? HTTRANSPARENT : HTCLIENT;
+        }
+        case WM_SETREDRAW:
+            m_redraws = wParam != 0;
+            return 0;
         case WM_SETFONT:
             return SetFont(reinterpret_cast<HFONT>(wParam), LOWORD(lParam) != 0);
         case WM_GETFONT:
@@ -348,6 +366,8 @@ void Tab::PaintItem(HDC dc, int index) {
 }
 
 void Tab::Paint(HDC dc) {
+    // Tabs may have come before anything was shown.
+    CheckThatTabsFit();
     const int saved = SaveDC(dc);
     SelectObject(dc, m_font != nullptr ? m_font : GetStockObject(SYSTEM_FONT));
     RECT page = {};

@@ -42,9 +42,12 @@ class Tab : public ControlObject<Tab> {
     void AdjustRect(bool larger, RECT& rect) const;
     LRESULT SetFont(HFONT font, bool redraw);
 
+    void CheckThatTabsFit() const;
+    void Repaint() const;
     void Paint(HDC dc);
     void PaintItem(HDC dc, int index);
 
+    bool m_redraws = true;  // WM_SETREDRAW
     HFONT m_font = nullptr;
     std::vector<Item> m_items;
     int m_selected = -1;

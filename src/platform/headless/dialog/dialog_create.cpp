@@ -123,12 +123,14 @@ bool CreateControls(HWND dialog, const DialogTemplate& source, const std::uint8_
 }
 
 // WM_INITDIALOG and where the focus goes then.
-void Initialize(HWND dialog, LPARAM param) {
+void Initialize(HWND dialog, LPARAM param, DWORD templateStyle) {
     const HWND before = GetFocus();
     const HWND first = FirstTabStop(dialog);
     const LRESULT wantsFocus = Send(dialog, WM_INITDIALOG, reinterpret_cast<WPARAM>(first), param);
     Window* window = Peek(dialog);
     if (window == nullptr) return;
+    // A page that is not shown takes no focus from the dialog that it belongs to.
+    if ((templateStyle & DS_CONTROL) != 0 && (templateStyle & WS_VISIBLE) == 0) return;
     if (wantsFocus != 0) {
         // Not always the one that was offered: the procedure may have changed what can have it.
         const HWND target = FirstTabStop(dialog);
@@ -228,6 +230,7 @@ HWND CreateDialogFrom(HINSTANCE instance, const std::uint8_t* data, std::size_t 
     state->unitX = unit.cx;
     state->unitY = unit.cy;
     state->modal = modal;
+    state->defaultId = IDOK;
     state->enableOwner = disabledOwner;
     if (proc != nullptr) SetWindowLongPtrA(dialog, DWLP_DLGPROC, reinterpret_cast<LONG_PTR>(proc));
     if (font != nullptr) Send(dialog, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
@@ -236,7 +239,7 @@ HWND CreateDialogFrom(HINSTANCE instance, const std::uint8_t* data, std::size_t 
         undo();
         return nullptr;
     }
-    Initialize(dialog, param);
+    Initialize(dialog, param, source.style);
     Window* window = Peek(dialog);
     if (window == nullptr) {
         undo();

@@ -38,8 +38,8 @@ void PressArrow(HWND dialog, HWND from, WPARAM key) {
     ShowCues(dialog, UISF_HIDEFOCUS);
     const BOOL previous = key == VK_LEFT || key == VK_UP;
     const HWND next = GetNextDlgGroupItem(dialog, from, previous);
-    if (next == nullptr) return;
-    if ((DialogCode(next) & (DLGC_BUTTON | DLGC_RADIOBUTTON)) != (DLGC_BUTTON | DLGC_RADIOBUTTON)) {
+    if (next == nullptr ||
+        (DialogCode(next) & (DLGC_BUTTON | DLGC_RADIOBUTTON)) != (DLGC_BUTTON | DLGC_RADIOBUTTON)) {
         Send(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
         return;
     }

@@ -75,8 +75,8 @@ LRESULT NextControl(HWND dialog, WPARAM wParam, LPARAM lParam) {
     } else {
         target = GetNextDlgTabItem(dialog, GetFocus(), wParam != 0);
     }
-    if (Peek(target) == nullptr) return 0;
-    FocusByKey(target);
+    if (Peek(target) == nullptr) target = nullptr;
+    if (target != nullptr) FocusByKey(target);
     ShowDefaultFor(dialog, target);
     return 0;
 }
@@ -181,18 +181,19 @@ void ShowDefaultFor(HWND dialog, HWND control) {
     const DialogState* state = StateOf(dialog);
     const int defaultId = state == nullptr ? 0 : state->defaultId;
     HWND target = control;
-    UINT code = DialogCode(target);
+    UINT code = target == nullptr ? 0 : DialogCode(target);
     if (!IsPushButton(code)) {
         // The dialog's own default button again, where it has one.
         target = defaultId == 0 ? nullptr : GetDlgItem(dialog, defaultId);
-        if (target == nullptr) return;
-        code = DialogCode(target);
-        if (!IsPushButton(code)) return;
+        code = target == nullptr ? 0 : DialogCode(target);
+        if (!IsPushButton(code)) target = nullptr;
     }
-    if ((code & DLGC_DEFPUSHBUTTON) != 0) return;
-    const HWND shown = ShownDefaultButton(dialog);
+    HWND shown = defaultId == 0 ? nullptr : GetDlgItem(dialog, defaultId);
+    if (shown == nullptr || (DialogCode(shown) & DLGC_DEFPUSHBUTTON) == 0)
+        shown = ShownDefaultButton(dialog);
     if (shown != nullptr && shown != target) Send(shown, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
-    if ((code & DLGC_UNDEFPUSHBUTTON) != 0) Send(target, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+    if (target != nullptr && (code & DLGC_UNDEFPUSHBUTTON) != 0)
+        Send(target, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
 }
 
 void ChangeDefaultId(HWND dialog, DialogState& state, int id) {

@@ -16,7 +16,7 @@ struct DialogState {
     bool enableOwner = false;
     bool modal = false;
     INT_PTR result = 0;
-    int defaultId = 0;
+    int defaultId = 0;  // IDOK until a default button is made or set
     HWND savedFocus = nullptr;
 
     ~DialogState();

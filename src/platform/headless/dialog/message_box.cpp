@@ -106,8 +106,9 @@ std::vector<std::uint8_t> MakeTemplate(const Box& box) {
                                     (first ? WS_GROUP : 0)),
                  box.buttons[i].id, 0x80, box.buttons[i].text);
     }
-    if (icon) out.Item(SS_ICON, kIconId, 0x82, "");
-    out.Item(SS_LEFT | SS_NOPREFIX, kTextId, 0x82, "");
+    // The arrows stay among the buttons.
+    if (icon) out.Item(DWORD{SS_ICON} | WS_GROUP, kIconId, 0x82, "");
+    out.Item(DWORD{SS_LEFT} | SS_NOPREFIX | WS_GROUP, kTextId, 0x82, "");
     return out.Bytes();
 }
 

@@ -1,6 +1,7 @@
 #include "platform/headless/drawing/enhanced_metafile.h"
 
 #include "platform/headless/drawing/gdi_dc.h"
+#include "platform/headless/drawing/metafile_player.h"
 #include "zxadlg/headless/display.h"
 #include "zxadlg/headless/functions.h"
 
@@ -41,14 +42,13 @@ int CountMetafileRecords(const std::uint8_t* data, std::size_t size) {
 using namespace headless::gdi;
 
 HENHMETAFILE SetWinMetaFileBits(UINT size, const BYTE* data, HDC, const METAFILEPICT* picture) {
-    const int records = headless::CountMetafileRecords(data, size);
-    if (records < 0) {
+    if (headless::CountMetafileRecords(data, size) < 0) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
     const Lock lock;
     auto metafile = std::make_unique<Metafile>();
-    metafile->records = records;
+    metafile->bytes.assign(data, data + size);
     if (picture != nullptr) {
         metafile->picture = *picture;
     } else {
@@ -72,6 +72,7 @@ BOOL PlayEnhMetaFile(HDC handle, HENHMETAFILE metafile, const RECT* rect) {
     op.handle = metafile;
     op.picture = object->picture;
     Record(*dc, std::move(op));
+    headless::MetafilePlayer(handle, dc->ToDevice(*rect)).Play(object->bytes);
     return TRUE;
 }
 

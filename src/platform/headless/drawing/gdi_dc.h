@@ -88,4 +88,7 @@ void PaintPixels(DeviceContext& dc, const RECT& rect, COLORREF color, DWORD oper
 // Fills a device rectangle and records it.
 void Fill(DeviceContext& dc, const RECT& rect, COLORREF color);
 
+// Fills rings of logical points with the brush by the even-odd rule and outlines them with the pen.
+void FillPolyPolygon(DeviceContext& dc, const std::vector<std::vector<POINT>>& rings);
+
 }  // namespace headless::gdi

@@ -92,7 +92,7 @@ struct Metafile : Object {
     Metafile() : Object(kType) {}
     METAFILEPICT picture{};
     bool hasPicture = false;
-    int records = 0;
+    std::vector<std::uint8_t> bytes;  // as they were given, well-formed
 };
 
 struct Theme : Object {

@@ -79,19 +79,27 @@ RECT BoxOf(const std::vector<POINT>& points) {
     return box;
 }
 
-// Fills by the even-odd rule, a row of pixels at a time.
-void PaintPolygon(DeviceContext& dc, const std::vector<POINT>& points, COLORREF color) {
+using Ring = std::vector<POINT>;
+
+// Fills what the rings enclose by the even-odd rule, a row of pixels at a time.
+void PaintRings(DeviceContext& dc, const std::vector<Ring>& rings, COLORREF color) {
     const Bitmap* surface = dc.Surface();
-    if (surface == nullptr) return;
-    const RECT box = BoxOf(points);
+    if (surface == nullptr || rings.empty()) return;
+    RECT box = BoxOf(rings.front());
+    for (const Ring& ring : rings) {
+        const RECT more = BoxOf(ring);
+        UnionRect(&box, &box, &more);
+    }
     const int last = std::min<int>(box.bottom, surface->height);
     for (int y = std::max<int>(box.top, 0); y < last; ++y) {
         std::vector<double> crossings;
-        for (std::size_t i = 0; i < points.size(); ++i) {
-            const POINT& a = points[i];
-            const POINT& b = points[(i + 1) % points.size()];
-            if ((a.y <= y) == (b.y <= y)) continue;
-            crossings.push_back(a.x + static_cast<double>(y - a.y) * (b.x - a.x) / (b.y - a.y));
+        for (const Ring& points : rings) {
+            for (std::size_t i = 0; i < points.size(); ++i) {
+                const POINT& a = points[i];
+                const POINT& b = points[(i + 1) % points.size()];
+                if ((a.y <= y) == (b.y <= y)) continue;
+                crossings.push_back(a.x + static_cast<double>(y - a.y) * (b.x - a.x) / (b.y - a.y));
+            }
         }
         std::sort(crossings.begin(), crossings.end());
         for (std::size_t i = 0; i + 1 < crossings.size(); i += 2)
@@ -124,7 +132,7 @@ bool DrawPolyline(HDC handle, const POINT* points, int count, DrawKind kind) {
         op.opaque = !inside.hollow;
         op.frameColor = pen.color;
         op.width = pen.none ? 0 : pen.width;
-        if (!inside.hollow) PaintPolygon(*dc, device, inside.color);
+        if (!inside.hollow) PaintRings(*dc, {device}, inside.color);
         PaintLine(*dc, device.back(), device.front(), pen);
     } else {
         op.color = pen.color;
@@ -224,6 +232,31 @@ bool Edge(DeviceContext& dc, RECT& rect, UINT edge, UINT flags) {
 }
 
 }  // namespace
+
+// Recorded ring by ring, painted as one figure.
+void FillPolyPolygon(DeviceContext& dc, const std::vector<std::vector<POINT>>& logical) {
+    const Paint inside = PaintOf(dc.state.brush);
+    const PenLook pen = PenOf(dc);
+    std::vector<Ring> rings;
+    for (const std::vector<POINT>& ring : logical) {
+        if (ring.size() < 2) continue;
+        rings.push_back(DevicePoints(dc, ring.data(), static_cast<int>(ring.size())));
+        DrawOp op;
+        op.kind = DrawKind::kPolygon;
+        op.points = rings.back();
+        op.rect = BoxOf(op.points);
+        op.color = inside.color;
+        op.opaque = !inside.hollow;
+        op.frameColor = pen.color;
+        op.width = pen.none ? 0 : pen.width;
+        Record(dc, std::move(op));
+    }
+    if (!inside.hollow) PaintRings(dc, rings, inside.color);
+    for (const Ring& ring : rings) {
+        for (std::size_t i = 0; i < ring.size(); ++i)
+            PaintLine(dc, ring[i], ring[(i + 1) % ring.size()], pen);
+    }
+}
 }  // namespace headless::gdi
 
 using namespace headless::gdi;

@@ -188,9 +188,14 @@ LRESULT SystemKey(Window& window, WPARAM key, LPARAM lParam) {
 LRESULT SystemCharacter(Window& window, WPARAM character, LPARAM lParam) {
     if (character == '\r') return 0;
     if ((lParam & (1 << 29)) == 0) return 0;
-    // There are no menus to open with it.
+    if (character == VK_ESCAPE || character == VK_SPACE || character == '\t') return 0;
+    // There is no menu that it opens, but looking for one ends what has the mouse.
     static_cast<void>(window);
-    if (character != VK_ESCAPE && character != VK_SPACE && character != '\t') MessageBeep(0);
+    if (const HWND capture = GetCapture(); capture != nullptr) {
+        Send(capture, WM_CANCELMODE, 0, 0);
+        ReleaseCapture();
+    }
+    MessageBeep(0);
     return 0;
 }
 

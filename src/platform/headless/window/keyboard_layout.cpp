@@ -64,6 +64,7 @@ int CharacterOfKey(UINT key, const std::array<BYTE, 256>& keys) {
     const bool capital = (keys[VK_CAPITAL] & 1) != 0;
     if (!control) return PlainCharacter(key, shift, capital);
     if (alt) return -1;
+    if (shift && (key == VK_RETURN || key == VK_BACK || key == VK_SPACE)) return -1;
     if (key >= 'A' && key <= 'Z') return static_cast<int>(key) - 'A' + 1;
     switch (key) {
         case VK_RETURN:
