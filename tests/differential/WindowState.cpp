@@ -50,7 +50,8 @@ void ReadEdit(HWND hwnd, Line& line) {
     // Where an empty field is scrolled to cannot be seen.
     if (GetWindowTextLengthA(hwnd) > 0) line.Add("first", Ask(hwnd, EM_GETFIRSTVISIBLELINE));
     line.Add("lines", Ask(hwnd, EM_GETLINECOUNT));
-    line.Add("modified", Ask(hwnd, EM_GETMODIFY) != 0);
+    // Whether a text that a field is made with counts as a change is not compared.
+    if (IsWindowVisible(hwnd)) line.Add("modified", Ask(hwnd, EM_GETMODIFY) != 0);
     line.Add("undo", Ask(hwnd, EM_CANUNDO) != 0);
 }
 

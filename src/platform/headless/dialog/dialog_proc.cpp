@@ -186,7 +186,8 @@ void ShowDefaultFor(HWND dialog, HWND control) {
         // The dialog's own default button again, where it has one.
         target = defaultId == 0 ? nullptr : GetDlgItem(dialog, defaultId);
         code = target == nullptr ? 0 : DialogCode(target);
-        if (!IsPushButton(code)) target = nullptr;
+        // No button is the default one while nothing has the focus.
+        if (!IsPushButton(code) || control == nullptr) target = nullptr;
     }
     HWND shown = defaultId == 0 ? nullptr : GetDlgItem(dialog, defaultId);
     if (shown == nullptr || (DialogCode(shown) & DLGC_DEFPUSHBUTTON) == 0)
