@@ -20,6 +20,7 @@ STRUCT = re.compile(r"^    struct (\w+) \{\n((?:        .*;\n)+)    \};", re.M)
 IN_STRUCT = re.compile(r"^        (?:ADM_(?!Dialog|Tab|Wnd\b)\w+|CZxDlg\w+(?:<[\w:]+>)?) (\w+(?:, \w+)*);", re.M)
 MEMBERS = r"^    %s (m_\w+(?:, m_\w+)*);"
 CONSTANT = re.compile(r"constexpr [\w:]+ (\w+) = (\d+);")
+ALIAS = re.compile(r"constexpr [\w:]+ (\w+) = (?:\w+::)+(\w+);")
 WINDOW = re.compile(r"\b(?:ADM_|CEditPage|CRecordPage|COptionsTab|CParentDialog|CUntabbedDialog|CSinglePage|C\w*(?:Tab|Dialog)\b)")
 
 
@@ -38,6 +39,9 @@ def main(folders):
         files = [f for f in (ROOT / "src" / folder).rglob("*") if f.suffix in (".h", ".cpp")]
         every = [f.read_text(encoding="utf-8") for f in files]
         constants = {name: int(value) for text in every for name, value in CONSTANT.findall(text)}
+        for name, other in [pair for text in every for pair in ALIAS.findall(text)]:
+            if other in constants:
+                constants.setdefault(name, constants[other])
         texts = [text for text in every if WINDOW.search(text)]
         own_lines = sum(text.count("\n") for text in texts)
         own_controls = sum(m.group(1).count(",") + 1 for text in texts for m in CONTROL.finditer(text))
