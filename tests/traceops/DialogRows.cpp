@@ -44,6 +44,7 @@ DialogRow FitRow() {
     row.szFromData = "Parameter";
     row.delicate = {IDC_FIT_CUSTOM, IDC_FIT_GROUP, IDC_FIT_TERMS, IDC_FIT_COMPARE};
     row.nOptionPages = 3;
+    row.keptBySecondWindow = {"bShowLegend=", "bShowAxes=", "bContinuousAutoScale="};
     return row;
 }
 

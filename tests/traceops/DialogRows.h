@@ -30,6 +30,9 @@ struct DialogRow {
     // What a user leaves alone who wants OK to be accepted.
     std::set<int> delicate = {};
     int nOptionPages = 1;
+    // How the keys begin that a second window of the dialog keeps at its own OK, whatever becomes
+    // of the dialog.
+    std::set<std::string> keptBySecondWindow = {};
 
     int PageCount() const { return nOptionPages + (bHasDataTab ? 1 : 0); }
 };
