@@ -20,12 +20,12 @@ run_program() {  # SYSTEM PROGRAM
     echo "--- $system: $program"
     case $system in
         native) "$folder/bin/$program" --gtest_list_tests >"$list"
-                ASAN_OPTIONS=detect_leaks=1 timeout 900 "$folder/bin/$program" --gtest_brief=1 \
+                ASAN_OPTIONS=detect_leaks=1 timeout 1800 "$folder/bin/$program" --gtest_brief=1 \
                     --gtest_output=json:"$report" ;;
         # A Windows program takes its report's path relative to the folder that it starts in.
         *) (cd "$folder" && ZX_WINE_PREFIX=$folder/wine "$root/tools/run-wine.sh" "bin/$program.exe" \
                 --gtest_list_tests | tr -d '\r' >"$list")
-           (cd "$folder" && ZX_WINE_PREFIX=$folder/wine ZX_WINE_TIMEOUT=900 "$root/tools/run-wine.sh" \
+           (cd "$folder" && ZX_WINE_PREFIX=$folder/wine ZX_WINE_TIMEOUT=1800 "$root/tools/run-wine.sh" \
                "bin/$program.exe" --gtest_brief=1 "--gtest_output=json:reports\\$program.json") ;;
     esac
     result=$?

@@ -116,7 +116,7 @@ class EveryDialog : public testing::Test {
 };
 
 TEST_F(EveryDialog, KeepsItsPromisesUnderARandomUser) {
-    const test_support::HardLimit limit(600000);
+    const test_support::HardLimit limit(1500000);
     // The budget is that of one long run; here it is spread over many short ones.
     const int nEvents = test_support::RandomEventBudget() / 50;
     {
