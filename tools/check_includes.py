@@ -18,7 +18,7 @@ KEYHOLDERS = {"platform": ("platform", "tests/platform_native", "tests/store_nat
 # Rooms whose names of the window system go through the platform's header.
 SAME_NAMES = ("headless",)
 # ... but for tests that exist on the headless system alone.
-NAMED_BY = ("public", "headless", "tests/fixtures", "tests/traceops_native") + KEYHOLDERS["platform"]
+NAMED_BY = ("public", "headless", "tests/fixtures", "tests/dialogs_native") + KEYHOLDERS["platform"]
 
 
 def read_rooms(root):

@@ -1,8 +1,8 @@
 // Random users of the library's dialogs: any of them, over the hosts that all of them are tested
 // with.
 #include "Scenario.h"
+#include "dialogs/DialogRows.h"
 #include "platform/platform.h"
-#include "traceops/DialogRows.h"
 
 namespace differential {
 namespace {
@@ -93,10 +93,10 @@ void Action(std::FILE* out, Random& random) {
 
 void GenerateDialogs(std::FILE* out, uint64_t base, int number, int actions) {
     Random random(base * 1000003u + static_cast<uint64_t>(number));
-    const auto& rows = traceops_test::Rows();
+    const auto& rows = dialogs_test::Rows();
     const auto& dialog =
         rows[static_cast<std::size_t>(random.Below(static_cast<int>(rows.size())))];
-    const int sources = static_cast<int>(traceops_test::Sources().size());
+    const int sources = static_cast<int>(dialogs_test::Sources().size());
     // Most hosts have data; most dialogs can be edited and show all that there is.
     const int source = random.OneIn(4) ? random.Below(sources) : random.Below(3);
     int flags = random.OneIn(8) ? random.Below(4) : 0;

@@ -7,20 +7,20 @@
 #include "Scenario.h"
 #include "User.h"
 #include "WindowState.h"
+#include "dialogs/DialogRows.h"
 #include "fit/FitMemory.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/WindowReading.h"
 #include "fixtures/system.h"
 #include "platform/platform.h"
 #include "store/ProfileStore.h"
-#include "traceops/DialogRows.h"
 
 namespace differential {
 namespace {
 
-using traceops_test::DialogRow;
-using traceops_test::Opening;
-using traceops_test::SourceRow;
+using dialogs_test::DialogRow;
+using dialogs_test::Opening;
+using dialogs_test::SourceRow;
 
 constexpr char kPulseClass[] = "ZxDifferentialPulse";
 constexpr UINT kPulse = WM_APP + 1;
@@ -101,17 +101,17 @@ class Session {
         Words words(m_scenario.lines[0]);
         words.Next();
         const std::string title = words.Next();
-        const auto& rows = traceops_test::Rows();
+        const auto& rows = dialogs_test::Rows();
         const auto dialog = std::find_if(rows.begin(), rows.end(),
                                          [&](const DialogRow& row) { return title == row.szName; });
         const auto source = static_cast<std::size_t>(words.NextNumber());
-        if (dialog == rows.end() || source >= traceops_test::Sources().size()) {
+        if (dialog == rows.end() || source >= dialogs_test::Sources().size()) {
             std::fputs("? no such dialog\n", m_out);
             return;
         }
         const int64_t flags = words.NextNumber();
         Opening opening(*dialog);
-        traceops_test::Sources()[source].build(opening.source);
+        dialogs_test::Sources()[source].build(opening.source);
         opening.source.yValues = DecayingWave();
         opening.source.Profile(m_store.ProfileFile()).Record();
         opening.params.bReadOnly = (flags & 1) != 0;

@@ -57,6 +57,15 @@ class GraphicalSeeding : public FitDialogTest {
     static DialogScript& Open(DialogScript& script) {
         return script.SelectTab(kSeeds).Click(IDC_FIT_GRAPHICAL).EnterDialog();
     }
+    // Fields that were filled draw once more when they have rested; goes on when nothing has been
+    // called for twice as long.
+    DialogScript& Settle(DialogScript& script) {
+        const auto seen = std::make_shared<std::pair<int, DWORD>>(-1, 0);
+        return script.WaitUntil([this, seen] {
+            if (seen->first != pLog->nCalls) *seen = {pLog->nCalls, GetTickCount()};
+            return GetTickCount() - seen->second >= 2200;
+        });
+    }
     void CloseBoth(DialogScript& script) {
         script.Click(IDCANCEL).Click(IDCANCEL);
         EXPECT_EQ(Show(script), IDCANCEL);
@@ -284,10 +293,7 @@ TEST_F(GraphicalSeeding, ASpinnerStepsByAHundredthOfItsSeed) {
 
 TEST_F(GraphicalSeeding, AStepAsksForTheCurvesOfItsOwnTerm) {
     DialogScript script;
-    Open(script)
-        .Type(kTermField, "2")
-        .Focus(Field(0))
-        .Wait(900)
+    Settle(Open(script).Type(kTermField, "2").Focus(Field(0)))
         .Do([this] { NewCalls(); })
         .Press(VK_UP)
         .Do([this] {
@@ -297,27 +303,22 @@ TEST_F(GraphicalSeeding, AStepAsksForTheCurvesOfItsOwnTerm) {
             EXPECT_EQ(calls[1], "changed 1");
             EXPECT_EQ(calls[2], "redraw");
             for (const std::string& sCall : calls) EXPECT_NE(sCall, "changed 2");
-        })
-        .Focus(IDC_GRAPH_OFFSET)
-        .Wait(900)
-        .Do([this] { NewCalls(); })
-        .Press(VK_UP)
-        .Do([this] {
-            const Strings calls = NewCalls();
-            ASSERT_GE(calls.size(), 4u);
-            EXPECT_EQ(Strings(calls.begin(), calls.begin() + 4),
-                      (Strings{"changed 2", "changed 3", "changed 1", "redraw"}));
         });
+    Settle(script.Focus(IDC_GRAPH_OFFSET)).Do([this] { NewCalls(); }).Press(VK_UP).Do([this] {
+        const Strings calls = NewCalls();
+        ASSERT_GE(calls.size(), 4u);
+        EXPECT_EQ(Strings(calls.begin(), calls.begin() + 4),
+                  (Strings{"changed 2", "changed 3", "changed 1", "redraw"}));
+    });
     CloseBoth(script);
 }
 
 TEST_F(GraphicalSeeding, TypedSeedsAreDrawnWhenTheTypingRests) {
     DialogScript script;
-    Open(script)
-        .Wait(900)
+    Settle(Open(script))
         .Do([this] { NewCalls(); })
         .Type(Field(0), "4.5")
-        .Do([this] { EXPECT_EQ(NewCalls(), Strings{}); })
+        // One drawing for the three keys.
         .WaitUntil([this] { return pLog->nCalls >= 3; })
         .Do([this] {
             EXPECT_EQ(NewCalls(), (Strings{"changed 2", "changed 1", "redraw"}));

@@ -5,12 +5,17 @@
 #include <limits>
 #include <vector>
 
-#include "PageState.h"
 #include "TraceopsTest.h"
+#include "fixtures/PageState.h"
 
 namespace {
 
 using namespace traceops_test;
+using test_support::Disturb;
+using test_support::IsInput;
+using test_support::PageState;
+using test_support::StateOf;
+using test_support::VisibleControls;
 
 // A case edits a few fields of its options page, and knows how the edited page looks.
 struct NormalizeCase {

@@ -30,15 +30,16 @@ BIN = os.path.join(WORK, "bin")
 # The test programs that are asked about a folder, its own first.
 PROGRAMS = {
     "text": ["text", "store", "widgets", "framework", "contract"],
-    "contract": ["contract", "entry", "analysis", "traceops"],
-    "entry": ["entry", "traceops"],
-    "analysis": ["analysis", "traceops", "entry"],
-    "traceops": ["traceops", "entry"],
+    "contract": ["contract", "entry", "analysis", "traceops", "dialogs"],
+    "entry": ["entry", "traceops", "dialogs"],
+    "analysis": ["analysis", "traceops", "dialogs", "entry"],
+    "traceops": ["traceops", "dialogs", "entry"],
     "framework": ["framework", "widgets", "analysis"],
     "store": ["store", "store_native", "contract"],
     "widgets": ["widgets", "framework"],
     "parser": ["parser"],
     "fit": ["fit"],
+    "sigproc": ["sigproc", "dialogs"],
 }
 # Where the numbers of a folder begin, so that those of one do not move with another's code.
 NUMBERS = {folder: 1 + 10000 * i for i, folder in enumerate(PROGRAMS)}

@@ -7,22 +7,24 @@
 #include <cstdlib>
 #include <set>
 
+#include "dialogs/DialogRows.h"
 #include "fixtures/DialogScript.h"
+#include "fixtures/PageState.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/WindowReading.h"
 #include "store/ProfileStore.h"
-#include "traceops/DialogRows.h"
-#include "traceops/PageState.h"
 #include "zxadlg/headless.h"
 #include "zxadlg/headless/recording.h"
 
 namespace {
 
-using namespace traceops_test;
+using namespace dialogs_test;
 using headless::DrawKind;
 using headless::DrawOp;
 using test_support::ClassOf;
 using test_support::DialogScript;
+using test_support::StateOf;
+using test_support::VisibleControls;
 
 constexpr int kSystemColors = 31;
 

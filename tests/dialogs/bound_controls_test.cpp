@@ -13,7 +13,7 @@
 
 namespace {
 
-using namespace traceops_test;
+using namespace dialogs_test;
 using test_support::ClassOf;
 using test_support::DialogScript;
 

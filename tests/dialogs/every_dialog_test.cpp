@@ -20,7 +20,7 @@
 namespace {
 
 using test_support::RandomUser;
-using namespace traceops_test;
+using namespace dialogs_test;
 
 enum class Mode { kNormal, kReadOnly, kDeferred };
 constexpr Mode kModes[] = {Mode::kNormal, Mode::kReadOnly, Mode::kDeferred};

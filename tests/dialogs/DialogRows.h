@@ -13,7 +13,7 @@
 #include "ZXADLG.h"
 #include "fixtures/TestDataSource.h"
 
-namespace traceops_test {
+namespace dialogs_test {
 
 struct Opening;
 
@@ -64,4 +64,4 @@ struct SourceRow {
 
 const std::vector<SourceRow>& Sources();
 
-}  // namespace traceops_test
+}  // namespace dialogs_test

@@ -6,17 +6,20 @@
 #include <set>
 
 #include "DialogRows.h"
-#include "PageState.h"
 #include "fixtures/DialogScript.h"
+#include "fixtures/PageState.h"
 #include "fixtures/ScratchStore.h"
 #include "ids.h"
 #include "store/ProfileStore.h"
 
 namespace {
 
-using namespace traceops_test;
+using namespace dialogs_test;
 using test_support::ClassOf;
 using test_support::DialogScript;
+using test_support::IsInput;
+using test_support::StateOf;
+using test_support::VisibleControls;
 
 class EveryDialogAtTheKeyboard : public testing::TestWithParam<DialogRow> {
   protected:

@@ -7,7 +7,7 @@
 #include "fit_control_ids.h"
 #include "sigproc_ids.h"
 
-namespace traceops_test {
+namespace dialogs_test {
 namespace {
 
 using test_support::TestDataSource;
@@ -150,4 +150,4 @@ const std::vector<SourceRow>& Sources() {
     return rows;
 }
 
-}  // namespace traceops_test
+}  // namespace dialogs_test

@@ -7,15 +7,20 @@
 #include <cstring>
 
 #include "DialogRows.h"
-#include "PageState.h"
 #include "fixtures/DialogScript.h"
+#include "fixtures/PageState.h"
 #include "fixtures/ScratchStore.h"
 #include "store/ProfileStore.h"
 
 namespace {
 
-using namespace traceops_test;
+using namespace dialogs_test;
 using test_support::DialogScript;
+using test_support::Disturb;
+using test_support::IsInput;
+using test_support::PageState;
+using test_support::StateOf;
+using test_support::VisibleControls;
 
 class EveryDialogPromises : public testing::TestWithParam<DialogRow> {
   protected:
