@@ -10,6 +10,7 @@
 #include "ZXADLG.h"
 #include "analysis/CEditPage.h"
 #include "analysis/DialogMessages.h"
+#include "analysis/PageInputs.h"
 #include "contract/Finding.h"
 
 template <class Base>
@@ -26,6 +27,8 @@ class CCheckedDialog : public CEditPage<Base> {
     // Walks the checks up to the first finding that does not let the walk go on. Each sees the
     // fields as they stand then: an answer before may have changed them.
     bool PassChecks() {
+        // Enter presses OK and leaves the focus where it is.
+        if (!this->IsReadOnly()) LeaveField();
         if (m_vChecks.empty()) return true;
         this->ReadControls();
         return std::all_of(m_vChecks.begin(), m_vChecks.end(), [this](const Check& check) {

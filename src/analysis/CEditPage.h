@@ -128,6 +128,18 @@ class CEditPage : public Base {
             [&control, set] { set(control.GetTypedValue()); });
     }
 
+    // Binds a field whose value is pulled into its range at each change. The field itself follows
+    // when it is left, so that "15" can be typed where the range begins at 10.
+    template <class Control, class Get, class Set>
+    Row& BindClamped(int nId, Control& control, Get get, Set set) {
+        this->RegisterControl(nId, &control);
+        return m_rows
+            .Add(
+                &control, EditedCode(control), [&control, get] { ShowValue(control, get()); },
+                [&control, set] { set(ClampedValue(control)); })
+            .ShowsWhenLeft();
+    }
+
     // A spinner beside the field that decides on the value.
     template <class GaugeField>
     void Spinner(int nId, ADM_GaugeControl& spinner, GaugeField& field) {
@@ -198,6 +210,7 @@ class CRecordPage : public Base {
 
   protected:
     using Base::Bind;
+    using Base::BindClamped;
 
     // The record that the rows show and store now. A page whose record moves overrides it.
     virtual Record* GetRecord() { return m_pRecord; }
@@ -206,6 +219,12 @@ class CRecordPage : public Base {
     Row& Bind(int nId, Control& control, Value Record::*pField) {
         this->RegisterControl(nId, &control);
         return BindField(control, pField);
+    }
+    template <class Control, class Value>
+    Row& BindClamped(int nId, Control& control, Value Record::*pField) {
+        return BindClamped(
+            nId, control, [this, pField] { return GetRecord()->*pField; },
+            [this, pField](auto value) { GetRecord()->*pField = static_cast<Value>(value); });
     }
     // The buttons of a radio set in the order of their values 0, 1, 2 ...
     template <class Value>

@@ -2,6 +2,7 @@
 // tells that the user changed it. A row that binds a control to a field is built from these three.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -62,6 +63,14 @@ requires requires(Control& txt, typename Control::Value value) {
 }
 auto ReadValue(Control& txt) {
     return txt.GetValue();
+}
+
+// What a field shows, pulled into its range: fields of whole numbers give what they show.
+template <class Control>
+typename Control::Value ClampedValue(Control& txt) {
+    typename Control::Value low = 0, high = 0;
+    txt.GetRange(&low, &high);
+    return std::max(low, std::min(high, txt.GetTypedValue()));
 }
 
 // A count of a record in a field of whole numbers, and the reverse: one too large for the field

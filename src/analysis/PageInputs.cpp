@@ -68,3 +68,10 @@ void GreyInputs(ADM_Dialog& page, const std::function<bool(ADM_Wnd*)>& isAlive) 
         }
     }
 }
+
+void LeaveField() {
+    HWND hField = GetFocus();
+    if (hField == nullptr || !EqualNoCase(ClassOf(hField), "Edit")) return;
+    SendMessageA(GetParent(hField), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(hField), EN_KILLFOCUS),
+                 reinterpret_cast<LPARAM>(hField));
+}

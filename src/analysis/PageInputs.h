@@ -13,3 +13,7 @@ void NameFields(const ADM_Dialog& page, const std::vector<ADM_Wnd*>& vControls);
 // Greys the inputs of a page: edits, buttons, combo boxes and spinners. List boxes stay, so that
 // they can be scrolled, and so do the buttons that end the dialog and what `isAlive` names.
 void GreyInputs(ADM_Dialog& page, const std::function<bool(ADM_Wnd*)>& isAlive);
+
+// Tells the page of the field that has the focus, if one has it, that the field is left, so that it
+// shows its value in the form that is checked.
+void LeaveField();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "framework/Notifications.h"
+
 PageRows::Row& PageRows::Add(const ADM_Wnd* pControl, int nCode, Step show, Step store) {
     return m_rows.emplace_back(pControl, nCode, std::move(show), std::move(store));
 }
@@ -19,7 +21,9 @@ void PageRows::Show() const {
 
 void PageRows::Run(const ADM_Wnd* pSender, int nCode) const {
     for (const Row& row : m_rows) {
-        if (row.m_pControl != pSender || row.m_nCode != nCode) continue;
+        if (row.m_pControl != pSender) continue;
+        if (row.m_bWhenLeft && nCode == ADMN_KILLFOCUS) row.m_show();
+        if (row.m_nCode != nCode) continue;
         if (row.m_store) row.m_store();
         if (row.m_then) row.m_then();
     }

@@ -37,6 +37,12 @@ class PageRows {
             m_bCorrects = true;
             return *this;
         }
+        // A field in which the user may still be typing shows what the record made of it when it is
+        // left, and not before.
+        Row& ShowsWhenLeft() {
+            m_bWhenLeft = true;
+            return *this;
+        }
         // Works in read-only mode as well: it edits nothing, it only moves between entries.
         Row& StaysAlive() {
             m_bAlive = true;
@@ -52,6 +58,7 @@ class PageRows {
         Step m_store;
         Step m_then;
         bool m_bCorrects = false;
+        bool m_bWhenLeft = false;
         bool m_bAlive = false;
     };
 

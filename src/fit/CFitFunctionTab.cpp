@@ -80,8 +80,7 @@ void CFitFunctionTab::BindNumber(int nLabel, int nField, int nSpin, Number& numb
                                  Set set) {
     number.get = get;
     Label(nLabel, number.lbl);
-    Bind(nField, number.txt, get, set);
-    OnEvent(number.txt, ADMN_KILLFOCUS, [&number] { number.txt.SetValue(number.get()); });
+    Bind(nField, number.txt, get, set).ShowsWhenLeft();
     Spinner(nSpin, number.spn, number.txt);
 }
 
