@@ -21,8 +21,7 @@ class ClampedPage : public CRecordPage<ClampedRecord, CSinglePage> {
     static constexpr UINT kTemplate = 102;
     static constexpr int kCount = 1201, kWidth = 1202;
 
-    explicit ClampedPage(ClampedRecord* pRecord)
-        : CRecordPage(pRecord, nullptr, kTemplate, false) {
+    explicit ClampedPage(ClampedRecord* pRecord) : CRecordPage(pRecord, nullptr, kTemplate, false) {
         BindClamped(kCount, txtCount, &ClampedRecord::nCount);
         txtCount.SetRange(10, 20, 1);
         BindClamped(kWidth, txtWidth, &ClampedRecord::fWidth);
