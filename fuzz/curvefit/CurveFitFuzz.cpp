@@ -1,48 +1,17 @@
 #include "CurveFitFuzz.h"
 
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <vector>
 
+#include "../bytes/FuzzBytes.h"
 #include "CreateCurveFit.h"
 
 namespace {
 
-void Require(bool bHolds, const char* szWhat) {
-    if (bHolds) return;
-    std::fprintf(stderr, "violated: %s\n", szWhat);
-    std::abort();
-}
-
-class Bytes {
+class Bytes : public FuzzBytes {
   public:
-    Bytes(const std::uint8_t* pData, std::size_t nSize) : m_pData(pData), m_nLeft(nSize) {}
-    std::uint8_t Byte() {
-        if (m_nLeft == 0) return 0;
-        --m_nLeft;
-        return *m_pData++;
-    }
-    double Double() {
-        std::uint8_t bytes[8];
-        for (std::uint8_t& b : bytes) b = Byte();
-        double d = 0.0;
-        std::memcpy(&d, bytes, sizeof d);
-        return d;
-    }
-    // A number as data have it, or any bits.
-    double Value() {
-        const std::uint8_t uKind = Byte();
-        if (uKind < 16) return Double();
-        const int nHigh = static_cast<std::int8_t>(Byte());
-        return nHigh * 0.25 + uKind * 0.001;
-    }
-    std::size_t Left() const { return m_nLeft; }
-
-  private:
-    const std::uint8_t* m_pData;
-    std::size_t m_nLeft;
+    using FuzzBytes::FuzzBytes;
+    double Value() { return FuzzBytes::Value(16); }
 };
 
 }  // namespace

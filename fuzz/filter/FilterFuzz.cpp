@@ -1,57 +1,28 @@
 #include "FilterFuzz.h"
 
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <vector>
 
+#include "../bytes/FuzzBytes.h"
 #include "CreateFilter.h"
 
 namespace {
 
-void Require(bool bHolds, const char* szWhat) {
-    if (bHolds) return;
-    std::fprintf(stderr, "violated: %s\n", szWhat);
-    std::abort();
-}
-
-class Bytes {
+class Bytes : public FuzzBytes {
   public:
-    Bytes(const std::uint8_t* pData, std::size_t nSize) : m_pData(pData), m_nLeft(nSize) {}
-    std::uint8_t Byte() {
-        if (m_nLeft == 0) return 0;
-        --m_nLeft;
-        return *m_pData++;
-    }
-    template <class T>
-    T Raw() {
-        std::uint8_t bytes[sizeof(T)];
-        for (std::uint8_t& b : bytes) b = Byte();
-        T value;
-        std::memcpy(&value, bytes, sizeof value);
-        return value;
-    }
+    using FuzzBytes::FuzzBytes;
     // A frequency or interval as records have it, or any bits.
     double Figure(double dScale) {
         const std::uint8_t uKind = Byte();
         if (uKind < 16) return Raw<double>();
         return dScale * std::ldexp(1.0 + Byte() / 256.0, -(uKind % 16));
     }
-    double Value() {
-        const std::uint8_t uKind = Byte();
-        if (uKind < 4) return Raw<double>();
-        return static_cast<std::int8_t>(Byte()) * 0.25 + uKind * 0.001;
-    }
+    double Value() { return FuzzBytes::Value(4); }
     std::uint32_t Count() {
         const std::uint8_t uKind = Byte();
         return uKind == 255 ? Raw<std::uint32_t>() : uKind;
     }
-    std::size_t Left() const { return m_nLeft; }
-
-  private:
-    const std::uint8_t* m_pData;
-    std::size_t m_nLeft;
 };
 
 constexpr std::size_t kMostPoints = 4096;

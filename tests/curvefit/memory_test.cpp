@@ -4,36 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <new>
 #include <numeric>
 #include <random>
 
 #include "CurveFitFixture.h"
-
-namespace {
-
-bool g_bCounting = false;
-std::size_t g_nBytes = 0;  // allocated while counting
-
-}  // namespace
-
-void* operator new(std::size_t nSize, const std::nothrow_t&) noexcept {
-    if (g_bCounting) g_nBytes += nSize;
-    return std::malloc(nSize != 0 ? nSize : 1);
-}
-void* operator new(std::size_t nSize) {
-    void* p = operator new(nSize, std::nothrow);
-    if (p == nullptr) throw std::bad_alloc();
-    return p;
-}
-// Not in line, where the compiler sees the memory of one of the above go back by another way.
-[[gnu::noinline]] void operator delete(void* p) noexcept {
-    std::free(p);
-}
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
-    std::free(p);
-}
+#include "fixtures/memory/CountedMemory.h"
 
 namespace {
 
@@ -43,18 +18,20 @@ constexpr std::size_t kPoints = 200000;
 // The reduced points and what the methods make of them.
 constexpr std::size_t kWorkspace = 16u << 20;
 
-// All that is ever asked for, which is more than what is held at one time.
 std::size_t BytesForSeeds(int32_t eFunction, const std::vector<double>& x,
                           const std::vector<double>& y) {
     const CurveFit fit = Make(OptionsFor(eFunction));
     const double* arrays[] = {x.data(), y.data()};
     double seeds[26];
-    g_nBytes = 0;
-    g_bCounting = true;
-    const int32_t bFound = fit->ComputeSeeds(arrays, seeds, 2, static_cast<uint32_t>(x.size()));
-    g_bCounting = false;
+    std::size_t nBytes = 0;
+    int32_t bFound = 0;
+    {
+        const test_support::MemoryCount count;
+        bFound = fit->ComputeSeeds(arrays, seeds, 2, static_cast<uint32_t>(x.size()));
+        nBytes = count.Bytes();
+    }
     EXPECT_EQ(bFound, 1) << eFunction << ErrorOf(*fit);
-    return g_nBytes;
+    return nBytes;
 }
 
 TEST(Memory, SeedsOfALongRecordCopyNothingButPointsInNoOrder) {

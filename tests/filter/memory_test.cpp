@@ -4,41 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
-#include <limits>
-#include <new>
 #include <vector>
 
 #include "FilterFixture.h"
-
-namespace {
-
-constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
-std::size_t g_nLeft = kNoLimit;  // allocations until one fails
-
-}  // namespace
-
-void* operator new(std::size_t nSize, const std::nothrow_t&) noexcept {
-    if (g_nLeft == 0) return nullptr;
-    if (g_nLeft != kNoLimit) --g_nLeft;
-    return std::malloc(nSize != 0 ? nSize : 1);
-}
-void* operator new(std::size_t nSize) {
-    void* p = operator new(nSize, std::nothrow);
-    if (p == nullptr) throw std::bad_alloc();
-    return p;
-}
-// Not in line, where the compiler sees the memory of the above go back by another way.
-[[gnu::noinline]] void operator delete(void* p) noexcept {
-    std::free(p);
-}
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
-    std::free(p);
-}
+#include "fixtures/memory/CountedMemory.h"
 
 namespace {
 
 using namespace filter_test;
+using test_support::MemoryLimit;
 
 TEST(Memory, ThatIsLackingLeavesTheValues) {
     FilterOptions all = Lowpass(6, 0.01);
@@ -55,9 +29,10 @@ TEST(Memory, ThatIsLackingLeavesTheValues) {
         const Filter filter = Make(options);
         std::size_t nAllowed = 0;
         for (bool bDone = false; !bDone; ++nAllowed) {
-            g_nLeft = nAllowed;
-            bDone = filter->FilterArray(values.data(), 2000) != 0;
-            g_nLeft = kNoLimit;
+            {
+                const MemoryLimit limit(nAllowed);
+                bDone = filter->FilterArray(values.data(), 2000) != 0;
+            }
             if (bDone) break;
             ASSERT_EQ(ErrorOf(*filter), "There is not enough memory.") << nAllowed;
             ASSERT_EQ(values, before) << nAllowed;
@@ -73,9 +48,11 @@ TEST(Memory, ThatIsLackingForTheObjectGivesNull) {
     const FilterOptions options = Lowpass(2, 0.1);
     std::size_t nAllowed = 0;
     for (;; ++nAllowed) {
-        g_nLeft = nAllowed;
-        ZXADLG_CFilter* p = filter::CreateFilter(&options);
-        g_nLeft = kNoLimit;
+        ZXADLG_CFilter* p = nullptr;
+        {
+            const MemoryLimit limit(nAllowed);
+            p = filter::CreateFilter(&options);
+        }
         filter::ReleaseFilter(p);
         if (p != nullptr) break;
     }
@@ -88,9 +65,11 @@ TEST(Memory, IsNotNeededByARecursiveFilter) {
                                          Highpass(2, 0.1), Highpass(7, 0.1), Notch(0.1, 0.1)}) {
         std::vector<double> values(2000, 1.0);
         const Filter filter = Make(options);
-        g_nLeft = 0;
-        const int32_t bDone = filter->FilterArray(values.data(), 2000);
-        g_nLeft = kNoLimit;
+        int32_t bDone = 0;
+        {
+            const MemoryLimit limit(0);
+            bDone = filter->FilterArray(values.data(), 2000);
+        }
         EXPECT_EQ(bDone, 1) << ErrorOf(*filter);
     }
 }
