@@ -111,7 +111,7 @@ inline INT_PTR CALLBACK BarePageProc(HWND, UINT uMsg, WPARAM, LPARAM) {
 
 // A tab and a page for each; none is shown yet.
 inline std::vector<HWND> CreateBarePages(HINSTANCE hInstance, HWND hTab,
-                                         std::initializer_list<BarePage> pages) {
+                                         const std::vector<BarePage>& pages) {
     std::vector<HWND> windows;
     for (const BarePage& page : pages) {
         char szTitle[32];

@@ -1,5 +1,5 @@
 // Curve Fitting: from opening to the first idle moment and from OK to the return, against bare
-// dialogs of the same templates with the same items; a change of function in the open dialog; and
+// dialogs of the same templates that show the same; a change of function in the open dialog; and
 // an estimate of seeds inside of it against the same call on the curve-fit library alone.
 
 #include <chrono>
@@ -7,6 +7,7 @@
 #include <functional>
 #include <limits>
 
+#include "BareTabbedDialog.h"
 #include "DialogTiming.h"
 #include "analysis/Benchmarks.h"
 #include "entry/ShowSequence.h"
@@ -74,41 +75,6 @@ FitOptions Settings() {
     return options;
 }
 
-// --- The bare dialogs.
-
-void FillBare(HWND hFunction, HWND hData, DecaySource& source) {
-    char szText[128];
-    for (const FitFunctionEntry& row : FitFunctions()) {
-        if (row.eFunction == 19 || row.eFunction == 20) continue;
-        LoadStringA(GetFrameworkInstance(), static_cast<UINT>(row.nCaptionString), szText,
-                    sizeof szText);
-        SendDlgItemMessageA(hFunction, IDC_FIT_FUNCTIONS, LB_ADDSTRING, 0,
-                            reinterpret_cast<LPARAM>(szText));
-    }
-    for (const FitGroupEntry& row : FitGroups()) {
-        SendDlgItemMessageA(hFunction, IDC_FIT_GROUP, CB_ADDSTRING, 0,
-                            reinterpret_cast<LPARAM>(row.szCaption));
-    }
-    for (const std::string& sName : source.names) {
-        SendDlgItemMessageA(hData, IDC_SET_LIST, LB_ADDSTRING, 0,
-                            reinterpret_cast<LPARAM>(sName.c_str()));
-    }
-}
-
-DecaySource* g_pBareSource;
-
-INT_PTR CALLBACK BareProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM) {
-    if (uMsg != WM_INITDIALOG) return EndBareAtOk(hWnd, uMsg, wParam);
-    const auto pages = CreateBarePages(GetFrameworkInstance(), GetDlgItem(hWnd, IDC_TABS),
-                                       {{"Function", IDD_FIT_FUNCTION},
-                                        {"Advanced", IDD_FIT_ADVANCED},
-                                        {"Seed Values", IDD_FIT_SEEDS},
-                                        {"Data", IDD_UNITARY_DATA}});
-    FillBare(pages[0], pages[3], *g_pBareSource);
-    ShowWindow(pages[0], SW_SHOW);
-    return TRUE;
-}
-
 // --- The measurements.
 
 struct Search {
@@ -141,13 +107,14 @@ class Bench {
 
     bool Opening() {
         DecaySource source(100);
-        g_pBareSource = &source;
+        BareTabbedDialog bare(GetFrameworkInstance(), IDD_FIT, IDC_TABS,
+                              {{"Function", IDD_FIT_FUNCTION},
+                               {"Advanced", IDD_FIT_ADVANCED},
+                               {"Seed Values", IDD_FIT_SEEDS},
+                               {"Data", IDD_UNITARY_DATA}});
+        Run(source, [&](HWND hDialog, CFitDialog&) { bare.ShowAs(hDialog); });
         const DialogTiming::Ratios ratios = m_timing.TimeInTurn(
-            kRounds, [&] { Show(source); },
-            [&] {
-                DialogBoxParamA(GetFrameworkInstance(), MAKEINTRESOURCEA(IDD_FIT),
-                                m_timing.GetOwner(), BareProc, 0);
-            });
+            kRounds, [&] { Show(source); }, [&] { bare.Run(m_timing.GetOwner()); });
         // What the library does in it, one reading and one estimate, is not the dialog's.
         const double dLibrary = OwnTimeOfLibrary(source);
         PairedTiming show = ratios.show;

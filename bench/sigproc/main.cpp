@@ -1,12 +1,12 @@
-// Filter, Power Spectrum and Correlation against bare dialogs of the same templates with the same
-// items in them.
+// Filter, Power Spectrum and Correlation against bare dialogs of the same templates that show the
+// same.
+#include "BareTabbedDialog.h"
 #include "DialogTiming.h"
 #include "analysis/Benchmarks.h"
 #include "entry/ShowSequence.h"
 #include "fixtures/system.h"
 #include "ids.h"
 #include "sigproc/FilterLimits.h"
-#include "sigproc/SpectrumWindows.h"
 #include "sigproc_ids.h"
 #include "widgets/FrameworkSetup.h"
 
@@ -19,52 +19,6 @@ namespace {
 
 constexpr int kRounds = 15;
 
-// A bare dialog of these templates, and what fills its pages.
-struct BareDialog {
-    int nTemplate;
-    int nOptionsTemplate;
-    std::function<void(const std::vector<HWND>&)> fill;
-};
-const BareDialog* g_pBare;
-
-INT_PTR CALLBACK BareProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM) {
-    if (uMsg != WM_INITDIALOG) return EndBareAtOk(hWnd, uMsg, wParam);
-    const std::vector<HWND> pages =
-        CreateBarePages(GetFrameworkInstance(), GetDlgItem(hWnd, IDC_TABS),
-                        {{"Options", g_pBare->nOptionsTemplate}, {"Data", IDD_UNITARY_DATA}});
-    g_pBare->fill(pages);
-    ShowWindow(pages[0], SW_SHOW);
-    return TRUE;
-}
-
-void AddItem(HWND hPage, int nId, UINT uMsg, const char* szText) {
-    SendMessageA(GetDlgItem(hPage, nId), uMsg, 0, reinterpret_cast<LPARAM>(szText));
-}
-
-void AddString(HWND hPage, int nId, int nString) {
-    char szText[128] = "";
-    LoadStringA(GetFrameworkInstance(), static_cast<UINT>(nString), szText, sizeof szText);
-    AddItem(hPage, nId, CB_ADDSTRING, szText);
-}
-
-void FillData(HWND hPage, const NamedSource& source) {
-    for (const std::string& sName : source.names)
-        AddItem(hPage, IDC_SET_LIST, LB_ADDSTRING, sName.c_str());
-    for (const char* szName : NamedSource::kGroupNames)
-        AddItem(hPage, IDC_GROUP, CB_ADDSTRING, szName);
-    for (const char* szName : NamedSource::kRegionNames)
-        AddItem(hPage, IDC_REGION, CB_ADDSTRING, szName);
-    SendMessageA(GetDlgItem(hPage, IDC_GROUP), CB_SETCURSEL, 0, 0);
-    SendMessageA(GetDlgItem(hPage, IDC_REGION), CB_SETCURSEL, 0, 0);
-    SendMessageA(GetDlgItem(hPage, IDC_SET_LIST), LB_SETSEL, TRUE, -1);
-    CheckDlgButton(hPage, IDC_SETS_ALL, BST_CHECKED);
-    CheckDlgButton(hPage, IDC_GROUPS_ONE, BST_CHECKED);
-}
-
-void SetTexts(HWND hPage, std::initializer_list<std::pair<int, const char*>> texts) {
-    for (const auto& [nId, szText] : texts) SetDlgItemTextA(hPage, nId, szText);
-}
-
 class Bench {
   public:
     Bench() {
@@ -73,30 +27,6 @@ class Bench {
     }
 
     bool Filter() {
-        const BareDialog bare = {
-            IDD_FILTER, IDD_FILTER_OPTIONS, [this](const std::vector<HWND>& pages) {
-                for (const int nString :
-                     {IDS_FAMILY_BESSEL, IDS_FAMILY_BOXCAR, IDS_FAMILY_BUTTERWORTH,
-                      IDS_FAMILY_CHEBYSHEV, IDS_FAMILY_GAUSSIAN, IDS_FAMILY_RC, IDS_FAMILY_RC8})
-                    AddString(pages[0], IDC_LOWPASS_FAMILY, nString);
-                AddString(pages[0], IDC_HIGHPASS_FAMILY, IDS_FAMILY_BESSEL);
-                AddString(pages[0], IDC_HIGHPASS_FAMILY, IDS_FAMILY_RC);
-                SetTexts(pages[0], {{IDC_HIGHPASS_CUTOFF, "10"},
-                                    {IDC_HIGHPASS_RANGE, "Cutoff range = 1.0 to 1400.0 Hz"},
-                                    {IDC_LOWPASS_CUTOFF, "1000"},
-                                    {IDC_LOWPASS_RANGE, "Cutoff range = 1.0 to 1400.0 Hz"},
-                                    {IDC_LOWPASS_COEFFICIENTS, "= 11 coefficients"},
-                                    {IDC_HUM_HARMONICS, "10"},
-                                    {IDC_HUM_CYCLES, "20"},
-                                    {IDC_HUM_PERIOD, "= 200.00"},
-                                    {IDC_HUM_BANDWIDTH, "= 1.50 Hz"},
-                                    {IDC_NOTCH_CENTER, "60"},
-                                    {IDC_NOTCH_WIDTH, "10"},
-                                    {IDC_NOTCH_RANGE, "Center range = 10.0 to 3000.0 Hz"}});
-                CheckDlgButton(pages[0], IDC_FILTER_LOWPASS, BST_CHECKED);
-                CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
-                FillData(pages[1], m_source);
-            }};
         const auto show = [this] {
             FilterOptions options = {};
             options.lowpass.m_eFilterFamily = kBessel;
@@ -105,25 +35,10 @@ class Bench {
             ZXADLG_DataOptions data = Selection();
             ZXADLG_ShowFilterDialog(m_timing.GetOwner(), &options, &data, &m_source, &m_params);
         };
-        return Compare("Filter", show, bare);
+        return Compare("Filter", show, IDD_FILTER, IDD_FILTER_OPTIONS);
     }
 
     bool Spectrum() {
-        const BareDialog bare = {
-            IDD_SPECTRUM, IDD_SPECTRUM_OPTIONS, [this](const std::vector<HWND>& pages) {
-                for (const SpectralWindow& window : SpectralWindows())
-                    AddString(pages[0], IDC_SPECTRUM_WINDOW, window.nString);
-                SendMessageA(GetDlgItem(pages[0], IDC_SPECTRUM_WINDOW), CB_SETCURSEL, 6, 0);
-                SetTexts(pages[0], {{IDC_SPECTRUM_KAISER, "2.00"},
-                                    {IDC_SPECTRUM_POISSON, "2.00"},
-                                    {IDC_SPECTRUM_LENGTH, "32"},
-                                    {IDC_SPECTRUM_MAXIMUM_VALUE, "(64)"},
-                                    {IDC_SPECTRUM_OUTPUT, "Output length = 16"},
-                                    {IDC_SPECTRUM_RESOLUTION, "Spectral resolution = 312.50 Hz"},
-                                    {IDC_SPECTRUM_EXCLUDE, "1"}});
-                CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
-                FillData(pages[1], m_source);
-            }};
         const auto show = [this] {
             SpectrumOptions options = {};
             options.eWindowType = 6;
@@ -134,22 +49,10 @@ class Bench {
             ZXADLG_ShowPowerSpectrumDialog(m_timing.GetOwner(), &options, &data, &m_source,
                                            &m_params);
         };
-        return Compare("Power Spectrum", show, bare);
+        return Compare("Power Spectrum", show, IDD_SPECTRUM, IDD_SPECTRUM_OPTIONS);
     }
 
     bool Correlation() {
-        const BareDialog bare = {
-            IDD_CORRELATION, IDD_CORRELATION_OPTIONS, [this](const std::vector<HWND>& pages) {
-                SetTexts(pages[0],
-                         {{IDC_CORRELATION_STATUS, "The sampling frequency is fixed."},
-                          {IDC_CORRELATION_FREQUENCY, "10000"},
-                          {IDC_CORRELATION_INTERVAL, "Interval = 0.01 \xB5s"},
-                          {IDC_CORRELATION_LAGS, "100"},
-                          {IDC_CORRELATION_TIMES, " = 1000.00 ms (maximum = 20000.00 ms)"}});
-                CheckDlgButton(pages[0], IDC_CORRELATION_AUTO, BST_CHECKED);
-                CheckDlgButton(pages[0], IDC_DESTINATION_APPEND, BST_CHECKED);
-                FillData(pages[1], m_source);
-            }};
         const auto show = [this] {
             ZXADLG_CorrelationOptions options = {};
             options.uNumberOfLags = 100;
@@ -157,17 +60,21 @@ class Bench {
             ZXADLG_ShowCorrelationDialog(m_timing.GetOwner(), &options, &data, &m_source,
                                          &m_params);
         };
-        return Compare("Correlation", show, bare);
+        return Compare("Correlation", show, IDD_CORRELATION, IDD_CORRELATION_OPTIONS);
     }
 
   private:
-    bool Compare(const std::string& sName, const std::function<void()>& show,
-                 const BareDialog& bare) {
-        g_pBare = &bare;
-        const DialogTiming::Ratios ratios = m_timing.TimeInTurn(kRounds, show, [&] {
-            DialogBoxParamA(GetFrameworkInstance(), MAKEINTRESOURCEA(bare.nTemplate),
-                            m_timing.GetOwner(), BareProc, 0);
+    bool Compare(const std::string& sName, const std::function<void()>& show, int nTemplate,
+                 int nOptionsTemplate) {
+        BareTabbedDialog bare(GetFrameworkInstance(), nTemplate, IDC_TABS,
+                              {{"Options", nOptionsTemplate}, {"Data", IDD_UNITARY_DATA}});
+        m_timing.AtIdle([&](HWND hDialog) {
+            bare.ShowAs(hDialog);
+            DialogTiming::Press(hDialog, IDCANCEL);
         });
+        show();
+        const DialogTiming::Ratios ratios =
+            m_timing.TimeInTurn(kRounds, show, [&] { bare.Run(m_timing.GetOwner()); });
         const bool bShow =
             PrintTiming((sName + " from Show to its first idle moment").c_str(), ratios.show, 1.2);
         return PrintTiming((sName + " from OK to the return").c_str(), ratios.end, 1.3) && bShow;
