@@ -69,6 +69,19 @@ DialogRow CorrelationRow() {
     return row;
 }
 
+// Limits of zeros would be those of data that have none.
+DialogRow HistogramRow() {
+    DialogRow row = Row("Histogram", &ZXADLG_ShowHistogramDialog);
+    row.prepare = [](std::vector<unsigned char>& options) {
+        auto* pOptions = reinterpret_cast<ZXADLG_HistogramOptions*>(options.data());
+        pOptions->fBinWidth = 2.5f;
+        pOptions->fMinDataValue = 20.0f;
+        pOptions->fMaxDataValue = 60.0f;
+        pOptions->nBinsPerDecade = 7;
+    };
+    return row;
+}
+
 }  // namespace
 
 Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
@@ -94,6 +107,7 @@ const std::vector<DialogRow>& Rows() {
         Row("Normalize", &ZXADLG_ShowNormalizeDialog),
         Row("Time Shift", &ZXADLG_ShowTimeShiftDialog),
         FitRow(),
+        HistogramRow(),
         Row("Force Values", &ZXADLG_ShowForceValuesDialog),
         Row("Adjust Baseline", &ZXADLG_ShowAdjustBaselineDialog),
         Row("Leak Subtraction", &ZXADLG_ShowLeakSubtractionDialog),
