@@ -32,8 +32,8 @@ struct HistogramRange {
 // Whether a kind takes bins per decade in the place of a width.
 bool HasDecades(std::int32_t eKind);
 
-// Makes a record good that was stored or passed: the kind is one of the four, the width above 0, the
-// counts are within what their fields take.
+// Makes a record good that was stored or passed: the kind is one of the four, the width above 0,
+// the counts are within what their fields take.
 void CompleteHistogramRecord(ZXADLG_HistogramOptions& options);
 
 // A number as the record's fields of single precision keep it.
@@ -66,12 +66,12 @@ struct HistogramLimits {
 
     bool operator==(const HistogramLimits&) const = default;
 };
-// A limit outside of the range goes to the range's end: the lower one to the minimum, the upper one to
-// the maximum, on whichever side it is. What reads like an end with single precision is inside.
+// A limit outside of the range goes to the range's end: the lower one to the minimum, the upper one
+// to the maximum, on whichever side it is. What reads like an end with single precision is inside.
 float ClampLower(float fLimit, const HistogramRange& range);
 float ClampUpper(float fLimit, const HistogramRange& range);
 // What becomes of the limits when the data have another range. `first` are those that the dialog
-// opened with: where these were set and the present ones are lost, whole multiples of the width within
-// the range take their place.
+// opened with: where these were set and the present ones are lost, whole multiples of the width
+// within the range take their place.
 HistogramLimits FollowRange(const HistogramLimits& limits, const HistogramLimits& first,
                             const HistogramRange& range, float fWidth);

@@ -10,10 +10,10 @@ CHistogramDialog::CHistogramDialog(HWND hwndParent, ZXADLG_HistogramOptions* pOp
     : CParentDialogBase(hwndParent, pData, pSource, pParams, IDD_HISTOGRAM, IDC_TABS),
       m_pRecord(pOptions) {
     if (!IsReadOnly()) CompleteHistogramRecord(*pOptions);
-    m_pTab = BuildTabs<CHistogramOptionsTab>(pOptions,
-                                             {.bShowGroups = pParams->bShowGroupSelector,
-                                              .bUseStoredInfo = pParams->bDeferredRun},
-                                             SheetData::kListed);
+    m_pTab = BuildTabs<CHistogramOptionsTab>(
+        pOptions,
+        {.bShowGroups = pParams->bShowGroupSelector, .bUseStoredInfo = pParams->bDeferredRun},
+        SheetData::kListed);
     // What nobody can change is not checked.
     if (IsReadOnly()) return;
     AddSelectionCheck();

@@ -1,5 +1,5 @@
-// Histogram: its kind, the layout of its bins and the limits of its data, which follow the range of the
-// selection. The dialog bins nothing: OK hands a record back.
+// Histogram: its kind, the layout of its bins and the limits of its data, which follow the range of
+// the selection. The dialog bins nothing: OK hands a record back.
 #pragma once
 
 #include "analysis/CParentDialogBase.h"

@@ -162,8 +162,7 @@ void CHistogramOptionsTab::UpdateControls() {
 }
 
 void CHistogramOptionsTab::ShowDecades() {
-    const BinCount count =
-        CountLogarithmicBins(m_range, WidthInUse(), m_pRecord->nBinsPerDecade);
+    const BinCount count = CountLogarithmicBins(m_range, WidthInUse(), m_pRecord->nBinsPerDecade);
     ShowControls({&m_lblDecadesCount}, m_bRangeKnown);
     if (count.eState == BinCountState::kCounted) {
         m_lblDecadesCount.SetArgInt(0, count.nCount);

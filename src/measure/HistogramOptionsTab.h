@@ -1,5 +1,5 @@
-// The options of the histogram dialog: kind, bins and limits. The number of bins follows the width, the
-// width the number of bins, and the limits follow the range of the selected data.
+// The options of the histogram dialog: kind, bins and limits. The number of bins follows the width,
+// the width the number of bins, and the limits follow the range of the selected data.
 #pragma once
 
 #include "analysis/COptionsTabBase.h"
