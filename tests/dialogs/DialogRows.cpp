@@ -91,6 +91,8 @@ Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
     data.eDataSet1SelectionMode = 3;
     data.eDataGroup1SelectionMode = 1;
     std::strcpy(data.szUnitarySelectionList1, "0..2");
+    // What a host keeps of an earlier run: the largest value of these sets.
+    data.dMaxValue = 1199.0;
     params.bUseDataOptions = 1;
     params.bShowGroupSelector = 1;
     params.bShowDestination = 1;
