@@ -1,5 +1,5 @@
-// The stored settings of the histogram from any bytes, and everything that the dialog makes of them with
-// data of any range.
+// The stored settings of the histogram from any bytes, and everything that the dialog makes of them
+// with data of any range.
 #pragma once
 
 #include <cstddef>

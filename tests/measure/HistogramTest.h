@@ -1,5 +1,5 @@
-// What the tests of the histogram dialog share: data of 0 to 10, a record of values of its own, and the
-// dialog by script.
+// What the tests of the histogram dialog share: data of 0 to 10, a record of values of its own, and
+// the dialog by script.
 #pragma once
 
 #include <gtest/gtest.h>

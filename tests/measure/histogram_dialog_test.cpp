@@ -259,8 +259,10 @@ TEST_F(HistogramDialogTest, NoBinsAreNotStoredAndGoWhenTheFieldIsLeft) {
 
 TEST_F(HistogramDialogTest, TypedBinsOutlastALookAtTheDataAndOk) {
     DialogScript script;
-    script.Type(IDC_HISTOGRAM_BINS, "5").SelectTab("Data").SelectTab("Options").ExpectText(
-        IDC_HISTOGRAM_BINS, "5");
+    script.Type(IDC_HISTOGRAM_BINS, "5")
+        .SelectTab("Data")
+        .SelectTab("Options")
+        .ExpectText(IDC_HISTOGRAM_BINS, "5");
     ShowAndAccept(script);
     EXPECT_EQ(options.nNumBins, 5);
     EXPECT_EQ(options.fBinWidth, 2.0f);

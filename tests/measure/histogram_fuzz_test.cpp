@@ -1,5 +1,5 @@
-// A short run of the fuzz target of the histogram's stored settings: its corpus, and changes of it with
-// a fixed seed.
+// A short run of the fuzz target of the histogram's stored settings: its corpus, and changes of it
+// with a fixed seed.
 
 #include <gtest/gtest.h>
 
