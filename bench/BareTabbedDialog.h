@@ -1,6 +1,6 @@
-// What an open dialog shows, and a bare dialog of the same templates that shows the same: the texts,
-// marks, items, greyed and hidden controls of all of its pages, put there by the platform's calls
-// and nothing else. It is the least that any code must do to open the same dialog.
+// What an open dialog shows, and a bare dialog of the same templates that shows the same: the
+// texts, marks, items, greyed and hidden controls of all of its pages, put there by the platform's
+// calls and nothing else. It is the least that any code must do to open the same dialog.
 #pragma once
 
 #include <algorithm>
@@ -127,8 +127,8 @@ class DialogState {
     }
     static void PutItems(const Control& control, HWND hWnd) {
         const bool bList = control.eKind == Kind::kList;
-        const bool bMany =
-            bList && (GetWindowLongPtrA(hWnd, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+        const bool bMany = bList && (GetWindowLongPtrA(hWnd, GWL_STYLE) &
+                                     (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
         for (const std::string& sItem : control.vItems)
             SendMessageA(hWnd, bList ? LB_ADDSTRING : CB_ADDSTRING, 0,
                          reinterpret_cast<LPARAM>(sItem.c_str()));
@@ -146,8 +146,8 @@ class DialogState {
     std::vector<std::vector<Control>> m_vPages;
 };
 
-// A tabbed dialog of the platform's calls alone, with the pages of a dialog of the library, that shows
-// what that one shows.
+// A tabbed dialog of the platform's calls alone, with the pages of a dialog of the library, that
+// shows what that one shows.
 class BareTabbedDialog {
   public:
     BareTabbedDialog(HINSTANCE hInstance, int nTemplate, int nTabId, std::vector<BarePage> pages)
@@ -168,8 +168,8 @@ class BareTabbedDialog {
     static INT_PTR CALLBACK Proc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
         if (uMsg != WM_INITDIALOG) return EndBareAtOk(hWnd, uMsg, wParam);
         const auto* pThis = reinterpret_cast<const BareTabbedDialog*>(lParam);
-        const std::vector<HWND> pages = CreateBarePages(
-            pThis->m_hInstance, GetDlgItem(hWnd, pThis->m_nTabId), pThis->m_vPages);
+        const std::vector<HWND> pages =
+            CreateBarePages(pThis->m_hInstance, GetDlgItem(hWnd, pThis->m_nTabId), pThis->m_vPages);
         pThis->m_shown.Show(hWnd, pages);
         ShowWindow(pages[0], SW_SHOW);
         return TRUE;

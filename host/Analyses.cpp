@@ -83,6 +83,9 @@ template <>
 constexpr ZXADLG_CorrelationOptions kDefaults<ZXADLG_CorrelationOptions> = {
     .dSamplingFrequency = 10000.0, .uNumberOfLags = 100};
 template <>
+constexpr ZXADLG_HistogramOptions kDefaults<ZXADLG_HistogramOptions> = {
+    .fBinWidth = 1.0f, .nBinsPerDecade = 10, .bBinAllData = 1};
+template <>
 constexpr ZXADLG_SubtractControlOptions kDefaults<ZXADLG_SubtractControlOptions> = {.dMultiplier =
                                                                                         1.0};
 
@@ -121,6 +124,7 @@ const Analysis kRows[] = {
     ZX_ROW("filter", "Filter", ZXADLG_SignalProcessingOptions, Usual, ZXADLG_ShowFilterDialog),
     ZX_ROW("power-spectrum", "Power Spectrum", ZXADLG_SignalProcessingOptions, Usual,
            ZXADLG_ShowPowerSpectrumDialog),
+    ZX_ROW("histogram", "Histogram", ZXADLG_HistogramOptions, Usual, ZXADLG_ShowHistogramDialog),
     ZX_ROW("correlation", "Correlation", ZXADLG_CorrelationOptions, Usual,
            ZXADLG_ShowCorrelationDialog),
     ZX_ROW("resistance", "Resistance", ZXADLG_ResistanceOptions, Usual,

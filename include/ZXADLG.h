@@ -22,6 +22,7 @@
 #include "zxadlg/DlgParams.h"
 #include "zxadlg/FitOptions.h"
 #include "zxadlg/ForceValuesOptions.h"
+#include "zxadlg/HistogramOptions.h"
 #include "zxadlg/LeakSubtractionOptions.h"
 #include "zxadlg/ModifySampleRateOptions.h"
 #include "zxadlg/NormalizeOptions.h"
@@ -308,6 +309,14 @@ int32_t ZXADLG_CALL ZXADLG_ShowCorrelationDialog(HWND__* parent, ZXADLG_Correlat
                                                  ZXADLG_DataOptions* data,
                                                  ZXADLG_CDlgDataSource* source,
                                                  const ZXADLG_DlgParams* params);
+
+// Histogram: its kind, the width of its bins or their number per decade, and the limits of the data
+// that it counts. The limits come back within the range of the selected data, nNumBins as the
+// number that the width gives, and bNormalize 0 for bins of variable width.
+int32_t ZXADLG_CALL ZXADLG_ShowHistogramDialog(HWND__* parent, ZXADLG_HistogramOptions* options,
+                                               ZXADLG_DataOptions* data,
+                                               ZXADLG_CDlgDataSource* source,
+                                               const ZXADLG_DlgParams* params);
 
 // The fields of a record by the name of its type ("ZXADLG_NormalizeOptions"), in the order of the
 // record. Stores a pointer to the first and returns their number; 0, and a null pointer, for a name

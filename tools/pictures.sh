@@ -85,4 +85,5 @@ curve-fit Function Advanced Seed_Values Data
 filter Options Data
 power-spectrum Options Data
 correlation Options Data
+histogram Options Data
 END

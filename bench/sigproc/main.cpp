@@ -1,14 +1,10 @@
 // Filter, Power Spectrum and Correlation against bare dialogs of the same templates that show the
 // same.
-#include "BareTabbedDialog.h"
-#include "DialogTiming.h"
-#include "analysis/Benchmarks.h"
+#include "TabbedBench.h"
 #include "entry/ShowSequence.h"
 #include "fixtures/system.h"
-#include "ids.h"
 #include "sigproc/FilterLimits.h"
 #include "sigproc_ids.h"
-#include "widgets/FrameworkSetup.h"
 
 // Crash reports of the test start-up name the running test; here there is none.
 const char* test_support::RunningTestName() {
@@ -17,15 +13,8 @@ const char* test_support::RunningTestName() {
 
 namespace {
 
-constexpr int kRounds = 15;
-
-class Bench {
+class Bench : TabbedBench {
   public:
-    Bench() {
-        m_params.bUseDataOptions = m_params.bShowGroupSelector = m_params.bShowDestination = 1;
-        m_params.bShowDynamicLink = m_params.bShowWriteRegionInfo = 1;
-    }
-
     bool Filter() {
         const auto show = [this] {
             FilterOptions options = {};
@@ -62,32 +51,6 @@ class Bench {
         };
         return Compare("Correlation", show, IDD_CORRELATION, IDD_CORRELATION_OPTIONS);
     }
-
-  private:
-    bool Compare(const std::string& sName, const std::function<void()>& show, int nTemplate,
-                 int nOptionsTemplate) {
-        BareTabbedDialog bare(GetFrameworkInstance(), nTemplate, IDC_TABS,
-                              {{"Options", nOptionsTemplate}, {"Data", IDD_UNITARY_DATA}});
-        m_timing.AtIdle([&](HWND hDialog) {
-            bare.ShowAs(hDialog);
-            DialogTiming::Press(hDialog, IDCANCEL);
-        });
-        show();
-        const DialogTiming::Ratios ratios =
-            m_timing.TimeInTurn(kRounds, show, [&] { bare.Run(m_timing.GetOwner()); });
-        const bool bShow =
-            PrintTiming((sName + " from Show to its first idle moment").c_str(), ratios.show, 1.2);
-        return PrintTiming((sName + " from OK to the return").c_str(), ratios.end, 1.3) && bShow;
-    }
-    static ZXADLG_DataOptions Selection() {
-        ZXADLG_DataOptions data = {};
-        data.eDataSet1SelectionMode = data.eDataGroup1SelectionMode = 1;
-        return data;
-    }
-
-    DialogTiming m_timing;
-    NamedSource m_source{12};
-    ZXADLG_DlgParams m_params = {};
 };
 
 }  // namespace

@@ -327,13 +327,17 @@ bool CPairedDataTab::CheckRange(bool bReport) {
     return !result.has_value();
 }
 
-BOOL CPairedDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
-    if (!CDataTabBase::Validate(bSilent, ppFailed)) return FALSE;
+CheckResult CPairedDataTab::CheckSelected() {
+    if (!m_bListMode) return {};
     const int nWhere =
         m_radList.GetSelected() == kTypedIndex ? IDC_SET_LIST_TEXT : GetActiveList().GetControlId();
-    if (m_bListMode && !Passes(CheckAnySetSelected(GetListSelCount(), nWhere), bSilent, ppFailed))
-        return FALSE;
-    return Passes(FindRangeFault(), bSilent, ppFailed);
+    return CheckAnySetSelected(GetListSelCount(), nWhere);
+}
+
+BOOL CPairedDataTab::Validate(BOOL bSilent, ADM_Wnd** ppFailed) {
+    return CDataTabBase::Validate(bSilent, ppFailed) &&
+           Passes(CheckSelected(), bSilent, ppFailed) &&
+           Passes(FindRangeFault(), bSilent, ppFailed);
 }
 
 void CPairedDataTab::ReadControls() {

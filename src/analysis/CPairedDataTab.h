@@ -22,6 +22,8 @@ class CPairedDataTab : public CDataTabBase {
     void UpdateControls() override;
     BOOL OnPageShow() override;
     void ReadControls() override;
+    // The list form alone has nothing selected by itself.
+    CheckResult CheckSelected() override;
     // In the list form a column must be selected; the rows must be in order.
     BOOL Validate(BOOL bSilent, ADM_Wnd** ppFailed) override;
 

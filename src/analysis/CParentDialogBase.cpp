@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "analysis/CPairedDataTab.h"
 #include "analysis/CUnitaryDataTab.h"
 #include "analysis/DataChecks.h"
 #include "analysis/DialogMessages.h"
@@ -71,10 +72,14 @@ void CParentDialogBase::SetDataTab(std::unique_ptr<CDataTabBase> pTab) {
     if (bWasCurrent) BringUpPage(GetPageCount() - 1);
 }
 
-void CParentDialogBase::AddUnitaryDataTab() {
+void CParentDialogBase::AddUsualDataTab(SheetData eSheet) {
     if (!m_bUseDataOptions) return;
-    SetDataTab(
-        std::make_unique<CUnitaryDataTab>(m_pDataOptions.get(), IDD_UNITARY_DATA, IsReadOnly()));
+    CDataOptionsInterface* pData = m_pDataOptions.get();
+    if (eSheet == SheetData::kListed && pData->IsSheetData()) {
+        SetDataTab(std::make_unique<CPairedDataTab>(pData, IDD_PAIRED_LIST, true, IsReadOnly()));
+    } else {
+        SetDataTab(std::make_unique<CUnitaryDataTab>(pData, IDD_UNITARY_DATA, IsReadOnly()));
+    }
 }
 
 void CParentDialogBase::AddSelectionCheck() {

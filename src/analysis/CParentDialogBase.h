@@ -48,20 +48,27 @@ class CParentDialogBase : public CCheckedDialog<ADM_TabbedDialog> {
     // the one before.
     void SetDataTab(std::unique_ptr<CDataTabBase> pTab);
 
+    // How the data tab offers the columns of a sheet: as it offers other sets, or as a list of
+    // columns with a range of rows.
+    enum class SheetData { kAsSets, kListed };
+
     // The usual dialog: one options tab, and the data tab of one family of sets. Tab::Options is
     // built with (record, source), and Tab with (options, parameters, model).
     template <class Tab, class Record>
-    Tab* BuildTabs(Record* pOptions, const ZXADLG_DataTabFlags& flags) {
+    Tab* BuildTabs(Record* pOptions, const ZXADLG_DataTabFlags& flags,
+                   SheetData eSheet = SheetData::kAsSets) {
         OfferData(flags);
         auto pInterface = std::make_unique<typename Tab::Options>(pOptions, m_pSource);
         auto pTab = std::make_unique<Tab>(pInterface.get(), m_pParams, m_pDataOptions.get());
         Tab* pResult = pTab.get();
         m_pOptions = std::move(pInterface);
         AddOptionsTab(std::move(pTab));
-        AddUnitaryDataTab();
+        AddUsualDataTab(eSheet);
         return pResult;
     }
-    void AddUnitaryDataTab();
+    // Adds the data tab of one selection of sets, or where the dialog takes them, of the columns of
+    // a sheet. None without bUseDataOptions.
+    void AddUsualDataTab(SheetData eSheet = SheetData::kAsSets);
 
     bool SetUp() override;
     TypedValues GetTyped() const override;

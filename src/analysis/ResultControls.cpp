@@ -57,8 +57,8 @@ void ResultControls::ShowWhere(const ZXADLG_DlgParams& params) {
 void ResultControls::CloseGaps(const ZXADLG_DlgParams& params) const {
     const HWND hLink = chkDynamicLink.GetHandle();
     const HWND hRegion = chkWriteRegionInfo.GetHandle();
-    if (hLink == nullptr || hRegion == nullptr) return;
-    if (params.bShowDynamicLink == 0) {
+    if (hRegion == nullptr) return;
+    if (hLink != nullptr && params.bShowDynamicLink == 0) {
         const RECT rcLink = PlaceOf(hLink);
         if (params.bShowWriteRegionInfo != 0) {
             MoveTo(hRegion, rcLink.left, rcLink.top);
@@ -70,9 +70,11 @@ void ResultControls::CloseGaps(const ZXADLG_DlgParams& params) const {
     if (hGroup == nullptr || params.bShowDestination != 0) return;
     // What stands under the hidden box takes its place.
     const RECT rcGroup = PlaceOf(hGroup);
-    const LONG nUp = PlaceOf(hLink).top - rcGroup.top;
-    if (PlaceOf(hLink).left != rcGroup.left || nUp <= 0) return;
+    const RECT rcFirst = PlaceOf(hLink != nullptr ? hLink : hRegion);
+    const LONG nUp = rcFirst.top - rcGroup.top;
+    if (rcFirst.left != rcGroup.left || nUp <= 0) return;
     for (const HWND hCheck : {hLink, hRegion}) {
+        if (hCheck == nullptr) continue;
         const RECT rc = PlaceOf(hCheck);
         MoveTo(hCheck, rc.left, rc.top - nUp);
     }

@@ -3,6 +3,7 @@
 #include "ZXADLG.h"
 #include "entry/ShowSequence.h"
 #include "fit/CurveFittingDialog.h"
+#include "measure/HistogramDialog.h"
 #include "platform/platform.h"
 #include "sigproc/CorrelationDialog.h"
 #include "sigproc/FilterDialog.h"
@@ -38,6 +39,7 @@ constexpr auto kCorrelation =
 constexpr auto kFilter = TabbedRow("Filter", &LoadFilterOptions, &SaveFilterOptions);
 constexpr auto kForceValues =
     TabbedRow("ForceValues", &LoadForceValuesOptions, &SaveForceValuesOptions);
+constexpr auto kHistogram = TabbedRow("Histogram", &LoadHistogramOptions, &SaveHistogramOptions);
 constexpr auto kLeakSubtraction =
     TabbedRow("LeakSubtraction", &LoadLeakSubtractionOptions, &SaveLeakSubtractionOptions);
 constexpr auto kNormalize = TabbedRow("Normalize", &LoadNormalizeOptions, &SaveNormalizeOptions);
@@ -95,6 +97,14 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowForceValuesDialog(HWND parent,
                                                             ZXADLG_CDlgDataSource* source,
                                                             const ZXADLG_DlgParams* params) {
     return ShowTabbed<CForceValuesDialog>(kForceValues, parent, options, data, source, params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowHistogramDialog(HWND parent,
+                                                          ZXADLG_HistogramOptions* options,
+                                                          ZXADLG_DataOptions* data,
+                                                          ZXADLG_CDlgDataSource* source,
+                                                          const ZXADLG_DlgParams* params) {
+    return ShowTabbed<CHistogramDialog>(kHistogram, parent, options, data, source, params);
 }
 
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowLeakSubtractionDialog(

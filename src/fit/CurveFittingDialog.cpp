@@ -122,7 +122,7 @@ void CFitDialog::ShowDataPage() {
     if (eForm == m_eDataForm) return;
     m_eDataForm = eForm;
     if (eForm == DataForm::kSets) {
-        AddUnitaryDataTab();
+        AddUsualDataTab();
     } else if (eForm == DataForm::kOneVariable) {
         SetDataTab(std::make_unique<CPairedDataTab>(m_pDataOptions.get(), IDD_PAIRED_ONE_VARIABLE,
                                                     true, IsReadOnly()));

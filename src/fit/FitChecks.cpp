@@ -101,7 +101,7 @@ CheckResult CheckDataForFit(const CFitOptionsInterface& fit, FitDataUse eUse) {
         return finding;
     }
     if (data.IsSheetData() && (points.x.empty() || points.y.empty()))
-        return Refusal(IDS_FIT_COLUMNS_EMPTY, kFitAdvancedPage);
+        return Refusal(IDS_COLUMNS_EMPTY, kFitAdvancedPage);
     if (points.x.empty()) return Refusal(IDS_FIT_NO_X, kFitAdvancedPage);
     if (points.y.empty()) return Refusal(IDS_FIT_NO_Y, kFitAdvancedPage);
     if (IsAllZero(points.x)) return Refusal(IDS_FIT_X_ALL_ZERO, kFitAdvancedPage);

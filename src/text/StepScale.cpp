@@ -39,8 +39,8 @@ std::int32_t CountSteps(double dRange, double dStep) {
     return dCount > 2147483647.0 ? 2147483647 : static_cast<std::int32_t>(dCount);
 }
 
-// The 1, 2 or 5 times a power of ten below a number, as its first digit stands when it is written
-// with one decimal in exponent form.
+}  // namespace
+
 double RoundOneTwoFive(double x) {
     if (!std::isfinite(x) || x == 0) return x;
     const DecimalDigits digits = ToDecimalDigits(x, 2);
@@ -51,8 +51,6 @@ double RoundOneTwoFive(double x) {
     std::from_chars(szText, end.ptr, dRounded);
     return std::copysign(dRounded, x);
 }
-
-}  // namespace
 
 float StepValue(double dValue, double dDelta) {
     const float fValue = static_cast<float>(dValue);

@@ -9,6 +9,10 @@
 // delta of 0 has no grid and leaves the value.
 float StepValue(double dValue, double dDelta);
 
+// The 1, 2 or 5 times a power of ten below a number, as its first digit stands when it is written
+// with one decimal in exponent form. 0 and what is not finite stay.
+double RoundOneTwoFive(double x);
+
 // Divides the range between two limits, in either order, into gauge positions. Stores the number of
 // steps, the step and the grid point nearest to the lower limit, and returns 1. The step is
 // coarsened to 1, 2 or 5 times a power of ten until there are at most 10 million positions. With

@@ -69,6 +69,19 @@ DialogRow CorrelationRow() {
     return row;
 }
 
+// Limits of zeros would be those of data that have none.
+DialogRow HistogramRow() {
+    DialogRow row = Row("Histogram", &ZXADLG_ShowHistogramDialog);
+    row.prepare = [](std::vector<unsigned char>& options) {
+        auto* pOptions = reinterpret_cast<ZXADLG_HistogramOptions*>(options.data());
+        pOptions->fBinWidth = 2.5f;
+        pOptions->fMinDataValue = 20.0f;
+        pOptions->fMaxDataValue = 60.0f;
+        pOptions->nBinsPerDecade = 7;
+    };
+    return row;
+}
+
 }  // namespace
 
 Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
@@ -78,6 +91,8 @@ Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
     data.eDataSet1SelectionMode = 3;
     data.eDataGroup1SelectionMode = 1;
     std::strcpy(data.szUnitarySelectionList1, "0..2");
+    // What a host keeps of an earlier run: the largest value of these sets.
+    data.dMaxValue = 1199.0;
     params.bUseDataOptions = 1;
     params.bShowGroupSelector = 1;
     params.bShowDestination = 1;
@@ -94,6 +109,7 @@ const std::vector<DialogRow>& Rows() {
         Row("Normalize", &ZXADLG_ShowNormalizeDialog),
         Row("Time Shift", &ZXADLG_ShowTimeShiftDialog),
         FitRow(),
+        HistogramRow(),
         Row("Force Values", &ZXADLG_ShowForceValuesDialog),
         Row("Adjust Baseline", &ZXADLG_ShowAdjustBaselineDialog),
         Row("Leak Subtraction", &ZXADLG_ShowLeakSubtractionDialog),

@@ -145,7 +145,6 @@ const Expected kExpected[] = {
     {2398, "Fitted Curve Range"},
     {2401, "No x axis data have been selected. Select a valid data set."},
     {2402, "No y axis data have been selected. Select a valid data set."},
-    {2403, "No valid data have been selected. Columns are empty or contain only strings."},
     {2405,
      "The Chebyshev method requires evenly spaced x axis values.\nPress OK to use "
      "Levenberg-Marquardt."},

@@ -196,6 +196,7 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
                          {"filter", kSigprocUnseen},
                          {"power-spectrum", kSigprocUnseen},
                          {"correlation", 4 + 68 + 2},
+                         {"histogram", 1 + 2 + 130 + 2},
                          {"force-values", 2},
                          {"adjust-baseline", 2},
                          {"leak-subtraction", 6},

@@ -57,6 +57,25 @@ TEST_F(HostRun, OpensSignalProcessingOnItsOwnRecordings) {
         EXPECT_NE(stored.find(szSection), std::string::npos) << szSection;
 }
 
+TEST_F(HostRun, OpensTheHistogramOnItsOwnRecordings) {
+    const std::string steps = WriteFile(
+        "steps.txt",
+        "expect text 2329 \"1\"\nexpect text 2332 \"10\"\nexpect checked \"Ma&ximum\"\nok\n");
+    for (const std::string szRecording : {"family", "second-kind", "no-waveform", "sheet"}) {
+        SCOPED_TRACE(szRecording);
+        ASSERT_EQ(Run({"run", "histogram", "--recording", szRecording, "--script", steps, "--store",
+                       Store() + szRecording}),
+                  zxhost::kDone)
+            << err;
+        EXPECT_TRUE(OutHas("result: 1 (OK)\n")) << out;
+        EXPECT_TRUE(OutHas("  nNumBins: 0 -> ")) << out;
+        EXPECT_EQ(err, "");
+        const std::string stored = ReadFile(Store() + szRecording);
+        for (const char* szSection : {"[HistogramSection]", "[HistogramDataSection]"})
+            EXPECT_NE(stored.find(szSection), std::string::npos) << szSection;
+    }
+}
+
 TEST_F(HostRun, FindsTheSettingsOfTheLastRun) {
     ASSERT_EQ(Play("click \"Use specified regions\"\nchoose 2364 \"Cursors 3..4\"\nok\n"), 0)
         << err;
