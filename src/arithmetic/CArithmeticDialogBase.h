@@ -42,6 +42,9 @@ class CArithmeticDialogBase : public CRecordPage<ZXADLG_ArithmeticOptions, CUnta
     bool IsFileData() const { return m_eDataKind == CDataOptionsInterface::kFileData; }
     bool IsSheetData() const { return m_eDataKind == CDataOptionsInterface::kSheetData; }
     CheckResult CheckText() const;
+    // Nothing before "=" is left in an expression that has no left side. Tells once with
+    // bShowMessage.
+    void TakeExpression(bool bShowMessage);
 
     const std::uint32_t m_eDataKind;
     const ArithmeticForm& m_form;
@@ -50,9 +53,6 @@ class CArithmeticDialogBase : public CRecordPage<ZXADLG_ArithmeticOptions, CUnta
   private:
     void FillHistories();
     void RemapExpression();
-    // Nothing before "=" is left in an expression that has no left side. Tells once with
-    // bShowMessage.
-    void TakeExpression(bool bShowMessage);
     void ClearExpression();
     void UndoExpression();
     bool UsesStore() const { return HasLiveData() && !IsReadOnly(); }
