@@ -311,7 +311,8 @@ void CArithmeticDialog::CountRows() {
     if (IsReadOnly()) return;
     const std::int32_t nMost =
         HasLiveData() ? ShownCount(m_rows.uLongest) : std::numeric_limits<std::int32_t>::max();
-    for (ADM_IntegerText* pRow : {&m_txtFrom, &m_txtTo}) pRow->SetRange(1, std::max(nMost, 1));
+    for (ADM_IntegerGaugeText* pRow : {&m_txtFrom, &m_txtTo})
+        pRow->SetRange(1, std::max(nMost, 1), 1);
 }
 
 void CArithmeticDialog::OnExpressionChanged() {

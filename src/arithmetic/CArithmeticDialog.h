@@ -9,7 +9,7 @@
 
 #include "arithmetic/ArithmeticChecks.h"
 #include "arithmetic/CArithmeticDialogBase.h"
-#include "framework/ADM_IntegerText.h"
+#include "framework/ADM_IntegerGaugeText.h"
 
 class CArithmeticDialog : public CArithmeticDialogBase {
   public:
@@ -71,9 +71,9 @@ class CArithmeticDialog : public CArithmeticDialogBase {
     ADM_Static m_lblNote;
     ADM_StaticText m_lblAvailable;
     ADM_Static m_lblFrom;
-    ADM_IntegerText m_txtFrom;
+    ADM_IntegerGaugeText m_txtFrom;
     ADM_GaugeControl m_spnFrom;
     ADM_Static m_lblTo;
-    ADM_IntegerText m_txtTo;
+    ADM_IntegerGaugeText m_txtTo;
     ADM_GaugeControl m_spnTo;
 };

@@ -124,7 +124,9 @@ class Loop {
             case VK_END:
                 return Move(-1, -1);
             case VK_RETURN:
-                return Choose(open_.selected);
+                Choose(open_.selected);
+                open_.ended = true;
+                return;
             default:
                 TranslateMessage(&msg);
         }
@@ -205,7 +207,7 @@ class Loop {
         }
     }
 
-    // A greyed item is chosen by nothing: the menu stays.
+    // A greyed item is chosen by nothing.
     void Choose(int item) {
         if (item < 0 || item >= static_cast<int>(menu_.items.size())) return;
         const MenuItem& chosen = menu_.items[static_cast<std::size_t>(item)];
