@@ -71,7 +71,7 @@ TEST(DataCheck, WantsASetWithPointsInAnyGroup) {
     const CheckResult result = CheckAnyData(source);
     ASSERT_TRUE(result);
     EXPECT_EQ(result->nStringId, 2410u);
-    EXPECT_EQ(result->uFlags, static_cast<UINT>(MB_ICONINFORMATION));
+    EXPECT_EQ(result->uFlags, static_cast<UINT>(MB_ICONASTERISK));
     source.Groups({});
     EXPECT_TRUE(CheckAnyData(source));
 }
