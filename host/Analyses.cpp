@@ -83,6 +83,12 @@ template <>
 constexpr ZXADLG_CorrelationOptions kDefaults<ZXADLG_CorrelationOptions> = {
     .dSamplingFrequency = 10000.0, .uNumberOfLags = 100};
 template <>
+constexpr ZXADLG_ArithmeticOptions kDefaults<ZXADLG_ArithmeticOptions> = {
+    .szSelectionList = "0",
+    .eDataSet1SelectionMode = 3,
+    .uLastDataIndex = 9,
+    .bUseFullDataRange = 1};
+template <>
 constexpr ZXADLG_SubtractControlOptions kDefaults<ZXADLG_SubtractControlOptions> = {.dMultiplier =
                                                                                         1.0};
 
@@ -105,6 +111,21 @@ std::int32_t WithFiles(const DialogCall& call) {
                  call.params);
 }
 
+// Over a data file traces, over a sheet its columns.
+template <class Record, auto kShow>
+std::int32_t Expression(const DialogCall& call) {
+    return kShow(call.owner, static_cast<Record*>(call.options), call.data, call.source,
+                 call.params, 0);
+}
+
+template <class Record, auto kShow>
+std::int32_t NewColumn(const DialogCall& call) {
+    ZXADLG_DlgParams params = *call.params;
+    params.bNewColumnArithmetic = 1;
+    return kShow(call.owner, static_cast<Record*>(call.options), call.data, call.source, &params,
+                 0);
+}
+
 #define ZX_ROW(name, title, record, form, show) \
     { name, title, #record, sizeof(record), &kDefaults<record>, &form<record, &show> }
 
@@ -123,6 +144,10 @@ const Analysis kRows[] = {
            ZXADLG_ShowPowerSpectrumDialog),
     ZX_ROW("correlation", "Correlation", ZXADLG_CorrelationOptions, Usual,
            ZXADLG_ShowCorrelationDialog),
+    ZX_ROW("arithmetic", "Arithmetic", ZXADLG_ArithmeticOptions, Expression,
+           ZXADLG_ShowArithmeticDialog),
+    ZX_ROW("new-column", "Arithmetic for a New Column", ZXADLG_ArithmeticOptions, NewColumn,
+           ZXADLG_ShowArithmeticDialog),
     ZX_ROW("resistance", "Resistance", ZXADLG_ResistanceOptions, Usual,
            ZXADLG_ShowResistanceDialog),
     ZX_ROW("sampling-rate", "Data Reduction/Interpolation", ZXADLG_ModifySampleRateOptions,

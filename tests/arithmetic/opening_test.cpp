@@ -108,7 +108,7 @@ TEST_F(ArithmeticOpening, LongNounsAreCut) {
     DialogScript script;
     script.ExpectText(IDC_SETS_ACTIVE, "Acti&ve Measurement of the ")
         .ExpectText(IDC_SETS_ALL, "All Measurement of the s (including &hidden)")
-        .ExpectText(IDC_GROUPS_ACTIVE, "Ac&tive %s%0 Signal of the a");
+        .ExpectText(IDC_GROUPS_ACTIVE, "Ac&tive %s%0 Signal of the ");
     ShowAndCancel(script);
 }
 
