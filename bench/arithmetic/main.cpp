@@ -20,6 +20,14 @@ namespace {
 constexpr int kRounds = 15;
 constexpr double kMostForOneKey = 1.0;  // ms
 
+class ArithmeticSource : public NamedSource {
+  public:
+    using NamedSource::NamedSource;
+    uint32_t GetDataKind() override { return kind; }
+
+    std::uint32_t kind = 0;
+};
+
 int g_nBareTemplate;
 const NamedSource* g_pSource;
 
@@ -43,7 +51,7 @@ INT_PTR CALLBACK BareProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM) {
     return TRUE;
 }
 
-bool TimeForm(DialogTiming& timing, NamedSource& source, const char* szName, std::uint32_t eKind,
+bool TimeForm(DialogTiming& timing, ArithmeticSource& source, const char* szName, std::uint32_t eKind,
               std::uint8_t bNewColumn, int nTemplate) {
     source.kind = eKind;
     g_pSource = &source;
@@ -102,7 +110,7 @@ int main() {
     bool bGood = TimeOneKey();
     {
         DialogTiming timing;
-        NamedSource source{12};
+        ArithmeticSource source{12};
         bGood = TimeForm(timing, source, "Traces", 0, 0, IDD_ARITHMETIC_TRACES) && bGood;
         bGood = TimeForm(timing, source, "Columns", 2, 0, IDD_ARITHMETIC_COLUMNS) && bGood;
         bGood = TimeForm(timing, source, "New column", 2, 1, IDD_ARITHMETIC_NEW_COLUMN) && bGood;
