@@ -5,7 +5,8 @@
 #define IDD_ARITHMETIC_COLUMNS 2384
 #define IDD_ARITHMETIC_NEW_COLUMN 2385
 
-// --- The expression -------------------------------------------------------------------------------
+// --- The expression
+// -------------------------------------------------------------------------------
 #define IDC_EXPRESSION_LABEL 2442
 #define IDC_EXPRESSION 2527
 #define IDC_EXPRESSION_EXAMPLE 2525
@@ -17,11 +18,13 @@
 #define IDC_ASSIGN 2440
 #define IDC_COLUMN_TITLE 2528
 
-// --- The rows of the column forms; the others of the range have the ids of the data pages ------------
+// --- The rows of the column forms; the others of the range have the ids of the data pages
+// ------------
 #define IDC_RANGE_PART 2588
 #define IDC_RANGE_NOTE 2589
 
-// --- Strings --------------------------------------------------------------------------------------
+// --- Strings
+// --------------------------------------------------------------------------------------
 #define IDS_LEFT_ALL 2136
 #define IDS_OPERATOR_DIVIDE 2137
 #define IDS_OPERATOR_EQUALS 2138

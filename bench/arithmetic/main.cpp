@@ -37,7 +37,8 @@ INT_PTR CALLBACK BareProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM) {
         if (const HWND hItem = GetDlgItem(hWnd, nId))
             SendMessageA(hItem, uAdd, 0, reinterpret_cast<LPARAM>(szText));
     };
-    for (const std::string& sName : g_pSource->names) add(IDC_SET_LIST, LB_ADDSTRING, sName.c_str());
+    for (const std::string& sName : g_pSource->names)
+        add(IDC_SET_LIST, LB_ADDSTRING, sName.c_str());
     for (const char* szName : NamedSource::kGroupNames) add(IDC_GROUP, CB_ADDSTRING, szName);
     for (const char* szName : NamedSource::kRegionNames) add(IDC_REGION, CB_ADDSTRING, szName);
     for (const int nId : {IDC_EXPRESSION, IDC_COLUMN_TITLE}) {
@@ -51,8 +52,8 @@ INT_PTR CALLBACK BareProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM) {
     return TRUE;
 }
 
-bool TimeForm(DialogTiming& timing, ArithmeticSource& source, const char* szName, std::uint32_t eKind,
-              std::uint8_t bNewColumn, int nTemplate) {
+bool TimeForm(DialogTiming& timing, ArithmeticSource& source, const char* szName,
+              std::uint32_t eKind, std::uint8_t bNewColumn, int nTemplate) {
     source.kind = eKind;
     g_pSource = &source;
     g_nBareTemplate = nTemplate;
@@ -69,8 +70,8 @@ bool TimeForm(DialogTiming& timing, ArithmeticSource& source, const char* szName
         DialogBoxParamA(GetFrameworkInstance(), MAKEINTRESOURCEA(g_nBareTemplate),
                         timing.GetOwner(), BareProc, 0);
     });
-    const bool bShow = PrintTiming((std::string(szName) + " from Show to its first idle moment").c_str(),
-                                   ratios.show, 1.2);
+    const bool bShow = PrintTiming(
+        (std::string(szName) + " from Show to its first idle moment").c_str(), ratios.show, 1.2);
     return PrintTiming((std::string(szName) + " from OK to the return").c_str(), ratios.end, 1.5) &&
            bShow;
 }
@@ -95,8 +96,8 @@ bool TimeOneKey() {
     const double dMs =
         std::chrono::duration<double, std::milli>(Clock::now() - start).count() / kRepeats;
     const bool bGood = dMs <= kMostForOneKey && nFound != 0;
-    std::printf("%-55s %8.3f ms, at most %.1f  %s\n", "A scan and a remapping of 255 characters", dMs,
-                kMostForOneKey, bGood ? "ok" : "TOO SLOW");
+    std::printf("%-55s %8.3f ms, at most %.1f  %s\n", "A scan and a remapping of 255 characters",
+                dMs, kMostForOneKey, bGood ? "ok" : "TOO SLOW");
     return bGood;
 }
 

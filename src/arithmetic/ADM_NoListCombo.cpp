@@ -142,9 +142,7 @@ void ADM_NoListCombo::DrawFace(HDC hDC, bool bEnabled) const {
                          DFCS_BUTTONPUSH | static_cast<UINT>(m_bPressed ? DFCS_PUSHED : 0));
         return;
     }
-    const int nState = !bEnabled    ? kThemeDisabled
-                       : m_bPressed ? kThemePressed
-                                    : kThemeNormal;
+    const int nState = !bEnabled ? kThemeDisabled : m_bPressed ? kThemePressed : kThemeNormal;
     DrawThemeBackground(hTheme, hDC, kThemePushButton, nState, &rc, nullptr);
     CloseThemeData(hTheme);
 }
@@ -158,8 +156,8 @@ void ADM_NoListCombo::DrawArrow(HDC hDC, bool bEnabled) const {
     const HPEN hPen = CreatePen(PS_SOLID, 1, crArrow);
     const HGDIOBJ hOldPen = SelectObject(hDC, hPen);
     const HBRUSH hFill = CreateSolidBrush(crArrow);
-    const HGDIOBJ hOldBrush = SelectObject(
-        hDC, bEnabled ? static_cast<HGDIOBJ>(hFill) : GetStockObject(NULL_BRUSH));
+    const HGDIOBJ hOldBrush =
+        SelectObject(hDC, bEnabled ? static_cast<HGDIOBJ>(hFill) : GetStockObject(NULL_BRUSH));
     Polygon(hDC, corners, 3);
     SelectObject(hDC, hOldBrush);
     SelectObject(hDC, hOldPen);

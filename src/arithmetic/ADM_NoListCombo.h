@@ -1,6 +1,7 @@
 // A button with a drop arrow that opens a fixed menu of texts and remembers the last one that was
 // picked. It opens by a press of the mouse, Space, the down arrow and the mnemonic of its caption,
-// and tells its dialog of each pick by kPicked. A menu that is closed without a choice tells nothing.
+// and tells its dialog of each pick by kPicked. A menu that is closed without a choice tells
+// nothing.
 //
 // A template holds a plain item (a static) in its place, whose caption it takes. A subclass fills
 // the menu in BuildMenu; the menu is made with the window and goes with the object.

@@ -11,13 +11,13 @@
 struct ArithmeticForm {
     UINT uTemplateId;
     HistoryKind eExpressions;
-    const char* szExample;     // of an expression, the first entry of an empty history
-    bool bLeftSide;            // expressions may have one; an assigned one gets an "="
-    bool bSetRules;            // visible, all and active sets can be chosen
-    bool bSetModes;            // a list can be typed instead of selected
-    bool bRegion;              // an analysis region can be chosen
-    bool bRows;                // a range of rows can be chosen
-    bool bTitle;               // there is a box for the title of the new column
+    const char* szExample;  // of an expression, the first entry of an empty history
+    bool bLeftSide;         // expressions may have one; an assigned one gets an "="
+    bool bSetRules;         // visible, all and active sets can be chosen
+    bool bSetModes;         // a list can be typed instead of selected
+    bool bRegion;           // an analysis region can be chosen
+    bool bRows;             // a range of rows can be chosen
+    bool bTitle;            // there is a box for the title of the new column
 };
 
 // The form for a kind of data. A host that asks for a new column of a data file gets none.

@@ -65,11 +65,11 @@ CArithmeticDialog::CArithmeticDialog(HWND hwndParent, Record* pOptions, ZXADLG_D
 
 void CArithmeticDialog::BindSets() {
     if (m_form.bSetRules) {
-        BindRadios({IDC_SETS_VISIBLE, IDC_SETS_ALL, IDC_SETS_ACTIVE, IDC_SETS_LISTED,
-                    IDC_SETS_TYPED},
-                   {Model::kVisibleSets, Model::kAllSets, Model::kActiveSet, Model::kListedSets,
-                    Model::kTypedSets},
-                   m_radSets, &Record::eDataSet1SelectionMode)
+        BindRadios(
+            {IDC_SETS_VISIBLE, IDC_SETS_ALL, IDC_SETS_ACTIVE, IDC_SETS_LISTED, IDC_SETS_TYPED},
+            {Model::kVisibleSets, Model::kAllSets, Model::kActiveSet, Model::kListedSets,
+             Model::kTypedSets},
+            m_radSets, &Record::eDataSet1SelectionMode)
             .Then([this] { ApplySetMode(); });
     } else if (m_form.bSetModes) {
         m_radSets.SetupIds(this, 2, std::data({IDC_SETS_TYPED, IDC_SETS_LISTED}),
@@ -179,9 +179,8 @@ void CArithmeticDialog::UpdateControls() {
     if (!m_form.bRows) return;
     const bool bPart = UsesRowRange();
     EnableControls({&m_lblNote}, !bPart);
-    EnableControls({&m_lblAvailable, &m_lblFrom, &m_txtFrom, &m_spnFrom, &m_lblTo, &m_txtTo,
-                    &m_spnTo},
-                   bPart);
+    EnableControls(
+        {&m_lblAvailable, &m_lblFrom, &m_txtFrom, &m_spnFrom, &m_lblTo, &m_txtTo, &m_spnTo}, bPart);
 }
 
 // --- Sets ------------------------------------------------------------------------------------
@@ -318,8 +317,8 @@ void CArithmeticDialog::CountRows() {
 void CArithmeticDialog::OnExpressionChanged() {
     if (!m_form.bRows) return;
     const std::uint32_t uGroup = GetGroupInForce();
-    const std::vector<std::int32_t> vColumns = ScanColumns(
-        GetExpression(), !m_form.bLeftSide, ShownCount(m_pSource->GetSetCount(uGroup)));
+    const std::vector<std::int32_t> vColumns =
+        ScanColumns(GetExpression(), !m_form.bLeftSide, ShownCount(m_pSource->GetSetCount(uGroup)));
     m_rows.uLimit = RowLimit(*m_pSource, uGroup, vColumns, m_rows.uLongest);
     m_lblAvailable.SetArgInt(0, m_rows.uLimit > 0 ? 1 : 0);
     m_lblAvailable.SetArgInt(1, ShownCount(m_rows.uLimit));

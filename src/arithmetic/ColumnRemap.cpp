@@ -67,8 +67,8 @@ std::optional<std::string> RemapColumns(std::string_view sExpression,
     if (vNamed.empty() || vNamed.size() != vColumns.size()) return std::nullopt;
     std::string sResult;
     for (std::size_t i = 0; i <= sExpression.size();) {
-        const std::size_t nEnd = std::min(sExpression.find_first_of(kWordEnds, i),
-                                          sExpression.size());
+        const std::size_t nEnd =
+            std::min(sExpression.find_first_of(kWordEnds, i), sExpression.size());
         sResult += Replaced(sExpression.substr(i, nEnd - i), vNamed, vColumns);
         if (nEnd < sExpression.size()) sResult += sExpression[nEnd];
         i = nEnd + 1;

@@ -26,8 +26,8 @@ TEST(RowCheck, AnswersByTheNumbersAsTyped) {
         std::int32_t nFirst, nLast;
         std::pair<UINT, int> found;
     } rows[] = {
-        {5, 5, {0, 0}},         {1, 1000, {0, 0}},        {6, 5, {2205, kFrom}},
-        {0, 5, {2205, kFrom}},  {5, 0, {2205, kTo}},      {0, 0, {2205, kFrom}},
+        {5, 5, {0, 0}},         {1, 1000, {0, 0}},           {6, 5, {2205, kFrom}},
+        {0, 5, {2205, kFrom}},  {5, 0, {2205, kTo}},         {0, 0, {2205, kFrom}},
         {5, 1001, {2287, kTo}}, {1001, 1002, {2287, kFrom}}, {1001, 5, {2287, kFrom}},
         {0, 1001, {2287, kTo}}, {-3, 5, {2205, kFrom}},
     };
@@ -94,8 +94,7 @@ TEST(ExpressionCheck, MeasuresTheTrimmedText) {
     for (const std::size_t nLength : {std::size_t{256}, std::size_t{4000}}) {
         const CheckResult result = CheckExpression(std::string(nLength, 'A'), "", false);
         EXPECT_EQ(Found(result), (std::pair<UINT, int>{2208, 2527}));
-        EXPECT_EQ(result->vArguments,
-                  (std::vector<std::string>{"255", std::to_string(nLength)}));
+        EXPECT_EQ(result->vArguments, (std::vector<std::string>{"255", std::to_string(nLength)}));
     }
 }
 

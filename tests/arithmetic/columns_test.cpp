@@ -19,9 +19,10 @@ TEST(ColumnLabels, CountInTwentySixLettersWithoutAZero) {
     const struct {
         std::int64_t nColumn;
         const char* szLabel;
-    } rows[] = {{1, "A"},     {2, "B"},      {26, "Z"},     {27, "AA"},       {28, "AB"},
-                {52, "AZ"},   {53, "BA"},    {702, "ZZ"},   {703, "AAA"},     {18278, "ZZZ"},
-                {18279, "AAAA"}, {475254, "ZZZZ"}, {475255, "AAAAA"}, {11881376, "YYYYZ"}};
+    } rows[] = {{1, "A"},          {2, "B"},           {26, "Z"},       {27, "AA"},
+                {28, "AB"},        {52, "AZ"},         {53, "BA"},      {702, "ZZ"},
+                {703, "AAA"},      {18278, "ZZZ"},     {18279, "AAAA"}, {475254, "ZZZZ"},
+                {475255, "AAAAA"}, {11881376, "YYYYZ"}};
     for (const auto& row : rows) {
         EXPECT_EQ(ColumnLabel(row.nColumn), row.szLabel) << row.nColumn;
         EXPECT_EQ(ColumnNumber(row.szLabel), row.nColumn) << row.szLabel;
@@ -29,8 +30,8 @@ TEST(ColumnLabels, CountInTwentySixLettersWithoutAZero) {
 }
 
 TEST(ColumnLabels, OutsideOfTheRangeSayOve) {
-    for (const std::int64_t nColumn : {std::int64_t{0}, std::int64_t{-1}, std::int64_t{11881377},
-                                       std::int64_t{1} << 60})
+    for (const std::int64_t nColumn :
+         {std::int64_t{0}, std::int64_t{-1}, std::int64_t{11881377}, std::int64_t{1} << 60})
         EXPECT_EQ(ColumnLabel(nColumn), "Ove") << nColumn;
 }
 
@@ -83,9 +84,9 @@ INSTANTIATE_TEST_SUITE_P(
         Scanned{"A..C$9+E", {1, 2, 3, 5}}, Scanned{"AAAAAA..C", {3}}, Scanned{"A..AAAAAA+C", {3}},
         // Points that are no range.
         Scanned{"A.B", {2}}, Scanned{"0.5*A", {1}}, Scanned{"A...C", {3}}, Scanned{"..", {}},
-        Scanned{"..C", {3}}, Scanned{"A..", {}}, Scanned{"A.5.C", {3}}, Scanned{"A.B..D", {2, 3, 4}},
-        Scanned{"A....C", {3}}, Scanned{"AAAAAA", {}}, Scanned{"AAAAA", {475255}},
-        Scanned{"\xC4+A\xFF", {1}}, Scanned{"%s+%0", {19}}));
+        Scanned{"..C", {3}}, Scanned{"A..", {}}, Scanned{"A.5.C", {3}},
+        Scanned{"A.B..D", {2, 3, 4}}, Scanned{"A....C", {3}}, Scanned{"AAAAAA", {}},
+        Scanned{"AAAAA", {475255}}, Scanned{"\xC4+A\xFF", {1}}, Scanned{"%s+%0", {19}}));
 
 TEST(ColumnScanOfARange, StopsAfterTenThousandColumns) {
     const Columns vColumns = ScanColumns("A..ZZZ", false, 1000000);
@@ -179,19 +180,20 @@ TEST_P(ColumnRemap, GivesThis) {
 
 INSTANTIATE_TEST_SUITE_P(
     Expressions, ColumnRemap,
-    testing::Values(
-        Remapped{"A=A+B", {2, 3}, "C=C+D"}, Remapped{"NEWCOL=A+K$9", {1, 2}, "NEWCOL=B+C$9"},
-        // A column whose label has just changed does not change a second time.
-        Remapped{"Z=A/B", {1, 0}, "Z=B/A"}, Remapped{"A+B", {1, 2}, "B+C"},
-        Remapped{"C= a * b ", {3, 27}, "C= D * AB "}, Remapped{"A+A+a", {4}, "E+E+E"},
-        Remapped{"A=sin(B)^2-_row", {6}, "A=sin(G)^2-_row"},
-        // A fixed row is of the same column.
-        Remapped{"B=A*K$9+K", {0, 2}, "B=A*C$9+C"},
-        // None to replace, other numbers of columns, no columns.
-        Remapped{"", {1}, nullptr}, Remapped{"A=2+3", {}, nullptr}, Remapped{"A=B", {1, 2}, nullptr},
-        Remapped{"A=B+C", {1}, nullptr}, Remapped{"A=B+t12", {1, 2}, nullptr},
-        Remapped{"A=TOOLONG", {1}, nullptr}, Remapped{"A=B++", {1}, nullptr},
-        Remapped{"A=", {1}, nullptr}, Remapped{"A=B\xC4", {1}, nullptr}));
+    testing::Values(Remapped{"A=A+B", {2, 3}, "C=C+D"},
+                    Remapped{"NEWCOL=A+K$9", {1, 2}, "NEWCOL=B+C$9"},
+                    // A column whose label has just changed does not change a second time.
+                    Remapped{"Z=A/B", {1, 0}, "Z=B/A"}, Remapped{"A+B", {1, 2}, "B+C"},
+                    Remapped{"C= a * b ", {3, 27}, "C= D * AB "}, Remapped{"A+A+a", {4}, "E+E+E"},
+                    Remapped{"A=sin(B)^2-_row", {6}, "A=sin(G)^2-_row"},
+                    // A fixed row is of the same column.
+                    Remapped{"B=A*K$9+K", {0, 2}, "B=A*C$9+C"},
+                    // None to replace, other numbers of columns, no columns.
+                    Remapped{"", {1}, nullptr}, Remapped{"A=2+3", {}, nullptr},
+                    Remapped{"A=B", {1, 2}, nullptr}, Remapped{"A=B+C", {1}, nullptr},
+                    Remapped{"A=B+t12", {1, 2}, nullptr}, Remapped{"A=TOOLONG", {1}, nullptr},
+                    Remapped{"A=B++", {1}, nullptr}, Remapped{"A=", {1}, nullptr},
+                    Remapped{"A=B\xC4", {1}, nullptr}));
 
 TEST(ColumnRemapOfLongTexts, LeavesWhatWouldNotFit) {
     std::string sLong = "A";

@@ -7,13 +7,13 @@
 
 #include "arithmetic/ExpressionBoxes.h"
 #include "arithmetic/PickLists.h"
+#include "arithmetic_ids.h"
+#include "entry/ShowSequence.h"
 #include "fixtures/DialogScript.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/WindowReading.h"
 #include "framework/ADM_Dialog.h"
-#include "arithmetic_ids.h"
 #include "store/ProfileStore.h"
-#include "entry/ShowSequence.h"
 
 namespace {
 
@@ -187,8 +187,7 @@ TEST_F(PickControls, OpenByKeysAsWell) {
     }
     script.Do([this] { EXPECT_EQ(dialog.picked.size(), 2u); });
     // The mnemonic of a caption.
-    script
-        .Do([](HWND hDialog) { SetDlgItemTextA(hDialog, IDC_CONSTANT, "Constan&ts"); })
+    script.Do([](HWND hDialog) { SetDlgItemTextA(hDialog, IDC_CONSTANT, "Constan&ts"); })
         .Mnemonic('t')
         .PickFromMenu("_maxtime")
         .Do([this] { EXPECT_STREQ(dialog.constants.GetConstant(), "_maxtime"); });
@@ -198,15 +197,13 @@ TEST_F(PickControls, OpenByKeysAsWell) {
 TEST_F(PickControls, WhatIsGreyedOrHasNoMenuOpensNothing) {
     dialog.demonstration.bWithoutMenu = true;
     DialogScript script;
-    script.MouseClick(IDC_EXPRESSION_EXAMPLE)
-        .Wait(50)
-        .Do([this] {
-            EXPECT_EQ(OpenMenuWindow(), nullptr);
-            dialog.functions.Enable(FALSE);
-            SendMessageA(dialog.functions.GetHandle(), BM_CLICK, 0, 0);
-            EXPECT_EQ(OpenMenuWindow(), nullptr);
-            EXPECT_TRUE(dialog.picked.empty());
-        });
+    script.MouseClick(IDC_EXPRESSION_EXAMPLE).Wait(50).Do([this] {
+        EXPECT_EQ(OpenMenuWindow(), nullptr);
+        dialog.functions.Enable(FALSE);
+        SendMessageA(dialog.functions.GetHandle(), BM_CLICK, 0, 0);
+        EXPECT_EQ(OpenMenuWindow(), nullptr);
+        EXPECT_TRUE(dialog.picked.empty());
+    });
     Run(script);
 }
 
@@ -237,8 +234,8 @@ TEST_F(PickControls, TheirMenusGoWithTheObject) {
             })
             .Click(IDCANCEL);
         script.Run([&] {
-            return inner.DoModal(GetModuleHandleA(nullptr),
-                                 MAKEINTRESOURCEA(IDD_ARITHMETIC_TRACES), nullptr);
+            return inner.DoModal(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDD_ARITHMETIC_TRACES),
+                                 nullptr);
         });
     }
     EXPECT_FALSE(IsMenu(hMenu));
@@ -344,12 +341,10 @@ TEST_F(PickControls, WithoutThePropertyTheEditStaysAsItWas) {
         EXPECT_NE(dialog.box.Edit(), nullptr);
         EXPECT_EQ(GetPropA(dialog.box.Edit(), "COB_OldWndProc"), nullptr);
     });
-    script.Type(IDC_EXPRESSION, "abc")
-        .Focus(IDC_EXPRESSION_CLEAR)
-        .Do([&] {
-            dialog.box.InsertText("d");
-            EXPECT_EQ(dialog.box.GetText(), "abcd");
-        });
+    script.Type(IDC_EXPRESSION, "abc").Focus(IDC_EXPRESSION_CLEAR).Do([&] {
+        dialog.box.InsertText("d");
+        EXPECT_EQ(dialog.box.GetText(), "abcd");
+    });
     Run(script);
 }
 
@@ -374,9 +369,8 @@ class History : public PickControls {
     const char* Profile() const { return store.ProfileFile().c_str(); }
     std::string Stored(const char* szSection, const std::string& sKey) const {
         char szText[300] = "";
-        return ReadString(szSection, sKey.c_str(), "", szText, sizeof szText, Profile())
-                   ? szText
-                   : "(none)";
+        return ReadString(szSection, sKey.c_str(), "", szText, sizeof szText, Profile()) ? szText
+                                                                                         : "(none)";
     }
     static std::string Key(const char* szName, int n) { return szName + std::to_string(n); }
 

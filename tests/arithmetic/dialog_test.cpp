@@ -85,7 +85,9 @@ TEST_F(ArithmeticUser, ATypedListIsStoredWhileItCanBeRead) {
     options.eDataSet1SelectionMode = 4;
     DialogScript script;
     script.Type(IDC_SET_LIST_TEXT, "2, 4")
-        .Do([](HWND dialog) { EXPECT_EQ(SelectedSets(dialog), (std::vector<int>{1, 3})); })
+        .Do([](HWND dialog) {
+            EXPECT_EQ(SelectedSets(dialog), (std::vector<int>{1, 3}));
+        })
         .TypeKeys("x");
     ShowAndAccept(script);
     EXPECT_STREQ(options.szSelectionList, "1,3");
@@ -287,9 +289,7 @@ TEST_F(ArithmeticUser, BuildsAnExpressionWithTheListsAlone) {
 TEST_F(ArithmeticUser, AFunctionTakesTheSelectionsPlace) {
     DialogScript script;
     script.Type(IDC_EXPRESSION, "t1=abc+t2")
-        .Do([](HWND dialog) {
-            SendMessageA(EditOf(dialog, IDC_EXPRESSION), EM_SETSEL, 3, 6);
-        })
+        .Do([](HWND dialog) { SendMessageA(EditOf(dialog, IDC_EXPRESSION), EM_SETSEL, 3, 6); })
         .MouseClick(IDC_FUNCTION)
         .PickFromMenu("sin()")
         .Do([](HWND dialog) { EXPECT_EQ(WithCaret(dialog), "t1=sin(|)+t2"); })
@@ -335,8 +335,7 @@ TEST_F(ArithmeticUser, UndoBringsBackWhatClearTookOnce) {
 TEST_F(ArithmeticUser, UndoOfALongTextIsWhole) {
     const std::string text(4000, 'x');
     DialogScript script;
-    script
-        .Do([&](HWND dialog) { SetDlgItemTextA(dialog, IDC_EXPRESSION, text.c_str()); })
+    script.Do([&](HWND dialog) { SetDlgItemTextA(dialog, IDC_EXPRESSION, text.c_str()); })
         .Click(IDC_EXPRESSION_CLEAR)
         .Click(IDC_EXPRESSION_UNDO)
         .ExpectSelected(IDC_EXPRESSION, text);

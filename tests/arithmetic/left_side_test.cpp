@@ -1,9 +1,9 @@
 // Where a left side goes, and what is read of an expression.
-#include "arithmetic/LeftSide.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
+
+#include "arithmetic/LeftSide.h"
 
 namespace {
 
@@ -12,8 +12,7 @@ namespace {
 std::string Assigned(std::string sText, const char* szLeftSide, bool bAddEquals = true) {
     const std::size_t nCaret = sText.find('|');
     sText.erase(nCaret, 1);
-    const TextEdit edit =
-        AssignToLeftSide(sText, static_cast<int>(nCaret), szLeftSide, bAddEquals);
+    const TextEdit edit = AssignToLeftSide(sText, static_cast<int>(nCaret), szLeftSide, bAddEquals);
     sText.replace(static_cast<std::size_t>(edit.nFirst),
                   static_cast<std::size_t>(edit.nEnd - edit.nFirst), edit.sText + '|');
     return sText;

@@ -334,8 +334,8 @@ TEST_F(ArithmeticOk, ANewColumnsLimitGoesByItsRightSide) {
     source.fewerPerSet = 10;
     options.bUseFullDataRange = 0;
     DialogScript script;
-    script.Type(IDC_EXPRESSION, "C+B").ExpectText(
-        IDC_RANGE_AVAILABLE, "Available data range = 1 to 980 (from smallest column)");
+    script.Type(IDC_EXPRESSION, "C+B")
+        .ExpectText(IDC_RANGE_AVAILABLE, "Available data range = 1 to 980 (from smallest column)");
     ShowAndCancel(script);
 }
 

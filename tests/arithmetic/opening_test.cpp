@@ -45,8 +45,8 @@ TEST_F(ArithmeticOpening, ColumnsHaveAListAndRows) {
         .ExpectText(IDC_RANGE_NOTE, "Upper range limit is determined by the smallest column.")
         .ExpectText(IDC_RANGE_AVAILABLE, "Available data range = 1 to 1000 (from smallest column)")
         .Do([](HWND dialog) {
-            for (const int id : {IDC_SETS_VISIBLE, IDC_SETS_ALL, IDC_SETS_ACTIVE, IDC_REGION,
-                                 IDC_COLUMN_TITLE})
+            for (const int id :
+                 {IDC_SETS_VISIBLE, IDC_SETS_ALL, IDC_SETS_ACTIVE, IDC_REGION, IDC_COLUMN_TITLE})
                 EXPECT_EQ(GetDlgItem(dialog, id), nullptr) << id;
         });
     ShowAndCancel(script);
@@ -173,8 +173,7 @@ TEST_F(ArithmeticOpening, TheRecordComesBeforeTheHistory) {
     Put("TraceArithmetic", "TraceExpression1", "t3=t4");
     std::strcpy(options.szExpression, "NEWCOL=sin(A)");
     DialogScript script;
-    script.ExpectSelected(IDC_EXPRESSION, "sin(A)")
-        .ExpectItems(IDC_EXPRESSION, {"t1=t2", "t3=t4"});
+    script.ExpectSelected(IDC_EXPRESSION, "sin(A)").ExpectItems(IDC_EXPRESSION, {"t1=t2", "t3=t4"});
     ShowAndCancel(script);
 }
 
@@ -294,9 +293,9 @@ TEST_F(ArithmeticOpening, ReadOnlyShowsTheRecordAndReadsNoStore) {
         .ExpectText(IDC_RANGE_TO, "6000")
         .ExpectText(IDCANCEL, "Close")
         .ExpectVisible(IDOK, false);
-    for (const int id : {IDC_EXPRESSION, IDC_OPERATOR, IDC_FUNCTION, IDC_CONSTANT, IDC_ASSIGN,
-                         IDC_EXPRESSION_UNDO, IDC_EXPRESSION_CLEAR, IDC_RANGE_FROM, IDC_RANGE_ALL,
-                         IDC_SELECT_ALL, IDC_GROUP})
+    for (const int id :
+         {IDC_EXPRESSION, IDC_OPERATOR, IDC_FUNCTION, IDC_CONSTANT, IDC_ASSIGN, IDC_EXPRESSION_UNDO,
+          IDC_EXPRESSION_CLEAR, IDC_RANGE_FROM, IDC_RANGE_ALL, IDC_SELECT_ALL, IDC_GROUP})
         script.ExpectEnabled(id, false);
     script.ExpectEnabled(IDC_SET_LIST, true);
     ShowAndCancel(script);

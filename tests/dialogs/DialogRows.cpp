@@ -77,8 +77,7 @@ DialogRow ArithmeticRow(const char* szName, std::uint32_t eKind, bool bNewColumn
                          if ((o.source.kind == 0) != (eKind == 0)) o.source.Kind(eKind);
                          o.params.bNewColumnArithmetic = bNewColumn;
                          return ZXADLG_ShowArithmeticDialog(
-                             nullptr,
-                             reinterpret_cast<ZXADLG_ArithmeticOptions*>(o.options.data()),
+                             nullptr, reinterpret_cast<ZXADLG_ArithmeticOptions*>(o.options.data()),
                              &o.data, &o.source, &o.params, 0);
                      }};
     row.szTitle = "Arithmetic";

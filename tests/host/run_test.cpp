@@ -68,9 +68,9 @@ TEST_F(HostRun, OpensTheThreeFormsOfArithmetic) {
                 {"new-column", "sheet", "A+B", "szExpression: \"\" -> \"NEWCOL=A+B\""}};
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.analysis) + " on " + row.recording);
-        const std::string steps = WriteFile(
-            "steps.txt", "expect title \"Arithmetic\"\ntype 2527 \"" + std::string(row.typed) +
-                             "\"\nok\n");
+        const std::string steps =
+            WriteFile("steps.txt", "expect title \"Arithmetic\"\ntype 2527 \"" +
+                                       std::string(row.typed) + "\"\nok\n");
         ASSERT_EQ(Run({"run", row.analysis, "--recording", row.recording, "--script", steps,
                        "--store", Store()}),
                   zxhost::kDone)
@@ -78,6 +78,25 @@ TEST_F(HostRun, OpensTheThreeFormsOfArithmetic) {
         EXPECT_TRUE(OutHas("result: 1 (OK)\n")) << out;
         EXPECT_NE(out.find(row.stored), std::string::npos) << out;
     }
+}
+
+TEST_F(HostRun, BuildsAnExpressionAsItsExampleSays) {
+    ASSERT_EQ(Run({"run", "arithmetic", "--script",
+                   std::string(kSource) + "/host/examples/arithmetic.script", "--store", Store()}),
+              zxhost::kDone)
+        << err;
+    EXPECT_TRUE(OutHas("result: 1 (OK)\n"));
+    EXPECT_NE(ReadFile(Store()).find("TraceExpression0=t1 = sin(t2)*_pi"), std::string::npos);
+}
+
+TEST_F(HostRun, AMenuIsPickedFromWhereItIsOpenAndHasTheItem) {
+    EXPECT_NE(Run({"run", "arithmetic", "--script",
+                   WriteFile("steps.txt", "click 2445\npick \"cosh()\"\n"), "--store",
+                   Store()}),
+              zxhost::kDone);
+    EXPECT_NE(err.find("the menu has no item \"cosh()\"; there are \"arcos()\", \"arsin()\""),
+              std::string::npos)
+        << err;
 }
 
 TEST_F(HostRun, FindsTheSettingsOfTheLastRun) {

@@ -95,8 +95,7 @@ TEST_F(PopupMenu, ShowsItsItemsInAWindowOfItsOwn) {
     script.WaitUntil(IsOpen())
         .Do([&] {
             const HWND menu = OpenMenuWindow();
-            EXPECT_EQ(m_menu,
-                      reinterpret_cast<HMENU>(SendMessageA(menu, MN_GETHMENU, 0, 0)));
+            EXPECT_EQ(m_menu, reinterpret_cast<HMENU>(SendMessageA(menu, MN_GETHMENU, 0, 0)));
             EXPECT_EQ((std::vector<std::string>{"&Add", "&Never", "", "&Take", "Plain"}),
                       MenuItems(menu));
             EXPECT_NE(menu, GetActiveWindow());
@@ -294,8 +293,7 @@ TEST_F(PopupMenu, AtTheScreensEdgeItStandsAboveWhatItMustNotCover) {
     params.rcExclude = {100, bottom - 40, 200, bottom - 10};
     RECT menu = {};
     DialogScript script;
-    script
-        .Do([&] { PostMessageA(m_window, WM_APP, 0, 0); })
+    script.Do([&] { PostMessageA(m_window, WM_APP, 0, 0); })
         .WaitUntil(IsOpen())
         .Do([&] { GetWindowRect(OpenMenuWindow(), &menu); })
         .Press(VK_ESCAPE)

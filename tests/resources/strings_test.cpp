@@ -41,7 +41,9 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2203, "You must provide the sampling frequency."},
         {2205, "The first point of the data range must be smaller than the last."},
         {2206, "An error was encountered during dialog initialization."},
-        {2208, "The maximum length of the expression is %d characters.\nThe current expression contains %d characters."},
+        {2208,
+         "The maximum length of the expression is %d characters.\nThe current expression contains "
+         "%d characters."},
         {2216, "The expression cannot contain an \"=\" sign."},
         {2219, "Only one independent variable can be assigned."},
         {2227, "No data have been selected. At least one data set must be specified."},

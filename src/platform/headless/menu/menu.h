@@ -16,9 +16,7 @@ struct MenuItem {
     RECT rect{};  // in its window, once the menu has been open
 
     bool IsSeparator() const { return (flags & MF_SEPARATOR) != 0; }
-    bool CanBeChosen() const {
-        return !IsSeparator() && (flags & (MF_GRAYED | MF_DISABLED)) == 0;
-    }
+    bool CanBeChosen() const { return !IsSeparator() && (flags & (MF_GRAYED | MF_DISABLED)) == 0; }
 };
 
 struct Menu {

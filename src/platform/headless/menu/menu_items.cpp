@@ -110,7 +110,7 @@ BOOL GetMenuItemRect(HWND hwnd, HMENU handle, UINT position, RECT* rect) {
     if (item == nullptr || rect == nullptr) return FALSE;
     *rect = item->rect;
     // Of no window: that of the open menu.
-    MapWindowPoints(hwnd != nullptr ? hwnd : menu->window, nullptr,
-                    reinterpret_cast<POINT*>(rect), 2);
+    MapWindowPoints(hwnd != nullptr ? hwnd : menu->window, nullptr, reinterpret_cast<POINT*>(rect),
+                    2);
     return TRUE;
 }
