@@ -86,6 +86,12 @@ template <>
 constexpr ZXADLG_HistogramOptions kDefaults<ZXADLG_HistogramOptions> = {
     .fBinWidth = 1.0f, .nBinsPerDecade = 10, .bBinAllData = 1};
 template <>
+constexpr ZXADLG_ArithmeticOptions kDefaults<ZXADLG_ArithmeticOptions> = {
+    .szSelectionList = "0",
+    .eDataSet1SelectionMode = 3,
+    .uLastDataIndex = 9,
+    .bUseFullDataRange = 1};
+template <>
 constexpr ZXADLG_SubtractControlOptions kDefaults<ZXADLG_SubtractControlOptions> = {.dMultiplier =
                                                                                         1.0};
 
@@ -108,6 +114,21 @@ std::int32_t WithFiles(const DialogCall& call) {
                  call.params);
 }
 
+// Over a data file traces, over a sheet its columns.
+template <class Record, auto kShow>
+std::int32_t Expression(const DialogCall& call) {
+    return kShow(call.owner, static_cast<Record*>(call.options), call.data, call.source,
+                 call.params, 0);
+}
+
+template <class Record, auto kShow>
+std::int32_t NewColumn(const DialogCall& call) {
+    ZXADLG_DlgParams params = *call.params;
+    params.bNewColumnArithmetic = 1;
+    return kShow(call.owner, static_cast<Record*>(call.options), call.data, call.source, &params,
+                 0);
+}
+
 #define ZX_ROW(name, title, record, form, show) \
     { name, title, #record, sizeof(record), &kDefaults<record>, &form<record, &show> }
 
@@ -127,6 +148,10 @@ const Analysis kRows[] = {
     ZX_ROW("histogram", "Histogram", ZXADLG_HistogramOptions, Usual, ZXADLG_ShowHistogramDialog),
     ZX_ROW("correlation", "Correlation", ZXADLG_CorrelationOptions, Usual,
            ZXADLG_ShowCorrelationDialog),
+    ZX_ROW("arithmetic", "Arithmetic", ZXADLG_ArithmeticOptions, Expression,
+           ZXADLG_ShowArithmeticDialog),
+    ZX_ROW("new-column", "Arithmetic for a New Column", ZXADLG_ArithmeticOptions, NewColumn,
+           ZXADLG_ShowArithmeticDialog),
     ZX_ROW("resistance", "Resistance", ZXADLG_ResistanceOptions, Usual,
            ZXADLG_ShowResistanceDialog),
     ZX_ROW("sampling-rate", "Data Reduction/Interpolation", ZXADLG_ModifySampleRateOptions,

@@ -26,6 +26,7 @@ constexpr VerbRow kVerbs[] = {
     {"tab", Verb::kTab, "T", "tab NAME"},
     {"click", Verb::kClick, "C", "click CONTROL"},
     {"choose", Verb::kChoose, "CTM", "choose CONTROL ITEM [+shift|+control]"},
+    {"pick", Verb::kPick, "T", "pick ITEM"},
     {"type", Verb::kType, "CT", "type CONTROL TEXT"},
     {"press", Verb::kPress, "K", "press KEY"},
     {"focus", Verb::kFocus, "C", "focus CONTROL"},

@@ -10,6 +10,7 @@ enum class Verb {
     kTab,
     kClick,
     kChoose,
+    kPick,
     kType,
     kPress,
     kFocus,

@@ -185,6 +185,8 @@ ScriptPlayer::State ScriptPlayer::RunOnDialog(const Step& step, HWND dialog) {
         case Verb::kChoose:
             if (HWND control = ControlOf(step, dialog, true)) ChooseItem(step, control);
             return State::kDone;
+        case Verb::kPick:
+            return PickFromMenu(step);
         case Verb::kType:
             if (HWND control = ControlOf(step, dialog, true)) Type(step, dialog, control);
             return State::kDone;
@@ -352,6 +354,35 @@ void ScriptPlayer::ChooseItem(const Step& step, HWND control) {
         SendMessageA(list, LB_GETITEMRECT, at, reinterpret_cast<LPARAM>(&rect));
     }
     PostClick(list, {rect.left + 2, (rect.top + rect.bottom) / 2}, step.held);
+}
+
+// With the keys, which pass separators by.
+ScriptPlayer::State ScriptPlayer::PickFromMenu(const Step& step) {
+    HWND menu = OpenMenu();
+    if (!menu) {
+        if (!StepIsLate()) return State::kWait;
+        Fail("no menu is open");
+        return State::kDone;
+    }
+    const std::vector<std::string> items = MenuItems(menu);
+    const int position = NumberOf(step.argument) - 1;
+    std::size_t item = 0;
+    while (item < items.size() && static_cast<int>(item) != position &&
+           items[item] != step.argument.text)
+        ++item;
+    if (item == items.size()) {
+        std::string all;
+        for (const std::string& each : items) all += (all.empty() ? "" : ", ") + Quote(each);
+        Fail("the menu has no item " + Describe(step.argument) + "; there are " + all);
+        return State::kDone;
+    }
+    const auto press = [menu](WPARAM key) { PostMessageA(menu, WM_KEYDOWN, key, 1); };
+    press(VK_HOME);
+    for (std::size_t i = 0; i < item; ++i) {
+        if (!items[i].empty()) press(VK_DOWN);
+    }
+    press(VK_RETURN);
+    return State::kDone;
 }
 
 void ScriptPlayer::Type(const Step& step, HWND dialog, HWND control) {

@@ -52,6 +52,7 @@ class ScriptPlayer {
     void ChooseTab(const Step& step, HWND dialog);
     void ChooseItem(const Step& step, HWND control);
     void Type(const Step& step, HWND dialog, HWND control);
+    State PickFromMenu(const Step& step);
     void Press(const Step& step, HWND dialog);
     void PostClick(HWND hwnd, POINT point, unsigned held);
     void HoldKeys(unsigned held);

@@ -193,6 +193,24 @@ std::vector<HWND> OpenDialogs() {
     return dialogs;
 }
 
+HWND OpenMenu() {
+    for (HWND hwnd : ThreadWindows()) {
+        if (ClassOf(hwnd) == "#32768" && IsWindowVisible(hwnd)) return hwnd;
+    }
+    return nullptr;
+}
+
+std::vector<std::string> MenuItems(HWND menuWindow) {
+    const auto menu = reinterpret_cast<HMENU>(SendMessageA(menuWindow, MN_GETHMENU, 0, 0));
+    std::vector<std::string> items;
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        char text[256] = {};
+        GetMenuStringA(menu, static_cast<UINT>(i), text, sizeof text, MF_BYPOSITION);
+        items.emplace_back(text);
+    }
+    return items;
+}
+
 Message ReadMessage(HWND dialog) {
     Message message;
     message.title = TextOf(dialog);

@@ -26,6 +26,9 @@ std::string ChosenItem(HWND control);
 // The dialog that takes the user's input now; null for none.
 HWND ActiveDialog();
 std::vector<HWND> OpenDialogs();
+// The popup menu that is open, or null, and its items; separators are empty.
+HWND OpenMenu();
+std::vector<std::string> MenuItems(HWND menuWindow);
 
 struct Message {
     std::string title;

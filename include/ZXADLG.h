@@ -16,6 +16,7 @@
 #include <stdint.h>
 
 #include "zxadlg/AdjustBaselineOptions.h"
+#include "zxadlg/ArithmeticOptions.h"
 #include "zxadlg/CorrelationOptions.h"
 #include "zxadlg/CurrentVoltageOptions.h"
 #include "zxadlg/DataOptions.h"
@@ -317,6 +318,17 @@ int32_t ZXADLG_CALL ZXADLG_ShowHistogramDialog(HWND__* parent, ZXADLG_HistogramO
                                                ZXADLG_DataOptions* data,
                                                ZXADLG_CDlgDataSource* source,
                                                const ZXADLG_DlgParams* params);
+
+// Arithmetic: an expression over the traces of a data file, over the columns of a sheet, or for one
+// new column (bNewColumnArithmetic, no effect on data files). The library does not compute it. On
+// OK szExpression holds the expression, cut to its field: one without a left side comes back as
+// "NEWCOL=..." and, as "y=...", in szDisplayExpression, which is empty for all others. The data
+// record starts at its defaults whatever is stored; with bRemapColumns the expression is applied to
+// the columns of its szDepVarSelectionList. The last argument is accepted and has no effect.
+int32_t ZXADLG_CALL ZXADLG_ShowArithmeticDialog(HWND__* parent, ZXADLG_ArithmeticOptions* options,
+                                                ZXADLG_DataOptions* data,
+                                                ZXADLG_CDlgDataSource* source,
+                                                const ZXADLG_DlgParams* params, int32_t reserved);
 
 // The fields of a record by the name of its type ("ZXADLG_NormalizeOptions"), in the order of the
 // record. Stores a pointer to the first and returns their number; 0, and a null pointer, for a name

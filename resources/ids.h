@@ -1,8 +1,9 @@
-// The library's resource ids: dialog templates, controls and strings, each a numbering of its own. Plain
-// macros, since the resource compilers read them too.
+// The library's resource ids: dialog templates, controls and strings, each a numbering of its own.
+// Plain macros, since the resource compilers read them too.
 #pragma once
 
-// --- Dialog templates -----------------------------------------------------------------------------
+// --- Dialog templates
+// -----------------------------------------------------------------------------
 #define IDD_FORCE_VALUES 2108
 #define IDD_FORCE_VALUES_OPTIONS 2109
 #define IDD_LEAK_SUBTRACTION 2113
@@ -21,17 +22,20 @@
 #define IDD_ADJUST_BASELINE 2386
 #define IDD_ADJUST_BASELINE_OPTIONS 2387
 
-// --- Controls of every tabbed dialog --------------------------------------------------------------
+// --- Controls of every tabbed dialog
+// --------------------------------------------------------------
 #define IDC_TABS 2017
 
-// --- Controls of an options tab -------------------------------------------------------------------
+// --- Controls of an options tab
+// -------------------------------------------------------------------
 #define IDC_DESTINATION_GROUP 2526
 #define IDC_DESTINATION_APPEND 2246
 #define IDC_DESTINATION_REPLACE 2248
 #define IDC_DYNAMIC_LINK 2413
 #define IDC_WRITE_REGION_INFO 2503
 
-// --- Controls of the data tabs --------------------------------------------------------------------
+// --- Controls of the data tabs
+// --------------------------------------------------------------------
 #define IDC_GROUP_LABEL 2187
 #define IDC_GROUP 2189
 #define IDC_REGION_LABEL 2188
@@ -57,7 +61,8 @@
 #define IDC_DATA_SET_2 2346
 #define IDC_FORCE_TO_ZERO 2441
 
-// --- Controls of the paired data tab --------------------------------------------------------------
+// --- Controls of the paired data tab
+// --------------------------------------------------------------
 #define IDC_VARIABLE_FIRST 2143
 #define IDC_VARIABLE_LAST 2148
 #define IDC_DEPENDENT 2149
@@ -76,7 +81,8 @@
 #define IDC_RANGE_TO_LABEL 2195
 #define IDC_RANGE_TO 2196
 
-// --- Normalize ------------------------------------------------------------------------------------
+// --- Normalize
+// ------------------------------------------------------------------------------------
 #define IDC_NORMALIZE_REGIONS 2362
 #define IDC_NORMALIZE_ALL_POINTS 2363
 #define IDC_NORMALIZE_BASELINE 2364
@@ -86,7 +92,8 @@
 #define IDC_NORMALIZE_BASELINE_COUNT 2368
 #define IDC_NORMALIZE_PEAK_COUNT 2369
 
-// --- Time Shift -----------------------------------------------------------------------------------
+// --- Time Shift
+// -----------------------------------------------------------------------------------
 #define IDC_SHIFT_INTERVAL 2392
 #define IDC_SHIFT_ALIGN_PEAKS 2393
 #define IDC_SHIFT_DIRECTION 2394
@@ -109,7 +116,8 @@
 #define IDC_SHIFT_NEGATIVE 2411
 #define IDC_SHIFT_ABSOLUTE 2412
 
-// --- Force Values ---------------------------------------------------------------------------------
+// --- Force Values
+// ---------------------------------------------------------------------------------
 #define IDC_FORCE_REGION 2385
 #define IDC_FORCE_VALUE 2386
 #define IDC_FORCE_CURSOR_VALUE 2387
@@ -118,7 +126,8 @@
 #define IDC_FORCE_LINE 2390
 #define IDC_FORCE_FIXED_VALUE 2391
 
-// --- Adjust Baseline ------------------------------------------------------------------------------
+// --- Adjust Baseline
+// ------------------------------------------------------------------------------
 #define IDC_BASELINE_REGION 2536
 #define IDC_BASELINE_VALUE 2537
 #define IDC_BASELINE_MEAN 2538
@@ -127,13 +136,15 @@
 #define IDC_BASELINE_BY_HAND 2541
 #define IDC_BASELINE_METHOD 2542
 
-// --- Leak Subtraction and Resistance --------------------------------------------------------------
+// --- Leak Subtraction and Resistance
+// --------------------------------------------------------------
 #define IDC_CONVERSION_FACTOR 2359
 #define IDC_WAVEFORM 2360
 #define IDC_EXPERIMENT_TYPE 2361
 #define IDC_PASSIVE_RESISTANCE 2384
 
-// --- Subtract Control -----------------------------------------------------------------------------
+// --- Subtract Control
+// -----------------------------------------------------------------------------
 #define IDD_SUBTRACT_CONTROL 2388
 #define IDC_SUBTRACT_SELECT_ALL 2454
 #define IDC_SUBTRACT_SELECT_FILE 2550
@@ -144,7 +155,8 @@
 #define IDC_SUBTRACT_GROUP 2557
 #define IDC_SUBTRACT_FIRST_ONLY 2558
 
-// --- Data Reduction/Interpolation -----------------------------------------------------------------
+// --- Data Reduction/Interpolation
+// -----------------------------------------------------------------
 #define IDD_MODIFY_SAMPLE_RATE 2118
 #define IDC_RATE_REDUCE_LABEL 2370
 #define IDC_RATE_INTERPOLATE_LABEL 2371
@@ -161,7 +173,8 @@
 #define IDC_RATE_STRAIGHT 2382
 #define IDC_RATE_SPLINE 2383
 
-// --- Current/Voltage and Trace vs. Trace ----------------------------------------------------------
+// --- Current/Voltage and Trace vs. Trace
+// ----------------------------------------------------------
 #define IDD_CURRENT_VOLTAGE 2101
 #define IDD_TRACE_VS_TRACE 2130
 #define IDC_AXES_X_GROUP 2414
@@ -197,7 +210,8 @@
 #define IDC_TVT_Y_FROM_WAVEFORM 2438
 #define IDC_TVT_Y_FROM_GROUP 2439
 
-// --- Strings --------------------------------------------------------------------------------------
+// --- Strings
+// --------------------------------------------------------------------------------------
 #define IDS_CONSTANT 2153
 #define IDS_CONVERSION_FACTOR_FIRST 2155
 #define IDS_CURRENT_CLAMP 2163

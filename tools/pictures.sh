@@ -43,7 +43,7 @@ shoot() {  # ANALYSIS NAME STEP...
     shift 2
     printf '%s\n' "$@" "wait 4000" cancel >"$work/steps"
     # shellcheck disable=SC2086  # the arguments are words
-    (cd build/win32/bin && wine explorer /desktop="zx$name,1024x768" zxhost.exe ${ZX_PICTURE_ARGUMENTS:-} run "$analysis" \
+    (cd build/win32/bin && wine explorer /desktop="zx$name,1024x768" zxhost.exe ${ZX_PICTURE_ARGUMENTS:-} $recording run "$analysis" \
         --script "Z:${work//\//\\}\\steps" --store "Z:${work//\//\\}\\store") >"$work/log" 2>&1 &
     local run=$!
     local tries
@@ -62,11 +62,15 @@ shoot() {  # ANALYSIS NAME STEP...
     wait "$run"
 }
 
-while read -r analysis pages; do
+# An analysis, and behind a colon the recording that it is shown over where that is not the usual one.
+while read -r spec pages; do
+    analysis=${spec%%:*}
+    recording=
+    [ "$spec" = "$analysis" ] || recording="--recording ${spec#*:}"
     [ $# -eq 0 ] || [[ " $* " == *" $analysis "* ]] || continue
     for page in $pages; do
         case $page in
-            -) shoot "$analysis" "$analysis" ;;
+            -) shoot "$analysis" "${spec/:/-}" ;;
             *) shoot "$analysis" "$analysis-$(echo "$page" | tr 'A-Z_' 'a-z-')" "tab \"${page//_/ }\"" ;;
         esac
     done
@@ -86,4 +90,7 @@ filter Options Data
 power-spectrum Options Data
 correlation Options Data
 histogram Options Data
+arithmetic -
+arithmetic:sheet -
+new-column:sheet -
 END

@@ -22,6 +22,11 @@ void CSinglePage::OnOK() {
     if (PassChecks() && PrepareOK()) CCheckedDialog::OnOK();
 }
 
+void CSinglePage::EndDialogWith(INT_PTR nResult) {
+    if (nResult == IDOK && !IsReadOnly()) OnAccepted();
+    CCheckedDialog::EndDialogWith(nResult);
+}
+
 // --- With the shared options and a model of the data -------------------------------------------
 
 CUntabbedDialogBase::CUntabbedDialogBase(HWND hwndParent, UINT uTemplateId,

@@ -26,6 +26,9 @@ class CSinglePage : public CCheckedDialog<ADM_Dialog> {
   protected:
     // What has to be done between the checks and the validation. False keeps the dialog open.
     virtual bool PrepareOK() { return true; }
+    // What the page writes when everything has passed, before it ends. Not in read-only mode.
+    virtual void OnAccepted() {}
+    void EndDialogWith(INT_PTR nResult) override;
 };
 
 class CUntabbedDialogBase : public CSinglePage {

@@ -63,11 +63,11 @@ void SaveHistoryLine(const char* pszProfile, const char* szSection, const char* 
                 pszProfile);
 }
 
-// The selection of a dialog that never remembers one.
-void ResetDataOptions(ZXADLG_DataOptions* pData) {
+// The selection of a dialog that never remembers one. bKeepDependent: the host says which columns
+// an expression is to be applied to.
+void ResetDataOptions(ZXADLG_DataOptions* pData, bool bKeepDependent) {
     // The second list is left alone, deliberately unlike the first.
     CopyText(pData->szUnitarySelectionList1, "0");
-    CopyText(pData->szDepVarSelectionList, "0");
     pData->eDataGroup1SelectionMode = 1;
     pData->eDataGroup2SelectionMode = 1;
     pData->eDataSet1SelectionMode = 4;
@@ -75,10 +75,12 @@ void ResetDataOptions(ZXADLG_DataOptions* pData) {
     pData->uGroup1Index = 0;
     pData->uGroup2Index = 0;
     pData->uPairedGroupIndex = 0;
-    pData->uIndepVarDataSetIndex = 0;
-    pData->uDepVarDataSetIndex = 0;
     pData->uSelectedDataSet = 0;
     pData->bUseFullDataRange = 1;
+    if (bKeepDependent) return;
+    CopyText(pData->szDepVarSelectionList, "0");
+    pData->uIndepVarDataSetIndex = 0;
+    pData->uDepVarDataSetIndex = 0;
 }
 
 }  // namespace
@@ -135,11 +137,13 @@ const char* FormatDataSectionName(const char* pszAnalysis) {
 
 void LoadDataOptions(const char* pszProfile, ZXADLG_DataOptions* pData,
                      const ZXADLG_DlgParams* pParams, int eMode, const char* pszAnalysis) {
-    if (pszProfile == nullptr) return;
+    // A reset reads no store and needs none.
     if (eMode == kDataOptionsReset) {
-        ResetDataOptions(pData);
+        ResetDataOptions(pData, pParams != nullptr && (pParams->bRemapColumns != 0 ||
+                                                       pParams->bNoDependentList != 0));
         return;
     }
+    if (pszProfile == nullptr) return;
     LoadSection(pszProfile, kDataSection, pData, FormatDataSectionName(pszAnalysis),
                 pParams != nullptr && pParams->bNoDependentList != 0);
 }

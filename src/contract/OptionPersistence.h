@@ -75,8 +75,8 @@ bool LoadColumnDescription(const char* pszProfile, int n, char* szDescription, c
                            int nSize);
 void SaveColumnDescription(const char* pszProfile, int n, const char* szText);
 
-// How the data record is moved: as it stands, or back to its reset state on load (and not at all on
-// save).
+// How the data record is moved: as it stands, or back to its reset state on load (also with no
+// store; and not at all on save).
 enum DataOptionsMode { kDataOptionsNormal = 0, kDataOptionsReset = 1 };
 
 // pszAnalysis is the first part of the section's name, "Filter" for FilterDataSection; null is

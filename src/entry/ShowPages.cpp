@@ -2,6 +2,7 @@
 // that it runs.
 
 #include "ZXADLG.h"
+#include "arithmetic/CArithmeticDialog.h"
 #include "entry/ShowSequence.h"
 #include "platform/platform.h"
 #include "traceops/CurrentVoltageDialog.h"
@@ -19,6 +20,14 @@ constexpr ShowRow<ZXADLG_SubtractControlOptions> kSubtractControl = {
     nullptr, DataRecord::kNone, kDataOptionsNormal, &LoadSubtractControlOptions,
     &SaveSubtractControlOptions};
 
+// The stored selection never survives: the data record starts at its defaults and is not stored.
+// Columns keep nothing but their histories.
+constexpr ShowRow<ZXADLG_ArithmeticOptions> kTraceArithmetic = {
+    nullptr, DataRecord::kCopied, kDataOptionsReset, &LoadTraceArithmeticOptions,
+    &SaveTraceArithmeticOptions};
+constexpr ShowRow<ZXADLG_ArithmeticOptions> kColumnArithmetic = {
+    nullptr, DataRecord::kCopied, kDataOptionsReset, nullptr, nullptr};
+
 // Required: the dialog writes the host's own data record, also on Cancel.
 constexpr ShowRow<ZXADLG_CurrentVoltageOptions> kCurrentVoltage = {
     nullptr, DataRecord::kPassedThrough, kDataOptionsNormal, &LoadCurrentVoltageOptions,
@@ -28,6 +37,18 @@ constexpr ShowRow<ZXADLG_TraceVsTraceOptions> kTraceVsTrace = {
     &SaveTraceVsTraceOptions};
 
 }  // namespace
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowArithmeticDialog(
+    HWND parent, ZXADLG_ArithmeticOptions* options, ZXADLG_DataOptions* data,
+    ZXADLG_CDlgDataSource* source, const ZXADLG_DlgParams* params, int32_t) {
+    const bool bTraces = source != nullptr && source->GetDataKind() == 0;
+    return RunShowSequence(bTraces ? kTraceArithmetic : kColumnArithmetic, options, data, source,
+                           params,
+                           [&](ZXADLG_ArithmeticOptions* pOptions, ZXADLG_DataOptions* pData) {
+                               CArithmeticDialog dialog(parent, pOptions, pData, source, params);
+                               return RunAtItsPlace(dialog);
+                           });
+}
 
 extern "C" int32_t ZXADLG_CALL
 ZXADLG_ShowModifySamplingRateDialog(HWND parent, ZXADLG_ModifySampleRateOptions* options,

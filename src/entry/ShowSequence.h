@@ -26,6 +26,7 @@ struct ShowRow {
     DataRecord eData;
     // Reset: whatever is stored, the selection starts at its defaults.
     DataOptionsMode eDataLoad;
+    // The options' keys; null: they have none.
     void (*pLoad)(const char* pszProfile, Record* pRecord);
     bool (*pSave)(const char* pszProfile, const Record* pRecord);
     // Changes the working copies before the dialog is built; null: nothing.
@@ -69,7 +70,7 @@ int RunShowSequence(const ShowRow<Record>& row, Record* pOptions, ZXADLG_DataOpt
         ZXADLG_DataOptions* pWorkingData = row.eData == DataRecord::kPassedThrough ? pData : &data;
 
         if (bUsesStore) {
-            row.pLoad(pSource->GetProfileName(), &options);
+            if (row.pLoad != nullptr) row.pLoad(pSource->GetProfileName(), &options);
             const bool bLoadsData = row.szAnalysis != nullptr || row.eDataLoad == kDataOptionsReset;
             if (bUsesData && bLoadsData) {
                 LoadDataOptions(pSource->GetProfileName(), &data, pParams, row.eDataLoad,
@@ -88,7 +89,7 @@ int RunShowSequence(const ShowRow<Record>& row, Record* pOptions, ZXADLG_DataOpt
         }
         if (bUsesData) *pData = data;
         if (bUsesStore) {
-            row.pSave(pSource->GetProfileName(), &options);
+            if (row.pSave != nullptr) row.pSave(pSource->GetProfileName(), &options);
             const bool bStoresData = row.pStoresData == nullptr || row.pStoresData(options);
             if (bUsesData && row.szAnalysis != nullptr && bStoresData) {
                 SaveDataOptions(pSource->GetProfileName(), &data, row.eDataLoad, row.szAnalysis);

@@ -12,12 +12,14 @@ int g_nClassUses = 0;
 }  // namespace
 
 ADM_PictureWnd::~ADM_PictureWnd() {
+    LeaveWindow();
+}
+
+void ADM_PictureWnd::LeaveWindow() {
     if (m_hWnd == nullptr || GetWindowLongPtrA(m_hWnd, 0) != reinterpret_cast<LONG_PTR>(this))
         return;
-    // The virtual operations of a subclass are gone: the window goes on without an object.
     SetWindowLongPtrA(m_hWnd, 0, 0);
-    ADM_PictureWnd::UnregisterClass(
-        reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(m_hWnd, GWLP_HINSTANCE)));
+    UnregisterClass(reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(m_hWnd, GWLP_HINSTANCE)));
 }
 
 LPCSTR ADM_PictureWnd::GetClassName() const {
@@ -25,22 +27,30 @@ LPCSTR ADM_PictureWnd::GetClassName() const {
 }
 
 BOOL ADM_PictureWnd::RegisterClass(HINSTANCE hInstance) {
-    if (g_nClassUses++ > 0) return 1;
+    return AddClassUse(hInstance, kClassName, g_nClassUses);
+}
+
+void ADM_PictureWnd::UnregisterClass(HINSTANCE hInstance) {
+    DropClassUse(hInstance, kClassName, g_nClassUses);
+}
+
+BOOL ADM_PictureWnd::AddClassUse(HINSTANCE hInstance, LPCSTR szName, int& nUses) {
+    if (nUses++ > 0) return 1;
     // A class left by an earlier life of this module would call code that is gone.
-    ::UnregisterClassA(kClassName, hInstance);
+    ::UnregisterClassA(szName, hInstance);
     WNDCLASSA wc = {};
     wc.style = CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS;
     wc.lpfnWndProc = WindowProc;
     wc.cbWndExtra = sizeof(LONG_PTR);
     wc.hInstance = hInstance;
     wc.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    wc.lpszClassName = kClassName;
+    wc.lpszClassName = szName;
     // It is there already when its last window is still on its way out.
     return ::RegisterClassA(&wc) != 0 || GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
 }
 
-void ADM_PictureWnd::UnregisterClass(HINSTANCE hInstance) {
-    if (g_nClassUses > 0 && --g_nClassUses == 0) ::UnregisterClassA(kClassName, hInstance);
+void ADM_PictureWnd::DropClassUse(HINSTANCE hInstance, LPCSTR szName, int& nUses) {
+    if (nUses > 0 && --nUses == 0) ::UnregisterClassA(szName, hInstance);
 }
 
 BOOL ADM_PictureWnd::Create(HINSTANCE hInstance, LPCSTR szText, DWORD dwStyle, DWORD dwExStyle,

@@ -40,6 +40,12 @@ class ADM_PictureWnd : public ADM_Wnd {
     // The window that the message being handled is for: also one that is being created, or that the
     // object isn't bound to any more.
     HWND GetOwnWindow() const;
+    // What RegisterClass and UnregisterClass do for a class of this name, whose uses nUses counts.
+    static BOOL AddClassUse(HINSTANCE hInstance, LPCSTR szName, int& nUses);
+    static void DropClassUse(HINSTANCE hInstance, LPCSTR szName, int& nUses);
+    // Leaves the window without an object. The destructor of a subclass with a class of its own
+    // calls it: in the base's the virtual operations are gone.
+    void LeaveWindow();
 
     RECT m_rcClient = {};
     HFONT m_hFont = nullptr;

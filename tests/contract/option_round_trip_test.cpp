@@ -302,8 +302,37 @@ TEST(OptionStore, ANullNameDoesNothing) {
     EXPECT_EQ(options.bUseAllPoints, 1);
     auto pData = std::make_unique<ZXADLG_DataOptions>();
     pData->uGroup1Index = 4;
-    LoadDataOptions(nullptr, pData.get(), nullptr, kDataOptionsReset, "Filter");
+    LoadDataOptions(nullptr, pData.get(), nullptr, kDataOptionsNormal, "Filter");
     EXPECT_EQ(pData->uGroup1Index, 4u);
+}
+
+TEST(DataRecordLoad, AResetNeedsNoStore) {
+    auto pData = std::make_unique<ZXADLG_DataOptions>();
+    pData->uGroup1Index = 4;
+    pData->uDepVarDataSetIndex = 3;
+    LoadDataOptions(nullptr, pData.get(), nullptr, kDataOptionsReset, nullptr);
+    EXPECT_EQ(pData->uGroup1Index, 0u);
+    EXPECT_EQ(pData->uDepVarDataSetIndex, 0u);
+    EXPECT_STREQ(pData->szDepVarSelectionList, "0");
+}
+
+// The host says which columns an expression is to be applied to.
+TEST(DataRecordLoad, AResetLeavesTheDependentColumnsOfTheHost) {
+    for (std::uint8_t ZXADLG_DlgParams::*pFlag :
+         {&ZXADLG_DlgParams::bRemapColumns, &ZXADLG_DlgParams::bNoDependentList}) {
+        ZXADLG_DlgParams params = {};
+        params.*pFlag = 1;
+        auto pData = std::make_unique<ZXADLG_DataOptions>();
+        std::strcpy(pData->szDepVarSelectionList, "2,3");
+        pData->uIndepVarDataSetIndex = 2;
+        pData->uDepVarDataSetIndex = 3;
+        pData->uGroup1Index = 4;
+        LoadDataOptions(nullptr, pData.get(), &params, kDataOptionsReset, nullptr);
+        EXPECT_STREQ(pData->szDepVarSelectionList, "2,3");
+        EXPECT_EQ(pData->uIndepVarDataSetIndex, 2u);
+        EXPECT_EQ(pData->uDepVarDataSetIndex, 3u);
+        EXPECT_EQ(pData->uGroup1Index, 0u);
+    }
 }
 
 TEST(OptionStore, OneThatCannotBeWrittenLosesNothingAndSaysNothing) {

@@ -82,6 +82,28 @@ DialogRow HistogramRow() {
     return row;
 }
 
+// A form of arithmetic, and a record whose expression OK accepts.
+DialogRow ArithmeticRow(const char* szName, std::uint32_t eKind, bool bNewColumn) {
+    DialogRow row = {szName, sizeof(ZXADLG_ArithmeticOptions), false, false,
+                     [eKind, bNewColumn](Opening& o) {
+                         // The kind of data makes the form: columns take any data but a file.
+                         if ((o.source.kind == 0) != (eKind == 0)) o.source.Kind(eKind);
+                         o.params.bNewColumnArithmetic = bNewColumn;
+                         return ZXADLG_ShowArithmeticDialog(
+                             nullptr, reinterpret_cast<ZXADLG_ArithmeticOptions*>(o.options.data()),
+                             &o.data, &o.source, &o.params, 0);
+                     }};
+    row.szTitle = "Arithmetic";
+    row.prepare = [](std::vector<unsigned char>& options) {
+        auto* pOptions = reinterpret_cast<ZXADLG_ArithmeticOptions*>(options.data());
+        std::strcpy(pOptions->szExpression, "A=B+C");
+        std::strcpy(pOptions->szColumnTitle, "Sum");
+        std::strcpy(pOptions->szSelectionList, "0..2");
+        pOptions->bUseFullDataRange = 1;
+    };
+    return row;
+}
+
 }  // namespace
 
 Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
@@ -119,6 +141,9 @@ const std::vector<DialogRow>& Rows() {
         CorrelationRow(),
         Row("Current/Voltage", &ZXADLG_ShowCurrentVoltageDialog, true),
         Row("Trace vs. Trace", &ZXADLG_ShowTraceVsTraceDialog, true),
+        ArithmeticRow("Arithmetic", 0, false),
+        ArithmeticRow("Arithmetic of Columns", 2, false),
+        ArithmeticRow("Arithmetic of a New Column", 2, true),
         {"Data Reduction/Interpolation", sizeof(ZXADLG_ModifySampleRateOptions), false, false,
          [](Opening& o) {
              return ZXADLG_ShowModifySamplingRateDialog(

@@ -23,6 +23,8 @@ struct DialogRow {
     bool bWritesDataDirectly;  // the host's data record itself, also on Cancel
     bool bHasDataTab;
     std::function<int(Opening&)> show;
+    // Where it is not its name: the title of its window.
+    const char* szTitle = nullptr;
     // Makes a record of it that OK accepts; null: a record of zeros.
     void (*prepare)(std::vector<unsigned char>& options) = nullptr;
     // How the keys begin that follow the data at each opening; null: none do.
@@ -34,6 +36,7 @@ struct DialogRow {
     // of the dialog.
     std::set<std::string> keptBySecondWindow = {};
 
+    std::string Title() const { return szTitle != nullptr ? szTitle : szName; }
     int PageCount() const { return nOptionPages + (bHasDataTab ? 1 : 0); }
 };
 

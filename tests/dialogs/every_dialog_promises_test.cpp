@@ -112,7 +112,7 @@ TEST_P(EveryDialogPromises, ReadOnlyShowsTheRecordAndLetsNothingChange) {
     const Opening before = m_opening;
     std::size_t nControls = 0;
     DialogScript script;
-    script.ExpectTitle(std::string(GetParam().szName) + " (read only)")
+    script.ExpectTitle(GetParam().Title() + " (read only)")
         .ExpectVisible(IDOK, false)
         .ExpectText(IDCANCEL, "Close")
         .Do([&](HWND dialog) {

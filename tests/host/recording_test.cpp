@@ -189,6 +189,8 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
     constexpr std::size_t kFitUnseen = 2220 + (255 + 20 * 255 + 44) + 8 + 163;
     // Of signal processing: what is reserved, in the record and its four sections, and padding.
     constexpr std::size_t kSigprocUnseen = 8 + 3 * (3 + 28) + 54 + 4 + 16 + 4 + 4 + 4 + 2;
+    // Of arithmetic: what is reserved, padding, and what stands behind the end of its texts.
+    constexpr std::size_t kArithmeticUnseen = 1000 + 1 + 2 + 5 + 3;
     // A common block has two bytes of padding; texts show what stands before their end alone.
     const Row kRows[] = {{"normalize", 5},
                          {"time-shift", 2},
@@ -197,6 +199,8 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
                          {"power-spectrum", kSigprocUnseen},
                          {"correlation", 4 + 68 + 2},
                          {"histogram", 1 + 2 + 130 + 2},
+                         {"arithmetic", kArithmeticUnseen},
+                         {"new-column", kArithmeticUnseen},
                          {"force-values", 2},
                          {"adjust-baseline", 2},
                          {"leak-subtraction", 6},

@@ -76,6 +76,47 @@ TEST_F(HostRun, OpensTheHistogramOnItsOwnRecordings) {
     }
 }
 
+TEST_F(HostRun, OpensTheThreeFormsOfArithmetic) {
+    const struct {
+        const char* analysis;
+        const char* recording;
+        const char* typed;
+        const char* stored;
+    } rows[] = {{"arithmetic", "family", "t1=t2", "szExpression: \"\" -> \"t1=t2\""},
+                {"arithmetic", "sheet", "A=B", "szExpression: \"\" -> \"A=B\""},
+                {"new-column", "sheet", "A+B", "szExpression: \"\" -> \"NEWCOL=A+B\""}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.analysis) + " on " + row.recording);
+        const std::string steps =
+            WriteFile("steps.txt", "expect title \"Arithmetic\"\ntype 2527 \"" +
+                                       std::string(row.typed) + "\"\nok\n");
+        ASSERT_EQ(Run({"run", row.analysis, "--recording", row.recording, "--script", steps,
+                       "--store", Store()}),
+                  zxhost::kDone)
+            << err;
+        EXPECT_TRUE(OutHas("result: 1 (OK)\n")) << out;
+        EXPECT_NE(out.find(row.stored), std::string::npos) << out;
+    }
+}
+
+TEST_F(HostRun, BuildsAnExpressionAsItsExampleSays) {
+    ASSERT_EQ(Run({"run", "arithmetic", "--script",
+                   std::string(kSource) + "/host/examples/arithmetic.script", "--store", Store()}),
+              zxhost::kDone)
+        << err;
+    EXPECT_TRUE(OutHas("result: 1 (OK)\n"));
+    EXPECT_NE(ReadFile(Store()).find("TraceExpression0=t1 = sin(t2)*_pi"), std::string::npos);
+}
+
+TEST_F(HostRun, AMenuIsPickedFromWhereItIsOpenAndHasTheItem) {
+    EXPECT_NE(Run({"run", "arithmetic", "--script",
+                   WriteFile("steps.txt", "click 2445\npick \"cosh()\"\n"), "--store", Store()}),
+              zxhost::kDone);
+    EXPECT_NE(err.find("the menu has no item \"cosh()\"; there are \"arcos()\", \"arsin()\""),
+              std::string::npos)
+        << err;
+}
+
 TEST_F(HostRun, FindsTheSettingsOfTheLastRun) {
     ASSERT_EQ(Play("click \"Use specified regions\"\nchoose 2364 \"Cursors 3..4\"\nok\n"), 0)
         << err;

@@ -16,6 +16,15 @@ std::string Load(UINT id) {
 
 TEST(Strings, StandAsTheyAreGiven) {
     const std::pair<UINT, const char*> rows[] = {
+        {2136, "T{ALL}"},
+        {2137, "/ (divide)"},
+        {2138, "= (equals)"},
+        {2139, "+ (add)"},
+        {2140, "T{ACTIVE}"},
+        {2141, "* (multiply)"},
+        {2142, "^ (power)"},
+        {2143, "- (subtract)"},
+        {2144, "T{VISIBLE}"},
         {2153, "Constant"},
         {2155, "0.000001 (for pA and V)"},
         {2156, "0.001 (for pA and mV)"},
@@ -32,9 +41,13 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2203, "You must provide the sampling frequency."},
         {2205, "The first point of the data range must be smaller than the last."},
         {2206, "An error was encountered during dialog initialization."},
+        {2208,
+         "The maximum length of the expression is %d characters.\nThe current expression contains "
+         "%d characters."},
         {2210, "The minimum value of the data range\nmust be smaller then the maximum."},
         {2211, "The number of bins per decade must be greater than zero."},
         {2212, "The lower bin value must be greater than zero if log binning."},
+        {2216, "The expression cannot contain an \"=\" sign."},
         {2219, "Only one independent variable can be assigned."},
         {2227, "No data have been selected. At least one data set must be specified."},
         {2231,
@@ -72,6 +85,7 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2263, "Points range"},
         {2274, "&Fixed value (%0):"},
         {2280, "%0 to sear&ch:"},
+        {2287, "The start or end data index exceeds the number of available data."},
         {2304,
          "Some or all groups do not contain enough data sets.\nThe minimum number of data sets in "
          "each data "
@@ -103,14 +117,19 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2378, "None (Rectangular)"},
         {2379, "Von Hann"},
         {2384, "%s (read only)"},
+        {2385, "NEWCOL"},
+        {2386, "An arithmetic expression has not been specified."},
+        {2387, "Enter a column title for the output data."},
         {2388, "Data Range = Not available (text column or empty sheet)"},
         {2389, "Data Range = %0 to %1"},
         {2395, "Close"},
         {2400, "Could not establish data properties. Select a valid data set."},
         {2403, "No valid data have been selected. Columns are empty or contain only strings."},
+        {2410, "No data are available for processing."},
         {2411, "The bin width must be greater than zero."},
         {2701, "The data file does not tell its sampling interval."},
         {2702, "The list names a %s that the data do not have. They are numbered from 1 to %s."},
+        {2703, "Not available"},
     };
     for (const auto& [id, text] : rows) {
         SCOPED_TRACE(id);

@@ -80,6 +80,11 @@ class TemplateLint : public testing::Test {
             {{2125, 2344}, {"Select %ss:", "Select Set:"}},
             {{2132, 2345}, {"Select %s Set &1:", "Select Set &1:"}},
             {{2132, 2346}, {"Select %s Set &2:", "Select Set &2:"}},
+            {{2383, 2187}, {"Select %s:", "Select Group:"}},
+            {{2384, 2187}, {"Select %s:", "Select Group:"}},
+            {{2385, 2187}, {"Select %s:", "Select Group:"}},
+            {{2384, 2344}, {"Set:", "Column:"}},
+            {{2385, 2344}, {"Data set:", "Column:"}},
             {{2129, 2402}, {"%s to sear&ch:", "Data group to sear&ch:"}},
         };
         const auto found = formed.find({dialog, item.id});
@@ -301,6 +306,8 @@ constexpr Clash kClashes[] = {
     {2109, 'd', "\"Data value at cursor 1\" and \"Dynamically link graph\""},
     {2114, 'w', "\"Waveform:\" and \"Write analysis region information\""},
     {2124, 'w', "\"Waveform:\" and \"Write analysis region information\""},
+    {2384, 't', "\"Active %s\" and \"To:\""},
+    {2385, 't', "\"Active %s\" and \"To:\""},
     {2130, 'd', "\"Data Set:\" and \"Dynamically link graph\""},
 };
 
@@ -366,6 +373,8 @@ TEST_F(TemplateLint, WhatAChoiceOpensComesBehindIt) {
         {2131, 2252, 2189}, {2131, 2242, 2342}, {2131, 2241, 2237}, {2132, 2252, 2189},
         {2132, 2242, 2342}, {2132, 2241, 2237}, {2125, 2241, 2237}, {2125, 2242, 2342},
         {2101, 2425, 2414}, {2101, 2426, 2420}, {2101, 2429, 2410}, {2101, 2430, 2421},
+        {2383, 2252, 2189}, {2383, 2242, 2342}, {2383, 2241, 2237}, {2384, 2252, 2189},
+        {2384, 2242, 2342}, {2384, 2241, 2237}, {2385, 2252, 2189}, {2384, 2588, 2194},
     };
     for (const auto& row : rows) {
         int choice = -1, opened = -1, place = 0;

@@ -40,6 +40,7 @@ PROGRAMS = {
     "parser": ["parser"],
     "fit": ["fit"],
     "sigproc": ["sigproc", "dialogs"],
+    "arithmetic": ["arithmetic", "dialogs"],
 }
 # Where the numbers of a folder begin, so that those of one do not move with another's code.
 NUMBERS = {folder: 1 + 10000 * i for i, folder in enumerate(PROGRAMS)}

@@ -1,5 +1,5 @@
 // How many objects of each kind live, for tests that look for leaks: take one census before and one
-// after, and compare. Windows, timers, hooks and properties are those of the calling thread.
+// after, and compare. Windows, timers, hooks, properties and menus are those of the calling thread.
 #pragma once
 
 #include <cstddef>
@@ -26,6 +26,7 @@ struct Census {
     std::size_t timers = 0;
     std::size_t hooks = 0;
     std::size_t properties = 0;
+    std::size_t menus = 0;
     DrawingCounts gdi;
 };
 

@@ -7,6 +7,7 @@
 #include "zxadlg/headless/constants/dialogs.h"
 #include "zxadlg/headless/constants/drawing.h"
 #include "zxadlg/headless/constants/keys.h"
+#include "zxadlg/headless/constants/menus.h"
 #include "zxadlg/headless/constants/messages.h"
 #include "zxadlg/headless/constants/metrics.h"
 #include "zxadlg/headless/constants/system.h"

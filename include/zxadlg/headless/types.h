@@ -288,6 +288,11 @@ using NMHDR = struct tagNMHDR {
 };
 using LPNMHDR = NMHDR*;
 
+using TPMPARAMS = struct tagTPMPARAMS {
+    UINT cbSize;
+    RECT rcExclude;
+};
+
 using HELPINFO = struct tagHELPINFO {
     UINT cbSize;
     int iContextType;

@@ -1,6 +1,7 @@
 #include "zxadlg/headless/census.h"
 
 #include "platform/headless/drawing/gdi.h"
+#include "platform/headless/menu/menu.h"
 #include "platform/headless/window/hook_list.h"
 #include "platform/headless/window/timer_list.h"
 #include "platform/headless/window/window.h"
@@ -16,6 +17,7 @@ Census TakeCensus() {
     census.hooks = world.hooks->Live();
     for (const auto& [handle, window] : world.windows)
         census.properties += window->properties.size();
+    census.menus = world.menus->menus.size();
     census.gdi = gdi::LiveCounts();
     return census;
 }
@@ -31,6 +33,7 @@ std::string Growth(const Census& before, const Census& after) {
     add(before.timers, after.timers, "timer", "timers");
     add(before.hooks, after.hooks, "hook", "hooks");
     add(before.properties, after.properties, "property", "properties");
+    add(before.menus, after.menus, "menu", "menus");
     add(before.gdi.fonts, after.gdi.fonts, "font", "fonts");
     add(before.gdi.brushes, after.gdi.brushes, "brush", "brushes");
     add(before.gdi.pens, after.gdi.pens, "pen", "pens");

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/headless/menu/menu.h"
 #include "platform/headless/window/frame.h"
 #include "platform/headless/window/window.h"
 #include "zxadlg/headless/diagnostics.h"
@@ -345,6 +346,7 @@ LRESULT DefWindowProcA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_HELP:
             return PassToParent(window, message, wParam, lParam);
         case WM_CANCELMODE:
+            CancelMenu(hwnd);
             if (GetCapture() == hwnd) ReleaseCapture();
             return 0;
         case WM_SYSCOMMAND:

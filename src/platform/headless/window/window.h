@@ -21,6 +21,7 @@ struct MessageQueue;
 struct TimerList;
 struct HookList;
 struct InputState;
+struct MenuTable;
 
 // A registered class; lives as long as the process once made (unregistering only hides it).
 struct WindowClass {
@@ -109,6 +110,7 @@ struct World {
     std::unique_ptr<TimerList> timers;
     std::unique_ptr<HookList> hooks;
     std::unique_ptr<InputState> input;
+    std::unique_ptr<MenuTable> menus;
     std::vector<std::unique_ptr<Window>> dead;
     int pins = 0;
     int sendDepth = 0;

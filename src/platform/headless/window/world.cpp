@@ -5,6 +5,7 @@
 #include "platform/headless/controls/controls.h"
 #include "platform/headless/dialog/dialog_state.h"
 #include "platform/headless/drawing/gdi.h"
+#include "platform/headless/menu/menu.h"
 #include "platform/headless/system/module_table.h"
 #include "platform/headless/window/hook_list.h"
 #include "platform/headless/window/input_state.h"
@@ -62,7 +63,8 @@ World::World()
       queue(std::make_unique<MessageQueue>()),
       timers(std::make_unique<TimerList>()),
       hooks(std::make_unique<HookList>()),
-      input(std::make_unique<InputState>()) {
+      input(std::make_unique<InputState>()),
+      menus(std::make_unique<MenuTable>()) {
     RegisterQueue(thread, queue.get());
     auto window = std::make_unique<Window>();
     window->handle = DesktopHandle();
@@ -93,6 +95,7 @@ void EnsureInitialized() {
         BeginStandardClasses();
         RegisterDialogClass();
         RegisterButtonClass();
+        RegisterMenuClass();
         RegisterStaticClass();
         RegisterEditClass();
         RegisterListBoxClass();
