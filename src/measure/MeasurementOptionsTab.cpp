@@ -141,7 +141,10 @@ void CMeasurementOptionsTab::BindBaseline() {
 void CMeasurementOptionsTab::BindPolarity() {
     Labels({{IDC_MEASURE_POLARITY_GROUP, &m_grpPolarity}, {IDC_MEASURE_GROUP_LABEL, &m_lblGroup}});
     RegisterControl(IDC_MEASURE_GROUP, &m_cmbGroup);
-    OnEvent(m_cmbGroup, ADMN_COMBOSELCHANGE, [this] { ShowValue(m_radPolarity, Polarity()); });
+    OnEvent(m_cmbGroup, ADMN_COMBOSELCHANGE, [this] {
+        m_nGroup = m_cmbGroup.GetCurSel();
+        ShowValue(m_radPolarity, Polarity());
+    });
     constexpr int kPolarities[] = {IDC_MEASURE_POSITIVE, IDC_MEASURE_NEGATIVE,
                                    IDC_MEASURE_ABSOLUTE};
     m_radPolarity.SetupIds(this, 3, kPolarities, nullptr);
@@ -233,12 +236,14 @@ void CMeasurementOptionsTab::FillGroups() {
     }
     m_cmbGroup.SetCurSel(0);
     m_cmbGroup.SelectData(0, static_cast<LPARAM>(source.GetActiveGroup()));
+    m_nGroup = m_cmbGroup.GetCurSel();
     m_bGroupChoice = m_pParams->bMeasurementOptionA != 0 && m_cmbGroup.GetCount() > 1;
 }
 
 // --- What is shown ---------------------------------------------------------------------------
 
 void CMeasurementOptionsTab::ShowOptions() {
+    m_cmbGroup.SetCurSel(m_nGroup);
     if (IsReadOnly()) return;
     StoreShownKind(m_region, m_pOptions->GetRegion());
     StoreShownKind(m_baseline, m_pOptions->GetBaseline());
@@ -267,8 +272,7 @@ void CMeasurementOptionsTab::ShowSpan(RegionControls& controls, const RegionSpan
 std::int32_t& CMeasurementOptionsTab::Polarity() {
     ZXADLG_PolarityEntry& polarity = m_pOptions->GetPolarity();
     if (polarity.bPeakApplyToAll != 0) return polarity.eAllGroupsPeakPolarity;
-    const int nItem = m_cmbGroup.GetCurSel();
-    const LPARAM nGroup = nItem >= 0 ? m_cmbGroup.GetItemData(nItem) : 0;
+    const LPARAM nGroup = m_nGroup >= 0 ? m_cmbGroup.GetItemData(m_nGroup) : 0;
     return polarity.aePeakPolarity[std::clamp<LPARAM>(nGroup, 0, kPolarityGroups - 1)];
 }
 

@@ -77,6 +77,7 @@ class CMeasurementOptionsTab : public CRecordPage<ZXADLG_MeasurementSearch, COpt
     SampleAxis m_axis;
     bool m_bAxisTaken = false;
     bool m_bGroupChoice = false;
+    int m_nGroup = -1;  // the item whose polarity is shown
     std::vector<ADM_Wnd*> m_vFollowers;  // enabled wherever the search can be edited
 
     ADM_Button m_chkSearch;

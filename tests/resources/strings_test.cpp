@@ -69,6 +69,8 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2263, "Points range"},
         {2274, "&Fixed value (%0):"},
         {2280, "%0 to sear&ch:"},
+        {2298, "Measurements"},
+        {2299, "Output"},
         {2304,
          "Some or all groups do not contain enough data sets.\nThe minimum number of data sets in "
          "each data "
@@ -87,6 +89,17 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2333,
          "The window length of %d points exceeds the data length of %d points.\nReduce the window "
          "length to %d points and proceed?"},
+        {2343, "Antipeak amplitude (%s)"},
+        {2344, "Area (%s \xB7 ms)"},
+        {2345, "Baseline (%s)"},
+        {2346, "Decay slope (%s/ms)"},
+        {2347, "Maximum decay slope (%s/ms)"},
+        {2348, "Maximum rise slope (%s/ms)"},
+        {2349, "Mean (%s)"},
+        {2350, "Pea&k amplitude (%s)"},
+        {2351, "Slope (%s/ms)"},
+        {2352, "Rise slope (%s/ms)"},
+        {2353, "Standard deviation (%s)"},
         {2366, "User list"},
         {2367, "Voltage Clamp"},
         {2370, "Bartlett (Triangular)"},
@@ -100,7 +113,11 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2378, "None (Rectangular)"},
         {2379, "Von Hann"},
         {2384, "%s (read only)"},
+        {2394,
+         "One or more measurement regions have different x axis variable assignments.\nThe graph x "
+         "axis label will show only the first region selection."},
         {2395, "Close"},
+        {2399, "The search and baseline regions must be different."},
         {2400, "Could not establish data properties. Select a valid data set."},
         {2701, "The data file does not tell its sampling interval."},
         {2702, "The list names a %s that the data do not have. They are numbered from 1 to %s."},
