@@ -82,6 +82,24 @@ constexpr ZXADLG_SignalProcessingOptions kDefaults<ZXADLG_SignalProcessingOption
 template <>
 constexpr ZXADLG_CorrelationOptions kDefaults<ZXADLG_CorrelationOptions> = {
     .dSamplingFrequency = 10000.0, .uNumberOfLags = 100};
+// Every search has usual figures; the first one looks for a peak and its mean.
+constexpr ZXADLG_MeasurementOptions UsualMeasurements() {
+    ZXADLG_MeasurementOptions options = {};
+    for (ZXADLG_MeasurementSearch& search : options.aSearches) {
+        search.nSmoothingPoints = 5;
+        search.nRiseFromPercent = search.nDecayToPercent = 10;
+        search.nRiseToPercent = search.nDecayFromPercent = 90;
+        search.nEventDurationPercent = 50;
+    }
+    options.aSearches[0].bRegionEnable = 1;
+    options.aSearches[0].bAntipeakAmplitude = options.aSearches[0].bMean = 1;
+    options.aSearches[0].bDoAutoGraph = 1;
+    for (ZXADLG_StatisticsRegion& region : options.aStatsRegions) region.eStatsRegion = 1;
+    for (ZXADLG_BaselineRegion& baseline : options.aBaselines) baseline.eBaseRegion = 2;
+    return options;
+}
+template <>
+constexpr ZXADLG_MeasurementOptions kDefaults<ZXADLG_MeasurementOptions> = UsualMeasurements();
 template <>
 constexpr ZXADLG_HistogramOptions kDefaults<ZXADLG_HistogramOptions> = {
     .fBinWidth = 1.0f, .nBinsPerDecade = 10, .bBinAllData = 1};
@@ -106,6 +124,13 @@ std::int32_t Usual(const DialogCall& call) {
 template <class Record, auto kShow>
 std::int32_t WithoutData(const DialogCall& call) {
     return kShow(call.owner, static_cast<Record*>(call.options), call.source, call.params);
+}
+
+// With a pointer that the library never reads.
+template <class Record, auto kShow>
+std::int32_t WithContext(const DialogCall& call) {
+    return kShow(call.owner, static_cast<Record*>(call.options), nullptr, call.data, call.source,
+                 call.params);
 }
 
 template <class Record, auto kShow>
@@ -152,6 +177,8 @@ const Analysis kRows[] = {
            ZXADLG_ShowArithmeticDialog),
     ZX_ROW("new-column", "Arithmetic for a New Column", ZXADLG_ArithmeticOptions, NewColumn,
            ZXADLG_ShowArithmeticDialog),
+    ZX_ROW("measurement", "Measurements", ZXADLG_MeasurementOptions, WithContext,
+           ZXADLG_ShowMeasurementDialog),
     ZX_ROW("resistance", "Resistance", ZXADLG_ResistanceOptions, Usual,
            ZXADLG_ShowResistanceDialog),
     ZX_ROW("sampling-rate", "Data Reduction/Interpolation", ZXADLG_ModifySampleRateOptions,

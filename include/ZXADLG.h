@@ -25,6 +25,7 @@
 #include "zxadlg/ForceValuesOptions.h"
 #include "zxadlg/HistogramOptions.h"
 #include "zxadlg/LeakSubtractionOptions.h"
+#include "zxadlg/MeasurementOptions.h"
 #include "zxadlg/ModifySampleRateOptions.h"
 #include "zxadlg/NormalizeOptions.h"
 #include "zxadlg/ResistanceOptions.h"
@@ -329,6 +330,18 @@ int32_t ZXADLG_CALL ZXADLG_ShowArithmeticDialog(HWND__* parent, ZXADLG_Arithmeti
                                                 ZXADLG_DataOptions* data,
                                                 ZXADLG_CDlgDataSource* source,
                                                 const ZXADLG_DlgParams* params, int32_t reserved);
+
+// Measurements: up to 24 searches, each with a region, a baseline, a polarity per group, a
+// smoothing window and what is measured, and what a graph shows of it. `context` is never read and
+// may be null. Where the data are a file and bImportAllowed is set, the searches that are shown are
+// those of the record as it is passed, whatever is stored. OK writes into the record only named
+// fields, so that bImportAllowed and the bytes between stay the host's, and with bUseDataOptions
+// the regions of the searches that are on into the region table of the data record. With
+// bImportFromFile the data selection is not stored.
+int32_t ZXADLG_CALL ZXADLG_ShowMeasurementDialog(HWND__* parent, ZXADLG_MeasurementOptions* options,
+                                                 void* context, ZXADLG_DataOptions* data,
+                                                 ZXADLG_CDlgDataSource* source,
+                                                 const ZXADLG_DlgParams* params);
 
 // The fields of a record by the name of its type ("ZXADLG_NormalizeOptions"), in the order of the
 // record. Stores a pointer to the first and returns their number; 0, and a null pointer, for a name

@@ -15,6 +15,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -23,6 +24,7 @@
 #include "analysis/PageInputs.h"
 #include "analysis/PageRows.h"
 #include "analysis/ResultControls.h"
+#include "analysis/SpinField.h"
 #include "contract/CAnalysisOptionsInterfaceBase.h"
 #include "framework/ADM_GaugeControl.h"
 #include "framework/UpdateScope.h"
@@ -146,6 +148,12 @@ class CEditPage : public Base {
         this->RegisterControl(nId, &spinner);
         field.SetGauge(&spinner);
     }
+    // What belongs to a field that has been bound.
+    template <class Field>
+    void Dress(const SpinFieldIds& ids, SpinField<Field>& field) {
+        Labels({{ids.nLabel, &field.lbl}, {ids.nUnit, &field.unit}});
+        Spinner(ids.nSpin, field.spn, field.txt);
+    }
     // The options that most analyses share.
     void BindResults(ResultControls& results, CAnalysisOptionsInterfaceBase* pOptions) {
         BindTo(
@@ -174,6 +182,9 @@ class CEditPage : public Base {
 
     // Enables a list of controls where a rule says so and the page can be edited at all.
     void EnableControls(std::initializer_list<ADM_Wnd*> controls, bool bEnable) const {
+        EnableControls(std::span(controls.begin(), controls.size()), bEnable);
+    }
+    void EnableControls(std::span<ADM_Wnd* const> controls, bool bEnable) const {
         for (ADM_Wnd* pControl : controls) pControl->Enable(bEnable && CanEdit());
     }
     void EnableButton(ADM_RadioButtons& rad, int nIndex, bool bEnable) const {

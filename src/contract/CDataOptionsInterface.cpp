@@ -272,6 +272,16 @@ bool CDataOptionsInterface::IsSegmented() const {
     return (m_bDeferred && m_pRecord->bSegmented != 0) || m_pSource->IsSegmented();
 }
 
+std::uint32_t CDataOptionsInterface::GetShortestPointCount() const {
+    if (m_bDeferred) return GetAnalysisPointCount();
+    const std::uint32_t uGroup = GetGroup();
+    const std::uint32_t uSets = m_pSource->GetSetCount(uGroup);
+    std::uint32_t uFewest = uSets > 0 ? std::numeric_limits<std::uint32_t>::max() : 0;
+    for (std::uint32_t s = 0; s < uSets; ++s)
+        uFewest = std::min(uFewest, m_pSource->GetPointCount(uGroup, s, nullptr, 0));
+    return uFewest;
+}
+
 std::uint32_t CDataOptionsInterface::GetSelectedSetCount() const {
     const std::uint32_t uSets = GetSetCountInGroup();
     std::uint32_t uCount = 0;

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "contract/COptionsInterfaceBase.h"
@@ -127,6 +128,11 @@ class CDataOptionsInterface : public COptionsInterfaceBase {
     std::uint32_t GetAnalysisPointCount() const;
     double GetSamplingFrequency() const;
     bool IsSegmented() const;
+    // Points of the shortest set of the current group, of a deferred run those to be analysed.
+    std::uint32_t GetShortestPointCount() const;
+    // First and last point of a region of the host's; nothing where it has none of that id, or one
+    // without an extent.
+    std::optional<ZXADLG_PointSpan> FindRegionPoints(int nRegionId) const;
     // Sets that are selected in a group, by the mode of the first selection; at least 1.
     std::uint32_t GetSelectedSetCount() const;
     // Points of the whole current set, whatever region is selected.

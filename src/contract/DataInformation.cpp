@@ -64,6 +64,16 @@ bool CDataOptionsInterface::LookUpRegion(std::uint32_t uPosition, ZXADLG_RegionI
     return m_pSource->GetRegionInfo(uPosition, &info, 0, 0);
 }
 
+std::optional<ZXADLG_PointSpan> CDataOptionsInterface::FindRegionPoints(int nRegionId) const {
+    const std::uint32_t uPosition = FindRegionPosition(nRegionId);
+    ZXADLG_RegionInfo info = {};
+    // The search answers the first position for an id that is none.
+    if (uPosition >= m_pSource->GetRegionCount() ||
+        m_pSource->GetRegionId(uPosition) != nRegionId || !LookUpRegion(uPosition, info))
+        return {};
+    return ZXADLG_PointSpan{info.uFirstPoint, info.uLastPoint};
+}
+
 void CDataOptionsInterface::StoreRegionPoints(ZXADLG_RegionInfo& info) {
     for (std::int32_t nId = 1; nId <= kLastNumberedRegion; ++nId) {
         // The points are kept also when the lookup fails: they are then those of the one before.

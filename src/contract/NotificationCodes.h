@@ -22,9 +22,13 @@ enum NotificationCode {
     kNotifySpectrumFirst = 2215,         // spectrum dialog: option changes
     kNotifySpectrumSecond = 2216,
     kNotifyCorrelationChanged = 2217,  // correlation dialog: option change
-    kNotifyDataTabCurrent = 2218,   // unitary data tab: it was activated and its state is current
-    kNotifyDataTabShown = 2221,     // data tab: about to be shown
-    kNotifyDataTabLeft = 2222,      // data tab: about to be left
-    kNotifyRegionRecount = 2227,    // unitary data tab: the selection needs a recount
-    kNotifyDataInfoRebuilt = 2229,  // data layer: the data-information block was rebuilt
+    kNotifyDataTabCurrent = 2218,  // unitary data tab: it was activated and its state is current
+    kNotifyDataTabShown = 2221,    // data tab: about to be shown
+    kNotifyDataTabLeft = 2222,     // data tab: about to be left
+    kNotifyMeasurementSwitched = 2223,  // measurements: one is measured, or no longer
+    kNotifySearchChanged = 2226,        // measurements: another search is shown
+    kNotifySearchRegionChanged = 2228,  // measurements: a region, or all of them by an import
+    kNotifyImportChanged = 2230,        // measurements: what is on, the acquisition's or a search
+    kNotifyRegionRecount = 2227,        // unitary data tab: the selection needs a recount
+    kNotifyDataInfoRebuilt = 2229,      // data layer: the data-information block was rebuilt
 };

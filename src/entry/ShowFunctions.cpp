@@ -4,6 +4,8 @@
 #include "entry/ShowSequence.h"
 #include "fit/CurveFittingDialog.h"
 #include "measure/HistogramDialog.h"
+#include "measure/MeasurementDialog.h"
+#include "measure/MeasurementRecord.h"
 #include "platform/platform.h"
 #include "sigproc/CorrelationDialog.h"
 #include "sigproc/FilterDialog.h"
@@ -43,6 +45,15 @@ constexpr auto kHistogram = TabbedRow("Histogram", &LoadHistogramOptions, &SaveH
 constexpr auto kLeakSubtraction =
     TabbedRow("LeakSubtraction", &LoadLeakSubtractionOptions, &SaveLeakSubtractionOptions);
 constexpr auto kNormalize = TabbedRow("Normalize", &LoadNormalizeOptions, &SaveNormalizeOptions);
+// The acquisition's settings decide on the data too.
+bool StoresMeasuredData(const ZXADLG_MeasurementOptions& options) {
+    return options.bImportFromFile == 0;
+}
+
+constexpr ShowRow<ZXADLG_MeasurementOptions> kMeasurements = {
+    "Measurements",           DataRecord::kCopied,      kDataOptionsNormal,
+    &LoadMeasurementsOptions, &SaveMeasurementsOptions, nullptr,
+    &ReturnMeasurements,      &StoresMeasuredData};
 constexpr auto kPowerSpectrum =
     TabbedRow("Spectrum", &LoadPowerSpectrumOptions, &SavePowerSpectrumOptions);
 constexpr auto kResistance =
@@ -112,6 +123,20 @@ extern "C" int32_t ZXADLG_CALL ZXADLG_ShowLeakSubtractionDialog(
     ZXADLG_CDlgDataSource* source, const ZXADLG_DlgParams* params) {
     return ShowTabbed<CLeakSubtractionDialog>(kLeakSubtraction, parent, options, data, source,
                                               params);
+}
+
+extern "C" int32_t ZXADLG_CALL ZXADLG_ShowMeasurementDialog(HWND parent,
+                                                            ZXADLG_MeasurementOptions* options,
+                                                            void* context, ZXADLG_DataOptions* data,
+                                                            ZXADLG_CDlgDataSource* source,
+                                                            const ZXADLG_DlgParams* params) {
+    return RunShowSequence(kMeasurements, options, data, source, params,
+                           [&](ZXADLG_MeasurementOptions* pOptions, ZXADLG_DataOptions* pData) {
+                               const ZXADLG_MeasurementOptions host = *options;
+                               CMeasurementDialog dialog(parent, pOptions, &host, context, pData,
+                                                         source, params);
+                               return RunAtItsPlace(dialog);
+                           });
 }
 
 extern "C" int32_t ZXADLG_CALL ZXADLG_ShowNormalizeDialog(HWND parent,

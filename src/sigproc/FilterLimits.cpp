@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "analysis/SmoothingLengths.h"
 #include "text/NumberFormat.h"
 
 namespace {
@@ -23,7 +24,6 @@ constexpr FamilyLimits kHighpassLimits[] = {{kBessel, kLowest, 0.14}, {kRC, kLow
 constexpr FilterLimits kNotchCenter = {0.001, 0.3};
 constexpr FilterLimits kNotchWidth = {0.0, 0.5};
 
-constexpr std::uint32_t kMostLengths = 49;
 constexpr int kFrequencyDigits = 6;
 
 // The first row stands for every family that is not in the table.
@@ -93,14 +93,6 @@ double CutoffStep(const FilterLimits& limits) {
     const double dStep = std::ceil(std::trunc((limits.dHigh - limits.dLow) / 75.0) / 10.0) * 10.0;
     if (dStep == 0.0) return 1.0;
     return std::min(dStep, 100.0);
-}
-
-std::vector<std::int32_t> SmoothingLengths(std::uint32_t uPoints) {
-    std::vector<std::int32_t> vLengths;
-    for (std::uint32_t u = 3; u <= uPoints / 2 && vLengths.size() < kMostLengths; u += 2)
-        vLengths.push_back(static_cast<std::int32_t>(u));
-    if (vLengths.size() < 3) vLengths.assign(3, 3);
-    return vLengths;
 }
 
 std::int64_t CoefficientCount(double dCorner, double dRate) {

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 // The values of m_eFilterFamily.
 enum FilterFamily : std::int32_t {
@@ -34,10 +33,6 @@ FilterLimits NotchCenterLimits(double dRate);
 FilterLimits NotchWidthLimits(double dRate);
 // By how much the arrows beside a cutoff move it.
 double CutoffStep(const FilterLimits& limits);
-
-// The smoothing lengths of a boxcar that fit twice into the points: odd, at most 49 of them. Where
-// fewer than three fit, three times 3.
-std::vector<std::int32_t> SmoothingLengths(std::uint32_t uPoints);
 
 // Coefficients of a Gaussian; 0 where corner or rate are not above 0.
 std::int64_t CoefficientCount(double dCorner, double dRate);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "analysis/SmoothingLengths.h"
 #include "sigproc/FilterLimits.h"
 
 namespace {

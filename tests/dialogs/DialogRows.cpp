@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "fit_control_ids.h"
+#include "measurement_ids.h"
 #include "sigproc_ids.h"
 
 namespace dialogs_test {
@@ -41,7 +42,7 @@ DialogRow FitRow() {
     row.prepare = [](std::vector<unsigned char>& options) {
         reinterpret_cast<FitOptions*>(options.data())->eFunctionType = 15;
     };
-    row.szFromData = "Parameter";
+    row.fromData = {"Parameter"};
     row.delicate = {IDC_FIT_CUSTOM, IDC_FIT_GROUP, IDC_FIT_TERMS, IDC_FIT_COMPARE};
     row.nOptionPages = 3;
     row.keptBySecondWindow = {"bShowLegend=", "bShowAxes=", "bContinuousAutoScale="};
@@ -104,6 +105,38 @@ DialogRow ArithmeticRow(const char* szName, std::uint32_t eKind, bool bNewColumn
     return row;
 }
 
+// Searches with the regions that the host has, of which one is on. OK refuses a search that is
+// none, one region for both, and an even number of points.
+DialogRow MeasurementRow() {
+    DialogRow row = {
+        "Measurements", sizeof(ZXADLG_MeasurementOptions), false, true, [](Opening& o) {
+            return ZXADLG_ShowMeasurementDialog(
+                nullptr, reinterpret_cast<ZXADLG_MeasurementOptions*>(o.options.data()), nullptr,
+                &o.data, &o.source, &o.params);
+        }};
+    row.prepare = [](std::vector<unsigned char>& options) {
+        auto* pOptions = reinterpret_cast<ZXADLG_MeasurementOptions*>(options.data());
+        for (int i = 0; i < 24; ++i) {
+            pOptions->aStatsRegions[i] = {
+                .eStatsRegion = 8, .nStatsRegionEndIndex = 999, .dStatsRegionEndTime = 999 * 0.1};
+            pOptions->aBaselines[i] = {.eBaseRegion = 3,
+                                       .nBaseRegionStartIndex = 100,
+                                       .nBaseRegionEndIndex = 199,
+                                       .dBaseRegionStartTime = 100 * 0.1,
+                                       .dBaseRegionEndTime = 199 * 0.1};
+            pOptions->aSearches[i].nSmoothingPoints = 5;
+        }
+        pOptions->aSearches[0].bRegionEnable = 1;
+        pOptions->aSearches[0].bMean = 1;
+    };
+    row.delicate = {IDC_MEASURE_SEARCH, IDC_MEASURE_REGION, IDC_MEASURE_BASELINE,
+                    IDC_MEASURE_LENGTH};
+    row.fromData = {"StatsRegionStart", "StatsRegionEnd", "BaseRegionStart", "BaseRegionEnd"};
+    row.alive = {IDC_MEASURE_SEARCH, IDC_MEASURE_SEARCH_SPIN};
+    row.nOptionPages = 2;
+    return row;
+}
+
 }  // namespace
 
 Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
@@ -120,6 +153,9 @@ Opening::Opening(const DialogRow& dialog) : options(dialog.nSize) {
     params.bShowDestination = 1;
     params.bShowDynamicLink = 1;
     params.bShowWriteRegionInfo = 1;
+    params.bShowMeasurementOutput = 1;
+    params.bMeasurementOutputB = 1;
+    params.bMeasurementOutputC = 1;
 }
 
 void PrintTo(const DialogRow& row, std::ostream* pOut) {
@@ -139,6 +175,7 @@ const std::vector<DialogRow>& Rows() {
         Row("Filter", &ZXADLG_ShowFilterDialog),
         SpectrumRow(),
         CorrelationRow(),
+        MeasurementRow(),
         Row("Current/Voltage", &ZXADLG_ShowCurrentVoltageDialog, true),
         Row("Trace vs. Trace", &ZXADLG_ShowTraceVsTraceDialog, true),
         ArithmeticRow("Arithmetic", 0, false),

@@ -27,10 +27,12 @@ struct DialogRow {
     const char* szTitle = nullptr;
     // Makes a record of it that OK accepts; null: a record of zeros.
     void (*prepare)(std::vector<unsigned char>& options) = nullptr;
-    // How the keys begin that follow the data at each opening; null: none do.
-    const char* szFromData = nullptr;
+    // How the keys begin that follow the data at each opening.
+    std::set<std::string> fromData = {};
     // What a user leaves alone who wants OK to be accepted.
     std::set<int> delicate = {};
+    // What moves between entries and stays alive in read-only mode.
+    std::set<int> alive = {};
     int nOptionPages = 1;
     // How the keys begin that a second window of the dialog keeps at its own OK, whatever becomes
     // of the dialog.

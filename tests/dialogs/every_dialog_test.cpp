@@ -90,11 +90,13 @@ class EveryDialog : public testing::TestWithParam<DialogRow> {
 
     // The lines of the store but for those that the dialog makes anew.
     static std::string Lasting(const std::string& stored, const DialogRow& dialog) {
-        if (dialog.szFromData == nullptr) return stored;
         std::string lasting;
         std::istringstream lines(stored);
         for (std::string line; std::getline(lines, line);) {
-            if (line.rfind(dialog.szFromData, 0) != 0) lasting += line + '\n';
+            const bool bFromData =
+                std::any_of(dialog.fromData.begin(), dialog.fromData.end(),
+                            [&line](const std::string& key) { return line.starts_with(key); });
+            if (!bFromData) lasting += line + '\n';
         }
         return lasting;
     }

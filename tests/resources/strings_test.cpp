@@ -86,6 +86,8 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2274, "&Fixed value (%0):"},
         {2280, "%0 to sear&ch:"},
         {2287, "The start or end data index exceeds the number of available data."},
+        {2298, "Measurements"},
+        {2299, "Output"},
         {2304,
          "Some or all groups do not contain enough data sets.\nThe minimum number of data sets in "
          "each data "
@@ -104,6 +106,17 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2333,
          "The window length of %d points exceeds the data length of %d points.\nReduce the window "
          "length to %d points and proceed?"},
+        {2343, "Antipeak amplitude (%s)"},
+        {2344, "Area (%s \xB7 ms)"},
+        {2345, "Baseline (%s)"},
+        {2346, "Decay slope (%s/ms)"},
+        {2347, "Maximum decay slope (%s/ms)"},
+        {2348, "Maximum rise slope (%s/ms)"},
+        {2349, "Mean (%s)"},
+        {2350, "Pea&k amplitude (%s)"},
+        {2351, "Slope (%s/ms)"},
+        {2352, "Rise slope (%s/ms)"},
+        {2353, "Standard deviation (%s)"},
         {2366, "User list"},
         {2367, "Voltage Clamp"},
         {2370, "Bartlett (Triangular)"},
@@ -122,7 +135,11 @@ TEST(Strings, StandAsTheyAreGiven) {
         {2387, "Enter a column title for the output data."},
         {2388, "Data Range = Not available (text column or empty sheet)"},
         {2389, "Data Range = %0 to %1"},
+        {2394,
+         "One or more measurement regions have different x axis variable assignments.\nThe graph x "
+         "axis label will show only the first region selection."},
         {2395, "Close"},
+        {2399, "The search and baseline regions must be different."},
         {2400, "Could not establish data properties. Select a valid data set."},
         {2403, "No valid data have been selected. Columns are empty or contain only strings."},
         {2410, "No data are available for processing."},

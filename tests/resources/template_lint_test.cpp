@@ -86,6 +86,24 @@ class TemplateLint : public testing::Test {
             {{2384, 2344}, {"Set:", "Column:"}},
             {{2385, 2344}, {"Data set:", "Column:"}},
             {{2129, 2402}, {"%s to sear&ch:", "Data group to sear&ch:"}},
+            {{2116, 2524}, {"%s:", "&Data group:"}},
+            // With a unit of two letters.
+            {{2116, 2476}, {"Pea&k amplitude (pA)"}},
+            {{2116, 2478}, {"Antipeak amplitude (pA)"}},
+            {{2116, 2480}, {"Mean (pA)"}},
+            {{2116, 2481}, {"Standard deviation (pA)"}},
+            {{2116, 2482}, {"Area (pA \xB7 ms)"}},
+            {{2116, 2483}, {"Maximum rise slope (pA/ms)"}},
+            {{2116, 2472}, {"Maximum decay slope (pA/ms)"}},
+            {{2116, 2492}, {"Slope (pA/ms)"}},
+            {{2116, 2488}, {"Baseline (pA)"}},
+            {{2116, 2490}, {"Rise slope (pA/ms)"}},
+            {{2116, 2491}, {"Decay slope (pA/ms)"}},
+            {{2116, 2493}, {"%"}},
+            {{2116, 2494}, {"%"}},
+            {{2116, 2495}, {"%"}},
+            {{2116, 2496}, {"%"}},
+            {{2116, 2505}, {"%"}},
         };
         const auto found = formed.find({dialog, item.id});
         return found != formed.end() ? found->second : std::vector<std::string>{item.text};
@@ -132,10 +150,10 @@ class TemplateLint : public testing::Test {
         return dialog.id == 2105 || dialog.id == 2107 || dialog.id == 2133;
     }
 
-    // The option pages of the filter and of the spectrum need more room than the data pages, which
-    // are shown in the same place.
+    // The option pages of the filter, of the spectrum and of the measurements need more room than
+    // the data pages, which are shown in the same place.
     static bool IsLargePage(const TemplateBytes& dialog) {
-        return dialog.id == 2103 || dialog.id == 2127;
+        return dialog.id == 2103 || dialog.id == 2127 || dialog.id == 2116 || dialog.id == 2117;
     }
 
     std::vector<TemplateBytes> templates;
@@ -216,11 +234,11 @@ TEST_F(TemplateLint, NothingOverlaps) {
     }
 }
 
-// The pages of curve fitting are as wide as the smallest screen allows: a few of their captions
-// just fit.
+// The pages of curve fitting and of the measurements are as wide as the smallest screen allows: a
+// few of their captions just fit.
 bool HasNoRoomToSpare(int dialog, int id) {
     static const std::set<std::pair<int, int>> items = {
-        {2105, 2060}, {2133, 2018}, {2133, 2036}, {2133, 2603}};
+        {2105, 2060}, {2116, 2455}, {2133, 2018}, {2133, 2036}, {2133, 2603}};
     return items.count({dialog, id}) != 0;
 }
 
@@ -479,14 +497,26 @@ TEST_F(TemplateLint, PagesOfCurveFittingShareOneSize) {
 }
 
 // With its frame and title bar.
-TEST_F(TemplateLint, CurveFittingFitsTheSmallestScreen) {
+TEST_F(TemplateLint, TheLargestDialogsFitTheSmallestScreen) {
+    std::set<int> seen;
     for (const TemplateBytes& dialog : templates) {
-        if (dialog.id != 2104) continue;
-        EXPECT_LE(dialog.cx * 6 / 4 + 6, 640);
-        EXPECT_LE(dialog.cy * 13 / 8 + 25 + 5, 480);
-        return;
+        if (dialog.id != 2104 && dialog.id != 2115) continue;
+        EXPECT_LE(dialog.cx * 6 / 4 + 6, 640) << dialog.id;
+        EXPECT_LE(dialog.cy * 13 / 8 + 25 + 5, 480) << dialog.id;
+        seen.insert(dialog.id);
     }
-    FAIL() << "no template 2104";
+    EXPECT_EQ(seen, (std::set<int>{2104, 2115}));
+}
+
+TEST_F(TemplateLint, PagesOfTheMeasurementsShareOneSize) {
+    int pages = 0;
+    for (const TemplateBytes& dialog : templates) {
+        if (dialog.id != 2116 && dialog.id != 2117) continue;
+        EXPECT_EQ(dialog.cx, 398) << dialog.id;
+        EXPECT_EQ(dialog.cy, 223) << dialog.id;
+        ++pages;
+    }
+    EXPECT_EQ(pages, 2);
 }
 
 std::vector<int> Range(int first, int last) {

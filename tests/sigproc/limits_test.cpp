@@ -8,6 +8,7 @@
 #include <sstream>
 #include <string>
 
+#include "analysis/SmoothingLengths.h"
 #include "sigproc/FilterLimits.h"
 #include "sigproc/SamplingRate.h"
 #include "sigproc/SpectrumLengths.h"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws the bitmaps of signal processing, spectral windows and filter responses, from their formulas, and writes the
+"""Draws the bitmaps, spectral windows, filter responses and brackets, from their formulas, and writes the
 resource scripts that list them. Needs Debian's python3-matplotlib, whose fonts are used, python3-numpy, python3-pil
 and python3-scipy.
 
@@ -12,12 +12,13 @@ import sys
 
 from PIL import Image
 
+import bracket_pictures
 import filter_pictures
 import window_pictures
 import windows
 
 RESOURCES = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "resources")
-SETS = (window_pictures, filter_pictures)
+SETS = (window_pictures, filter_pictures, bracket_pictures)
 
 
 def folder_of(drawn):
