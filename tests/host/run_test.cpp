@@ -91,8 +91,7 @@ TEST_F(HostRun, BuildsAnExpressionAsItsExampleSays) {
 
 TEST_F(HostRun, AMenuIsPickedFromWhereItIsOpenAndHasTheItem) {
     EXPECT_NE(Run({"run", "arithmetic", "--script",
-                   WriteFile("steps.txt", "click 2445\npick \"cosh()\"\n"), "--store",
-                   Store()}),
+                   WriteFile("steps.txt", "click 2445\npick \"cosh()\"\n"), "--store", Store()}),
               zxhost::kDone);
     EXPECT_NE(err.find("the menu has no item \"cosh()\"; there are \"arcos()\", \"arsin()\""),
               std::string::npos)

@@ -7,16 +7,13 @@
 #include <utility>
 #include <vector>
 
+#include "ArithmeticCaptions.h"
 #include "TemplateBytes.h"
 
 namespace {
 
-// The texts of a template in its order: the title with the id 0, labels and group boxes that the
-// code never speaks to with the id -1.
-using Captions = std::vector<std::pair<int, std::string>>;
-
 const std::map<int, Captions>& GivenCaptions() {
-    static const std::map<int, Captions> captions = {
+    static const std::map<int, Captions> captions = WithArithmetic({
         {2099,
          {
              {0, "Correlation"},
@@ -555,98 +552,6 @@ const std::map<int, Captions>& GivenCaptions() {
              {2569,
               "Substitute x-axis zero &concentration values with lowest concentration divided by:"},
          }},
-        {2383,
-         {
-             {0, "Arithmetic"},
-             {2442, "E&xpression:"},
-             {2444, "Operator"},
-             {2445, "Function"},
-             {2446, "Constants"},
-             {2447, "&Undo"},
-             {2443, "&Clear"},
-             {2525, "%0"},
-             {-1, "Left Side"},
-             {2238, "All visi&ble %ss"},
-             {2239, "All %ss (including &hidden)"},
-             {2240, "Acti&ve %s"},
-             {2242, "S&elect from list"},
-             {2241, "&Specify a list (Example: 1..5,18,25..40):"},
-             {2344, "Set:"},
-             {2197, "Select &All"},
-             {2199, "Select N&one"},
-             {2243, "&Invert"},
-             {2249, "Ac&tive %s"},
-             {2252, "Speci&fy a %s"},
-             {2187, "&Group:"},
-             {2440, "Assig&n"},
-             {2188, "Analysis &region:"},
-             {1, "OK"},
-             {2, "Cancel"},
-         }},
-        {2384,
-         {
-             {0, "Arithmetic"},
-             {2442, "E&xpression: "},
-             {2444, "Operator"},
-             {2445, "Function"},
-             {2446, "Constants"},
-             {2447, "&Undo"},
-             {2443, "&Clear"},
-             {2525, "%0"},
-             {-1, "Left Side"},
-             {2241, "&Specify a list (Example: 1..5,18,25..40):"},
-             {2242, "S&elect from list"},
-             {-1, "Specified list"},
-             {2344, "Set:"},
-             {2197, "Select &All"},
-             {2199, "Select N&one"},
-             {2243, "&Invert"},
-             {2249, "Ac&tive %s"},
-             {2252, "Speci&fy a %s"},
-             {2187, "&Group:"},
-             {2440, "Assig&n"},
-             {-1, "Row Range"},
-             {2192, "All"},
-             {2588, "Use Range"},
-             {2589, "Upper range limit is determined by the smallest column."},
-             {2193, "F&rom:"},
-             {2195, "&To:"},
-             {2186, "Available data range = %0 to %1 (from smallest column)"},
-             {1, "OK"},
-             {2, "Cancel"},
-         }},
-        {2385,
-         {
-             {0, "Arithmetic"},
-             {2442, "Ne&w column ="},
-             {2444, "Operator"},
-             {2445, "Function"},
-             {2446, "Constants"},
-             {2447, "&Undo"},
-             {2443, "&Clear"},
-             {2525, "%0"},
-             {-1, "Insert Data Sets"},
-             {2344, "Data set:"},
-             {2197, "Select &All"},
-             {2199, "Select N&one"},
-             {2243, "&Invert"},
-             {2249, "Ac&tive %s"},
-             {2252, "Speci&fy a %s"},
-             {2187, "&Group:"},
-             {2440, "Assig&n"},
-             {-1, "Row Range"},
-             {2192, "All"},
-             {2588, "Use Range"},
-             {2589, "Upper range limit is determined from the smallest column."},
-             {2193, "F&rom:"},
-             {2195, "&To:"},
-             {2186, "Available data range = %0 to %1 (from smallest column)"},
-             {-1, "Output Option"},
-             {-1, "Specify a descriptive name for the output column title."},
-             {-1, "Colu&mn title:"},
-             {1, "OK"},
-             {2, "Cancel"},
-         }},
         {2386,
          {
              {0, "Adjust Baseline"},
@@ -684,7 +589,7 @@ const std::map<int, Captions>& GivenCaptions() {
              {1, "OK"},
              {2, "Cancel"},
          }},
-    };
+    });
     return captions;
 }
 
