@@ -96,6 +96,9 @@ void ADM_NoListCombo::Open() {
     ::SetFocus(hWnd);
     m_bPressed = TRUE;
     InvalidateRect(hWnd, nullptr, TRUE);
+    // What the key that opens it types is not for the menu, where a blank is a choice.
+    MSG typed;
+    while (PeekMessageA(&typed, hWnd, WM_CHAR, WM_CHAR, PM_REMOVE)) continue;
     TPMPARAMS params = {};
     params.cbSize = sizeof params;
     ::GetWindowRect(hWnd, &params.rcExclude);

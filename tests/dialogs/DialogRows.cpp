@@ -95,6 +95,7 @@ DialogRow ArithmeticRow(const char* szName, std::uint32_t eKind, bool bNewColumn
                              &o.data, &o.source, &o.params, 0);
                      }};
     row.szTitle = "Arithmetic";
+    row.bShowsStored = eKind == 0;
     row.prepare = [](std::vector<unsigned char>& options) {
         auto* pOptions = reinterpret_cast<ZXADLG_ArithmeticOptions*>(options.data());
         std::strcpy(pOptions->szExpression, "A=B+C");

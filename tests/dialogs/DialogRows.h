@@ -25,6 +25,8 @@ struct DialogRow {
     std::function<int(Opening&)> show;
     // Where it is not its name: the title of its window.
     const char* szTitle = nullptr;
+    // Whether what is stored shows at the next opening; else the store holds histories alone.
+    bool bShowsStored = true;
     // Makes a record of it that OK accepts; null: a record of zeros.
     void (*prepare)(std::vector<unsigned char>& options) = nullptr;
     // How the keys begin that follow the data at each opening.

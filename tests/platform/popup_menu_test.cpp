@@ -33,6 +33,10 @@ class PopupMenu : public testing::Test {
     int Track(DialogScript& script) {
         int chosen = -1;
         m_window.OnMessage([&](UINT message, WPARAM, LPARAM, LRESULT* result) {
+            if (message == WM_MENUCHAR && m_answer != 0) {
+                *result = m_answer;
+                return true;
+            }
             if (message != WM_APP) return false;
             POINT at = {20, 20};
             ClientToScreen(m_window, &at);
@@ -55,6 +59,7 @@ class PopupMenu : public testing::Test {
 
     RecordingWindow m_window;
     HMENU m_menu;
+    LRESULT m_answer = 0;  // of the owner to a character that no item has; 0: it leaves it alone
 };
 
 TEST_F(PopupMenu, KeepsItsItemsInOrder) {
@@ -178,6 +183,29 @@ TEST_F(PopupMenu, AnUnknownCharacterIsOfferedToTheOwner) {
         .WaitUntil(IsClosed());
     EXPECT_EQ(0, Track(script));
     EXPECT_NE(std::string::npos, asked.find("WM_MENUCHAR")) << asked;
+}
+
+// What the owner answers to a character that no item has.
+TEST_F(PopupMenu, TheOwnersAnswerIgnoresClosesSelectsOrChooses) {
+    const struct {
+        int answer;
+        bool closes;
+        int chosen;
+    } rows[] = {{MNC_IGNORE, false, 0},
+                {MNC_CLOSE, true, 0},
+                {MNC_EXECUTE, true, 14},
+                {MNC_SELECT, false, 0}};
+    for (const auto& row : rows) {
+        DialogScript script;
+        script.WaitUntil(IsOpen()).TypeKeys("x").Wait(30).Do([&] {
+            EXPECT_EQ(!row.closes, OpenMenuWindow() != nullptr) << row.answer;
+            EXPECT_EQ(row.answer == MNC_SELECT, (State(3) & MF_HILITE) != 0) << row.answer;
+        });
+        if (!row.closes) script.Press(VK_ESCAPE);
+        script.WaitUntil(IsClosed());
+        m_answer = MAKELPARAM(3, row.answer);
+        EXPECT_EQ(row.chosen, Track(script)) << row.answer;
+    }
 }
 
 TEST_F(PopupMenu, AltAndF10CloseIt) {

@@ -17,6 +17,7 @@ inline constexpr int TPM_NONOTIFY = 0x80;
 inline constexpr int TPM_RETURNCMD = 0x100;
 
 inline constexpr int WM_MENUCHAR = 0x120;
+inline constexpr int MNC_IGNORE = 0;
 inline constexpr int MNC_CLOSE = 1;
 inline constexpr int MNC_EXECUTE = 2;
 inline constexpr int MNC_SELECT = 3;
