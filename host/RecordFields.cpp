@@ -136,6 +136,9 @@ ZXADLG_DlgParams DefaultParams() {
     params.bShowMeasurementOutput = 1;
     params.bShowWriteRegionInfo = 1;
     params.bAdjustBaselineFourthMethod = 1;
+    params.bMeasurementOptionA = params.bMeasurementOptionB = 1;
+    params.bMeasurementOutputB = params.bMeasurementOutputC = 1;
+    params.bMeasurementRegionCheck = 1;
     return params;
 }
 

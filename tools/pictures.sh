@@ -93,4 +93,5 @@ histogram Options Data
 arithmetic -
 arithmetic:sheet -
 new-column:sheet -
+measurement Measurements Output Data
 END

@@ -1,4 +1,5 @@
 // The simulated data and what the dialogs are told of them.
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <iterator>
@@ -164,20 +165,35 @@ TEST(RecordFields, NamesEveryByteOfTheSelectionAndTellsWhatChanged) {
               "szUnitarySelectionList1 \"\" \"0..4\"\nadConstants[5] 0 0.1\n");
 }
 
-// Bytes of a record that no field of its table shows.
+// Bytes of a record that no field of its table shows. Byte k of all fields changes at once, which
+// large records need.
 std::size_t UnseenBytes(const char* type, std::size_t size) {
-    std::vector<unsigned char> before(size, 0), after(size, 0);
-    std::size_t unseen = 0;
-    for (std::size_t i = 0; i < size; ++i) {
-        after[i] = 1;
-        bool seen = false;
-        for (const zxhost::FieldValue& value :
-             zxhost::CompareRecords(type, before.data(), after.data()))
-            seen = seen || value.changed;
-        unseen += seen ? 0 : 1;
-        after[i] = 0;
+    const ZXADLG_FieldInfo* fields = nullptr;
+    const std::uint32_t count = ZXADLG_GetRecordFields(type, &fields);
+    std::vector<std::pair<std::size_t, std::size_t>> places;  // of each value, and its size
+    std::size_t largest = 0;
+    for (std::uint32_t f = 0; f < count; ++f) {
+        const ZXADLG_FieldInfo& field = fields[f];
+        for (std::uint32_t i = 0; i < field.count; ++i) {
+            for (std::uint32_t j = 0; j < field.innerCount; ++j)
+                places.emplace_back(field.offset + i * field.stride + j * field.size, field.size);
+        }
+        largest = std::max<std::size_t>(largest, field.size);
     }
-    return unseen;
+    const std::vector<unsigned char> before(size, 0);
+    std::vector<bool> seen(size, false);
+    for (std::size_t k = 0; k < largest; ++k) {
+        std::vector<unsigned char> after = before;
+        for (const auto& [place, bytes] : places) {
+            if (k < bytes) after[place + k] = 1;
+        }
+        const auto values = zxhost::CompareRecords(type, before.data(), after.data());
+        for (std::size_t v = 0; v < values.size(); ++v) {
+            const auto& [place, bytes] = places[v];
+            if (k < bytes && values[v].changed) seen[place + k] = true;
+        }
+    }
+    return static_cast<std::size_t>(std::count(seen.begin(), seen.end(), false));
 }
 
 TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
@@ -191,6 +207,9 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
     constexpr std::size_t kSigprocUnseen = 8 + 3 * (3 + 28) + 54 + 4 + 16 + 4 + 4 + 4 + 2;
     // Of arithmetic: what is reserved, padding, and what stands behind the end of its texts.
     constexpr std::size_t kArithmeticUnseen = 1000 + 1 + 2 + 5 + 3;
+    // Of each search of the measurements: what is reserved and padding. The polarities that run
+    // over their place show the rest.
+    constexpr std::size_t kMeasurementUnseen = 24 * (6 + 4);
     // A common block has two bytes of padding; texts show what stands before their end alone.
     const Row kRows[] = {{"normalize", 5},
                          {"time-shift", 2},
@@ -201,6 +220,7 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
                          {"histogram", 1 + 2 + 130 + 2},
                          {"arithmetic", kArithmeticUnseen},
                          {"new-column", kArithmeticUnseen},
+                         {"measurement", kMeasurementUnseen},
                          {"force-values", 2},
                          {"adjust-baseline", 2},
                          {"leak-subtraction", 6},

@@ -35,6 +35,25 @@ TEST_F(HostRun, PreparesACurveFitAsItsExampleSays) {
     EXPECT_NE(ReadFile(Store()).find("DlgConstraint0=1"), std::string::npos);
 }
 
+TEST_F(HostRun, MeasuresInThreeSearchesAsItsExampleSays) {
+    ASSERT_EQ(Run({"run", "measurement", "--script",
+                   std::string(kSource) + "/host/examples/measurement.script", "--store", Store()}),
+              zxhost::kDone)
+        << err;
+    EXPECT_EQ(err, "");
+    EXPECT_TRUE(OutHas("result: 1 (OK)\n"));
+    for (const char* szLine :
+         {"  aSearches[0].bStanDev: 0 -> 1\n", "  aSearches[0].nSmoothingPoints: 5 -> 7\n",
+          "  aSearches[1].bRegionEnable: 0 -> 1\n", "  aSearches[1].nRiseFromPercent: 10 -> 20\n",
+          "  aSearches[2].bMaxDecaySlopeTime: 0 -> 1\n", "  aSearches[2].nNumYPlotItems: 0 -> 1\n",
+          "  aSearches[2].aeAutoPlotYVariable[0]: 0 -> 10\n",
+          "  aStatsRegions[0].dStatsRegionEndTime: 0 -> 30\n",
+          "  aBaselines[2].dBaseFixedValue: 0 -> -70.5\n",
+          "  aPolarities[1].aePeakPolarity[0]: 0 -> 1\n"})
+        EXPECT_TRUE(OutHas(szLine)) << szLine;
+    EXPECT_NE(ReadFile(Store()).find("BaseFixedValue2=-70.5"), std::string::npos);
+}
+
 // The rows of the sheet are too few for a filter or a spectrum.
 TEST_F(HostRun, OpensSignalProcessingOnItsOwnRecordings) {
     for (const std::string szRecording : {"family", "second-kind", "no-waveform", "sheet"}) {
