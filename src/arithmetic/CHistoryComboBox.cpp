@@ -143,7 +143,8 @@ bool CHistoryComboBox::CanUndo() const {
 }
 
 void CHistoryComboBox::Undo() {
-    SendEdit(EM_UNDO);
+    // With nothing to undo some edits move their caret all the same.
+    if (CanUndo()) SendEdit(EM_UNDO);
 }
 
 // --- The list --------------------------------------------------------------------------------

@@ -350,7 +350,7 @@ TEST_F(ArithmeticUser, ANewColumnKeepsWhatStandsBehindEachEquals) {
     script.Type(IDC_EXPRESSION, "")
         .Do([](HWND dialog) {
             // Pasted at once.
-            PostMessageA(EditOf(dialog, IDC_EXPRESSION), EM_REPLACESEL, TRUE,
+            SendMessageA(EditOf(dialog, IDC_EXPRESSION), EM_REPLACESEL, TRUE,
                          reinterpret_cast<LPARAM>("A=B=C"));
         })
         .Answer(IDOK, kNoEquals)

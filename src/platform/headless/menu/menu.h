@@ -41,7 +41,7 @@ struct MenuTable {
 
 // The menu of a handle; sets the last error and gives null for any other handle.
 Menu* FindMenu(HMENU menu);
-// Closes the menu that this window opened.
+// Closes the menu that this window, or a control in it, opened.
 void CancelMenu(HWND owner);
 void RegisterMenuClass();
 void PaintMenu(HDC dc, const Menu& menu, int selected);

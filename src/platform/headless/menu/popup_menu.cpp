@@ -236,7 +236,9 @@ POINT PlaceOnScreen(int x, int y, SIZE size, const TPMPARAMS* params) {
 
 void CancelMenu(HWND owner) {
     OpenMenu* open = ThisWorld().menus->open;
-    if (open != nullptr && open->owner == owner) open->ended = true;
+    Window* window = open == nullptr ? nullptr : Peek(open->owner);
+    if (window != nullptr && (open->owner == owner || Root(window)->handle == owner))
+        open->ended = true;
 }
 
 void RegisterMenuClass() {
