@@ -84,7 +84,7 @@ constexpr ZXADLG_CorrelationOptions kDefaults<ZXADLG_CorrelationOptions> = {
     .dSamplingFrequency = 10000.0, .uNumberOfLags = 100};
 template <>
 constexpr ZXADLG_HistogramOptions kDefaults<ZXADLG_HistogramOptions> = {
-    .fBinWidth = 1.0f, .nBinsPerDecade = 10, .bBinAllData = 1};
+    .fBinWidth = 20.0f, .nBinsPerDecade = 10, .bBinAllData = 1};
 template <>
 constexpr ZXADLG_SubtractControlOptions kDefaults<ZXADLG_SubtractControlOptions> = {.dMultiplier =
                                                                                         1.0};
