@@ -102,7 +102,7 @@ template <>
 constexpr ZXADLG_MeasurementOptions kDefaults<ZXADLG_MeasurementOptions> = UsualMeasurements();
 template <>
 constexpr ZXADLG_HistogramOptions kDefaults<ZXADLG_HistogramOptions> = {
-    .fBinWidth = 1.0f, .nBinsPerDecade = 10, .bBinAllData = 1};
+    .fBinWidth = 20.0f, .nBinsPerDecade = 10, .bBinAllData = 1};
 template <>
 constexpr ZXADLG_ArithmeticOptions kDefaults<ZXADLG_ArithmeticOptions> = {
     .szSelectionList = "0",

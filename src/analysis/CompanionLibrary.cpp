@@ -8,6 +8,7 @@ CompanionLibrary::~CompanionLibrary() {
 }
 
 void CompanionLibrary::Load() {
+    if (m_bTried) return;
     m_bTried = true;
     // By its full path: a library of that name in the host's folder is not the one beside the
     // module.
@@ -21,6 +22,6 @@ void CompanionLibrary::Load() {
 }
 
 FARPROC CompanionLibrary::Address(LPCSTR szName) {
-    if (!m_bTried) Load();
+    Load();
     return m_hLibrary == nullptr ? nullptr : GetProcAddress(m_hLibrary, szName);
 }

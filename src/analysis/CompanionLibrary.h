@@ -1,4 +1,5 @@
-// A library that stands beside the module, loaded on first use and kept until this object goes.
+// A library that stands beside the module, loaded on first use, or before where its owner has the
+// time, and kept until this object goes.
 #pragma once
 
 #include <string>
@@ -19,11 +20,12 @@ class CompanionLibrary {
     Function Find(LPCSTR szName) {
         return reinterpret_cast<Function>(reinterpret_cast<void*>(Address(szName)));
     }
+    // Looks for the file, once.
+    void Load();
     // Whether the file has been found and loaded.
     bool IsLoaded() const { return m_hLibrary != nullptr; }
 
   private:
-    void Load();
     FARPROC Address(LPCSTR szName);
 
     HINSTANCE m_hModule;

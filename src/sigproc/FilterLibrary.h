@@ -11,6 +11,8 @@ class FilterLibrary {
     explicit FilterLibrary(HINSTANCE hModule, const char* szFile = "FILTER.dll")
         : m_library(hModule, szFile) {}
 
+    // Loads the file now, so that the first question need not.
+    void Load() { m_library.Load(); }
     // The smallest number of points that the filters of a record accept. 0 where the library is
     // missing, lacks an export or gives no object.
     std::uint32_t MinimumPoints(const FilterOptions& options);

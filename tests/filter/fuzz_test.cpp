@@ -1,4 +1,5 @@
-// A short run of the fuzz target's entry over random bytes.
+// Short runs of the fuzz target's entry: over its corpus, changed by any bytes, and over random
+// ones.
 
 #include <gtest/gtest.h>
 
@@ -7,8 +8,19 @@
 #include <vector>
 
 #include "FilterFuzz.h"
+#include "fixtures/FuzzCorpus.h"
 
 namespace {
+
+TEST(Fuzz, RecordsOfEveryFamilyHold) {
+    test_support::RunFuzzCorpus({.szFolder = ZX_SOURCE_DIR "/fuzz/filter/corpus",
+                                 .nSeeds = 18,
+                                 .nChanged = 800,
+                                 .uRandom = 43,
+                                 .uFirst = 0,
+                                 .uLast = 255},
+                                FuzzFilter);
+}
 
 TEST(Fuzz, RandomRecordsAndTracesHold) {
     std::mt19937 random(20);

@@ -79,7 +79,7 @@ TEST_F(HostRun, OpensSignalProcessingOnItsOwnRecordings) {
 TEST_F(HostRun, OpensTheHistogramOnItsOwnRecordings) {
     const std::string steps = WriteFile(
         "steps.txt",
-        "expect text 2329 \"1\"\nexpect text 2332 \"10\"\nexpect checked \"Ma&ximum\"\nok\n");
+        "expect text 2329 \"20\"\nexpect text 2332 \"10\"\nexpect checked \"Ma&ximum\"\nok\n");
     for (const std::string szRecording : {"family", "second-kind", "no-waveform", "sheet"}) {
         SCOPED_TRACE(szRecording);
         ASSERT_EQ(Run({"run", "histogram", "--recording", szRecording, "--script", steps, "--store",

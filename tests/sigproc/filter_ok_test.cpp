@@ -263,6 +263,26 @@ INSTANTIATE_TEST_SUITE_P(Files, FilterLibraries,
                          testing::Values(FilterStandIn::kMissingFile,
                                          FilterStandIn::kFileWithoutExport, FilterStandIn::kFile));
 
+TEST_F(FilterOk, TheLibraryIsLoadedAsLongAsTheDialogIsOpen) {
+    library = FilterStandIn::kFileWithoutExport;
+    const auto isLoaded = [this] { return GetModuleHandleA(library) != nullptr; };
+    EXPECT_FALSE(isLoaded());
+    DialogScript script;
+    script.Do([&] { EXPECT_TRUE(isLoaded()); }).Click(IDC_FILTER_NOTCH).Do([&] {
+        EXPECT_TRUE(isLoaded());
+    });
+    ShowAndAccept(script);
+    EXPECT_FALSE(isLoaded());
+}
+
+TEST_F(FilterOk, ADialogThatOnlyShowsLoadsNone) {
+    params.bReadOnly = 1;
+    library = FilterStandIn::kFileWithoutExport;
+    DialogScript script;
+    script.Do([this] { EXPECT_EQ(GetModuleHandleA(library), nullptr); });
+    ShowAndCancel(script);
+}
+
 TEST_F(FilterOk, TheLibraryIsAskedForTheRecordAndItsObjectReleased) {
     library = FilterStandIn::kFile;
     FilterStandIn standIn;
