@@ -24,12 +24,6 @@ const char* SkipWhiteSpace(const char* p) {
     return p;
 }
 
-// Powers of ten that a double holds exactly.
-constexpr double kExactPower[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                  1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                  1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-constexpr int kExactPowers = 22;
-
 // What a number beyond the range of a double becomes: 0 when its first digit that isn't zero stands
 // far behind the point, infinity when it stands far in front of it.
 double OutOfRange(const char* p, const char* pEnd) {
@@ -81,51 +75,6 @@ double FromChars(const char* p, const char* pEnd) {
         dValue = OutOfRange(p, result.ptr);
     }
     return bNegative ? -dValue : dValue;
-}
-
-// Reads a text that is one number in plain form, of so few digits that exact double arithmetic
-// gives its nearest double; returns false for every other text. One pass judges and converts.
-bool ReadSimple(const char* szText, double* pdValue) {
-    constexpr std::ptrdiff_t kMostDigits = 19;
-    constexpr std::uint64_t kMostMantissa = std::uint64_t{1} << 53;
-    const char* p = szText;
-    const bool bNegative = *p == '-';
-    if (*p == '-' || *p == '+') ++p;
-    std::uint64_t uMantissa = 0;
-    const char* pFirst = p;
-    for (; IsDigit(*p); ++p) uMantissa = uMantissa * 10 + static_cast<unsigned>(*p - '0');
-    std::ptrdiff_t nDigits = p - pFirst;
-    int nExponent = 0;
-    if (*p == '.') {
-        pFirst = ++p;
-        for (; IsDigit(*p); ++p) uMantissa = uMantissa * 10 + static_cast<unsigned>(*p - '0');
-        nDigits += p - pFirst;
-        nExponent = -static_cast<int>(p - pFirst);
-    }
-    // Beyond 19 digits the mantissa has wrapped around.
-    if (nDigits == 0 || nDigits > kMostDigits || uMantissa > kMostMantissa) return false;
-    if ((*p | 0x20) == 'e') {
-        ++p;
-        const bool bMinus = *p == '-';
-        if (*p == '-' || *p == '+') ++p;
-        pFirst = p;
-        int nWritten = 0;
-        for (; IsDigit(*p) && p - pFirst < 3; ++p) nWritten = nWritten * 10 + (*p - '0');
-        if (p == pFirst) return false;
-        nExponent += bMinus ? -nWritten : nWritten;
-    }
-    if (*p != '\0') return false;
-    // One rounding of two exact numbers: the nearest double.
-    double dValue = static_cast<double>(static_cast<std::int64_t>(uMantissa));
-    if (nExponent < 0) {
-        if (nExponent < -kExactPowers) return false;
-        dValue /= kExactPower[-nExponent];
-    } else {
-        if (nExponent > kExactPowers) return false;
-        dValue *= kExactPower[nExponent];
-    }
-    *pdValue = bNegative ? -dValue : dValue;
-    return true;
 }
 
 // The digits of an unsigned number in a base, at most `uMost`; beyond that *pbBeyond is set.
@@ -220,8 +169,16 @@ int WriteGeneral(double dValue, char* szBuffer) {
 
 std::int32_t ParseDouble(const char* szText, double* pdValue) {
     if (szText == nullptr || *szText == '\0') return kNumberBadText;
-    if (ReadSimple(szText, pdValue)) return kNumberOk;
     const char* p = szText;
+    // Most texts are small whole numbers, which need no more than this.
+    std::uint32_t uNumber = 0;
+    for (; IsDigit(*p) && p - szText < 9; ++p) {
+        uNumber = uNumber * 10 + static_cast<unsigned>(*p - '0');
+    }
+    if (*p == '\0') {
+        *pdValue = uNumber;
+        return kNumberOk;
+    }
     for (; *p != '\0'; ++p) {
         const char ch = *p;
         if (!IsDigit(ch) && ch != '.' && ch != '+' && ch != '-' && ch != 'e' && ch != 'E') {
