@@ -109,6 +109,10 @@ class Build:
         live = self.live()
         Rewriter(self.finder, [m.places for m in live], [m.number for m in live], self.kept).write(self.out)
 
+    def is_own(self, path):
+        """Whether a path of the compiler's messages is one of the changed copies; it may start at the build folder."""
+        return os.path.normpath(os.path.join(WORK, "build", path)).startswith(self.out + os.sep)
+
     def learn(self, messages):
         """Takes out what the compiler refused; returns whether there was something to take out."""
         learned = False
@@ -122,8 +126,15 @@ class Build:
             if named:
                 self.kept |= named
                 learned = True
-            elif ": error:" in match.group(0) and os.path.abspath(path).startswith(self.out + os.sep):
+            elif ": error:" in match.group(0) and self.is_own(path):
                 refused.add((os.path.join(self.folder, os.path.basename(path)), line))
+        # What goes wrong in a header of the compiler was asked for by the line that it names before.
+        asked = None
+        for match in re.finditer(r"^(\S+?):(\d+):\d+:\s+(required from here$|error:)", messages, re.M):
+            if match.group(3) != "error:":
+                asked = (match.group(1), int(match.group(2)))
+            elif match.group(1).startswith("/usr/") and asked and self.is_own(asked[0]):
+                refused.add((os.path.join(self.folder, os.path.basename(asked[0])), asked[1]))
         if learned:
             return True
         for m in self.live():
