@@ -7,17 +7,14 @@
 
 namespace {
 
-constexpr int kMostDigits = 17;
-
-// Whether nValue * 10^nExponent is a double without rounding. Such a number, next to a double that
-// is written with it, is that double.
+// Whether nValue * 10^nExponent, of an odd nValue, is a double without rounding. Such a number,
+// next to a double that is written with it, is that double.
 bool IsExactDouble(std::uint64_t nValue, int nExponent) {
     constexpr std::uint64_t kMantissaEnd = std::uint64_t{1} << 53;
     for (; nExponent < 0; ++nExponent) {
         if (nValue % 5 != 0) return false;
         nValue /= 5;
     }
-    while (nValue != 0 && nValue % 2 == 0) nValue /= 2;
     for (; nExponent > 0; --nExponent) {
         if (nValue >= kMantissaEnd) return false;
         nValue *= 5;
@@ -25,8 +22,9 @@ bool IsExactDouble(std::uint64_t nValue, int nExponent) {
     return nValue < kMantissaEnd;
 }
 
+// Of digits whose first is no zero.
 void StripZeros(DecimalDigits& digits) {
-    while (digits.nCount > 0 && digits.szDigits[digits.nCount - 1] == '0') --digits.nCount;
+    while (digits.szDigits[digits.nCount - 1] == '0') --digits.nCount;
     digits.szDigits[digits.nCount] = '\0';
 }
 
@@ -56,14 +54,12 @@ void ReadScientific(const char* pText, const char* pEnd, DecimalDigits& digits) 
     digits.nPoint = (bMinus ? -nExponent : nExponent) + 1;
 }
 
-// Rounds the decimal in `digits`, which is the shortest one or has 17 digits, to nDigits places.
+// Rounds the decimal in `digits`, which is the shortest one or the first 17 digits, with no zeros
+// at its end, to nDigits places.
 void RoundTo(DecimalDigits& digits, int nDigits, double dMagnitude) {
-    const char* pTail = digits.szDigits + nDigits;
-    const int nTail = digits.nCount - nDigits;
-    bool bHalf = *pTail == '5';
-    for (int i = 1; bHalf && i < nTail; ++i) bHalf = pTail[i] == '0';
-    if (!bHalf) {
-        const bool bUp = *pTail >= '5';
+    const char chNext = digits.szDigits[nDigits];
+    if (digits.nCount > nDigits + 1 || chNext != '5') {
+        const bool bUp = chNext >= '5';
         digits.nCount = nDigits;
         if (bUp) RoundUp(digits, nDigits);
         return;
@@ -93,8 +89,6 @@ DecimalDigits ToDecimalDigits(double dValue, int nDigits) {
     digits.nCount = 0;
     digits.nPoint = 0;
     digits.szDigits[0] = '\0';
-    if (nDigits < 0) nDigits = 0;
-    if (nDigits > kMostDigits) nDigits = kMostDigits;
     if (dValue == 0) return digits;
     if (!std::isfinite(dValue)) {
         const bool bNan = std::isnan(dValue);
@@ -115,14 +109,15 @@ DecimalDigits ToDecimalDigits(double dValue, int nDigits) {
                                : std::to_chars(szText, szText + sizeof szText, dMagnitude,
                                                std::chars_format::scientific, 16);
     ReadScientific(szText, result.ptr, digits);
-    if (nDigits == 0) {
+    StripZeros(digits);
+    if (nDigits <= 0) {
         const bool bUp = digits.szDigits[0] >= '5';
         if (bUp) ++digits.nPoint;
         digits.nCount = bUp ? 1 : 0;
-        digits.szDigits[0] = '1';
-    } else if (digits.nCount > nDigits) {
-        RoundTo(digits, nDigits, dMagnitude);
+        std::strcpy(digits.szDigits, bUp ? "1" : "");
+        return digits;
     }
+    if (digits.nCount > nDigits) RoundTo(digits, nDigits, dMagnitude);
     StripZeros(digits);
     return digits;
 }

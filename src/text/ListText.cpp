@@ -1,10 +1,10 @@
 #include "text/ListText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 #include <limits>
-#include <memory>
-#include <new>
+#include <string>
 #include <string_view>
 
 #include "text/BoundedText.h"
@@ -134,8 +134,8 @@ int Parse(const char* szText, std::int32_t* pnValues, int nMax, int nOffset, con
         result.AddRange(nFirst, nLast);
         if (*p == '\0') break;
     }
-    if (!rules.bCountPastLimit && result.nCount > result.nMax) return result.nMax;
-    return static_cast<int>(result.nCount < kHigh ? result.nCount : kHigh);
+    return static_cast<int>(
+        std::min(result.nCount, rules.bCountPastLimit ? kHigh : std::int64_t{result.nMax}));
 }
 
 // Writes a number with what stands before it, whole or not at all.
@@ -191,14 +191,8 @@ int ParseList(const char* szText, std::int32_t* pnNumbers, int nMaxCount, int nO
     const NameList names = {pszNames, nullptr, pszNames != nullptr ? nNameCount : 0};
     const int nCount = Parse(szText, pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
     if (nCount != 0) return nCount;
-    // White space is an error within an item: a text that has some is read again without it.
-    const char* p = szText;
-    while (*p != '\0' && !IsWhiteSpace(*p)) ++p;
-    if (*p == '\0') return 0;
-    const std::size_t nSize = std::strlen(szText) + 1;
-    const std::unique_ptr<char[]> pCopy(new (std::nothrow) char[nSize]);
-    if (pCopy == nullptr) return 0;
-    std::memcpy(pCopy.get(), szText, nSize);
-    RemoveSpaces(pCopy.get());
-    return Parse(pCopy.get(), pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
+    // White space is an error within an item: what can't be read is read again without it.
+    std::string sCopy(szText);
+    RemoveSpaces(sCopy.data());
+    return Parse(sCopy.c_str(), pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
 }

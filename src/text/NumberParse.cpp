@@ -52,47 +52,39 @@ double OutOfRange(const char* p, const char* pEnd) {
     return nPoint > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
+// Of a text that ends with a zero.
 double FromChars(const char* p, const char* pEnd) {
     const bool bNegative = p != pEnd && *p == '-';
     if (p != pEnd && (*p == '-' || *p == '+')) ++p;
     // The library function would take a second minus sign.
     if (p == pEnd || *p == '-') return 0;
-    std::chars_format eFormat = std::chars_format::general;
-    if (pEnd - p > 2 && p[0] == '0' && (p[1] | 0x20) == 'x') {
-        double dHex = 0;
-        if (std::from_chars(p + 2, pEnd, dHex, std::chars_format::hex).ec !=
-                std::errc::invalid_argument &&
-            p[2] != '-') {
-            p += 2;
-            eFormat = std::chars_format::hex;
-        }
-    }
     double dValue = 0;
-    const auto result = std::from_chars(p, pEnd, dValue, eFormat);
-    if (result.ec == std::errc::invalid_argument) return 0;
-    if (result.ec == std::errc::result_out_of_range) {
-        if (eFormat == std::chars_format::hex) return 0;
-        dValue = OutOfRange(p, result.ptr);
+    // Without digits behind it "0x" is a zero with an "x" behind it.
+    if (p[0] == '0' && (p[1] | 0x20) == 'x' && p[2] != '-') {
+        const std::errc eHex = std::from_chars(p + 2, pEnd, dValue, std::chars_format::hex).ec;
+        if (eHex == std::errc::result_out_of_range) return 0;
+        if (eHex == std::errc()) return bNegative ? -dValue : dValue;
     }
+    const auto result = std::from_chars(p, pEnd, dValue);
+    if (result.ec == std::errc::invalid_argument) return 0;
+    if (result.ec == std::errc::result_out_of_range) dValue = OutOfRange(p, result.ptr);
     return bNegative ? -dValue : dValue;
 }
 
 // The digits of an unsigned number in a base, at most `uMost`; beyond that *pbBeyond is set.
-std::uint64_t ReadDigits(const char** pp, unsigned uBase, std::uint64_t uMost, bool* pbBeyond,
-                         bool* pbAny) {
+std::uint64_t ReadDigits(const char** pp, unsigned uBase, std::uint64_t uMost, bool* pbBeyond) {
     std::uint64_t uValue = 0;
     for (;; ++*pp) {
         const char ch = **pp;
         unsigned uDigit;
         if (IsDigit(ch)) {
             uDigit = static_cast<unsigned>(ch - '0');
-        } else if ((ch | 0x20) >= 'a' && (ch | 0x20) <= 'f') {
+        } else if ((ch | 0x20) >= 'a') {
             uDigit = static_cast<unsigned>((ch | 0x20) - 'a' + 10);
         } else {
             break;
         }
         if (uDigit >= uBase) break;
-        *pbAny = true;
         if (*pbBeyond || uValue > (uMost - uDigit) / uBase) {
             *pbBeyond = true;
             uValue = uMost;
@@ -117,8 +109,7 @@ std::uint64_t TextToUnsigned(const char* szText, std::uint64_t uMost) {
         }
     }
     bool bBeyond = false;
-    bool bAny = false;
-    const std::uint64_t uValue = ReadDigits(&p, uBase, uMost, &bBeyond, &bAny);
+    const std::uint64_t uValue = ReadDigits(&p, uBase, uMost, &bBeyond);
     if (bBeyond) return uMost;
     return bMinus ? (~uValue + 1) & uMost : uValue;
 }
@@ -139,12 +130,11 @@ std::int32_t TextToInt(const char* szText, const char** ppEnd) {
     const char* p = SkipWhiteSpace(szText);
     const bool bMinus = *p == '-';
     if (*p == '-' || *p == '+') ++p;
+    const char* pFirst = p;
     bool bBeyond = false;
-    bool bAny = false;
     const std::uint64_t uMost = bMinus ? 2147483648u : 2147483647u;
-    const std::int64_t nValue =
-        static_cast<std::int64_t>(ReadDigits(&p, 10, uMost, &bBeyond, &bAny));
-    if (ppEnd != nullptr) *ppEnd = bAny ? p : szText;
+    const std::int64_t nValue = static_cast<std::int64_t>(ReadDigits(&p, 10, uMost, &bBeyond));
+    if (ppEnd != nullptr) *ppEnd = p != pFirst ? p : szText;
     return static_cast<std::int32_t>(bMinus ? -nValue : nValue);
 }
 

@@ -35,14 +35,13 @@ float Step(float x, float s, float d) {
 
 std::int32_t CountSteps(double dRange, double dStep) {
     const double dCount = std::trunc(dRange / dStep + 0.5);
-    if (!(dCount >= 1)) return 1;
+    if (!(dCount > 1)) return 1;
     return dCount > 2147483647.0 ? 2147483647 : static_cast<std::int32_t>(dCount);
 }
 
 }  // namespace
 
 double RoundOneTwoFive(double x) {
-    if (!std::isfinite(x) || x == 0) return x;
     const DecimalDigits digits = ToDecimalDigits(x, 2);
     const char chFirst = digits.szDigits[0];
     char szText[16] = {chFirst >= '5' ? '5' : chFirst >= '2' ? '2' : '1', 'e'};

@@ -106,6 +106,11 @@ TEST(NumberEdges, WhatIsBeyondTheRangeIsZeroOrInfinity) {
         {"0.1e-400", 0},
         {"00.01e400", kInfinity},
         {"0x1p+5000", 0},
+        {"0." + zeros + "1e50", 0},
+        {zeros + "1e-400", 0},
+        {zeros + "1e310", kInfinity},
+        {"1." + zeros + "e310", kInfinity},
+        {"0." + std::string(2000, '0') + "1e1650", 0},
     };
     for (const auto& [sText, dExpected] : rows) {
         SCOPED_TRACE(sText);
@@ -193,6 +198,8 @@ TEST(ListEdges, NumbersBeyondTheRangeSpoilTheList) {
     EXPECT_EQ(Indices("1000000000", 5, 0, 1), (Values{1000000000}));
     EXPECT_EQ(Indices("2147483647", 5, 0, 1), (Values{2147483647}));
     EXPECT_EQ(Indices("2147483648", 5, 0, 0), (Values{}));
+    EXPECT_EQ(Indices("2147483648", 5, 1, 0), (Values{}));
+    EXPECT_EQ(Indices("-2147483649", 5, -1, 0), (Values{}));
     EXPECT_EQ(Indices("2147483647", 5, -1, 0), (Values{}));
     EXPECT_EQ(Indices("2147483646..2147483647", 5, 0, 2), (Values{2147483646, 2147483647}));
     EXPECT_EQ(Indices("4294967297", 5, 0, 0), (Values{}));
@@ -208,8 +215,8 @@ TEST(ListEdges, NumbersBeyondTheRangeSpoilTheList) {
 
 TEST(ListEdges, WhatIsNoItemSpoilsTheList) {
     for (const char* szText :
-         {"",  ",", "1,", ",1", "1,,2", "1..", "..1", "1...3", "1..2..3", "1.2",  "1-2",
-          "/", ":", "1:", "a",  "+",    "+-1", "--1", "1 2",   "5.",      "5.6.7"}) {
+         {"",  ",",  "1,", ",1", "1,,2", "1..", "..1", "1...3", "1..2..3", "1.2",  "1-2", "/",
+          ":", "1:", "a",  "+",  "+-1",  "--1", "1 2", "5.",    "5.6.7",   "1.25", "1,.5"}) {
         SCOPED_TRACE(szText);
         std::int32_t values[5];
         EXPECT_EQ(ParseIndexList(szText, values, 5, 0, nullptr, nullptr, 0), 0);
@@ -236,6 +243,7 @@ TEST(ListEdges, NamesEndWithTheirItemOrAtTheDots) {
     EXPECT_EQ(ParseIndexList(" v M\t, a.b..I ,2 ", values, 6, 0, names, nullptr, 4), 4);
     const std::int32_t expected[] = {0, 2, 3, 2};
     EXPECT_EQ(std::memcmp(values, expected, sizeof expected), 0);
+    EXPECT_EQ(ParseIndexList("v m", values, 6, 0, names, nullptr, 1), 1);
     EXPECT_EQ(ParseIndexList("I ..a.b", values, 6, 0, names, nullptr, 4), 0);
     EXPECT_EQ(ParseIndexList("I.. a.b", values, 6, 0, names, nullptr, 4), 0);
     EXPECT_EQ(ParseIndexList("I,,I", values, 6, 0, names, nullptr, 4), 0);
@@ -256,6 +264,7 @@ TEST(ListEdges, SelectionListsAreReadWithTheirBlanksTakenOut) {
     EXPECT_EQ(values[2], 4);
     EXPECT_EQ(ParseList("1..9", values, 4, 0, nullptr, 0), 4);
     EXPECT_EQ(ParseList("1..4", values, 4, 0, nullptr, 0), 4);
+    EXPECT_EQ(ParseList("1\x0E", values, 4, 0, nullptr, 0), 0);
     EXPECT_EQ(ParseList("x", values, 4, 0, nullptr, 0), 0);
     EXPECT_EQ(ParseList("x y", values, 4, 0, nullptr, 0), 0);
     EXPECT_EQ(ParseList("5", nullptr, 4, 0, nullptr, 0), 0);
