@@ -49,7 +49,7 @@ void ReadScientific(const char* pText, const char* pEnd, DecimalDigits& digits) 
     }
     ++pText;
     const bool bMinus = *pText == '-';
-    int nExponent = 0;
+    int nExponent{};
     std::from_chars(pText + 1, pEnd, nExponent);
     digits.nPoint = (bMinus ? -nExponent : nExponent) + 1;
 }

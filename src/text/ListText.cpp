@@ -119,7 +119,7 @@ int Parse(const char* szText, std::int32_t* pnValues, int nMax, int nOffset, con
         if (rules.bTrimItems) {
             while (IsListBlank(*p)) ++p;
         }
-        std::int64_t nFirst = 0;
+        std::int64_t nFirst{};
         p = ReadBound(p, nOffset, names, rules, &nFirst);
         if (p == nullptr) return 0;
         std::int64_t nLast = nFirst;

@@ -4,8 +4,7 @@
 // blanks within its items and counts what goes beyond the array; a selection list (FormatList,
 // ParseList) is stored without any blank and drops what goes beyond it. `nOffset` is added when
 // numbers are written and subtracted when they are read, so that the user sees 1-based numbers for
-// 0-based indices. Nothing is allocated but the copy of a selection list that can't be read as it
-// stands.
+// 0-based indices. Nothing is allocated but the copy of a selection list that holds white space.
 #pragma once
 
 #include <cstdint>

@@ -57,7 +57,7 @@ void WriteFixed(NumberText& text, const PaddedDigits& digits, int nPoint, std::u
             bPoint = true;
         }
         const std::uint32_t uGap = static_cast<std::uint32_t>(-nPoint);
-        for (; uBehind < uGap && uBehind < uDecimals && !text.IsFull(); ++uBehind) text.Put('0');
+        for (; uBehind < uGap && !text.IsFull(); ++uBehind) text.Put('0');
         if (uBehind < static_cast<std::uint32_t>(nMaxDigits)) {
             for (int i = 0; i < digits.nTotal; ++i, ++uBehind) text.Put(digits[i]);
         }
@@ -109,14 +109,14 @@ void FormatGeneral(NumberText& text, double dValue, bool bPlainRange, std::uint3
 // first double whose logarithm does, so that no build depends on the last bit of its mathematics
 // library.
 int CountIntegerDigits(double dMagnitude) {
-    static constexpr double kFirst[] = {1.0,
-                                        10.0,
-                                        0x1.8ffffffffffffp+6,
-                                        0x1.f3ffffffffffcp+9,
-                                        0x1.387fffffffffep+13,
-                                        0x1.869fffffffff9p+16,
-                                        0x1.e847ffffffff8p+19,
-                                        0x1.312cffffffffbp+23};
+    constexpr double kFirst[] = {1.0,
+                                 10.0,
+                                 0x1.8ffffffffffffp+6,
+                                 0x1.f3ffffffffffcp+9,
+                                 0x1.387fffffffffep+13,
+                                 0x1.869fffffffff9p+16,
+                                 0x1.e847ffffffff8p+19,
+                                 0x1.312cffffffffbp+23};
     int nDigits = 0;
     for (const double dFirst : kFirst) {
         if (dMagnitude < dFirst) break;
@@ -179,7 +179,7 @@ template <typename Value>
 std::int32_t ParseNormal(char* szText, int nSize, Value* pValue, double dLimit, int nMaxDigits,
                          std::int32_t eFormat, std::uint32_t uDecimals, std::uint32_t uSigDigits,
                          std::int32_t* pnError) {
-    double dValue = 0;
+    double dValue{};
     std::int32_t nCode = ParseDouble(szText, &dValue);
     const bool bNumber = nCode == kNumberOk;
     if (bNumber) {

@@ -58,7 +58,7 @@ double FromChars(const char* p, const char* pEnd) {
     if (p != pEnd && (*p == '-' || *p == '+')) ++p;
     // The library function would take a second minus sign.
     if (p == pEnd || *p == '-') return 0;
-    double dValue = 0;
+    double dValue{};
     // Without digits behind it "0x" is a zero with an "x" behind it.
     if (p[0] == '0' && (p[1] | 0x20) == 'x' && p[2] != '-') {
         const std::errc eHex = std::from_chars(p + 2, pEnd, dValue, std::chars_format::hex).ec;

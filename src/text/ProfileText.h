@@ -116,7 +116,7 @@ inline bool ProfileText::EqualFolded(std::string_view a, std::string_view b) {
 inline std::uint32_t ProfileText::Hash(std::string_view s) {
     std::uint32_t uHash = 2166136261u;
     for (const char ch : s) uHash = (uHash ^ static_cast<unsigned char>(Fold(ch))) * 16777619u;
-    return uHash ^ (uHash >> 15);
+    return uHash;
 }
 
 inline std::string_view ProfileText::Trim(std::string_view s) {
@@ -207,7 +207,7 @@ inline void ProfileText::Parse(Section& section) {
 // Lines are found in the order in which they stand, so that the first of one name counts.
 inline ProfileText::Line* ProfileText::FindLine(Section& section, std::string_view sKey) {
     if (!section.bParsed) Parse(section);
-    if (section.index.size() < section.lines.size() * 2 || section.index.empty()) {
+    if (section.index.size() <= section.lines.size() * 2) {
         std::size_t nSize = 16;
         while (nSize < section.lines.size() * 4) nSize *= 2;
         section.index.assign(nSize, 0);
@@ -272,9 +272,8 @@ inline void ProfileText::Set(std::string_view sSection, std::string_view sKey,
         pLine->bHasEqual = true;
     } else {
         pSection->lines.push_back({{}, Keep(sKey), Keep(sValue), true, true, false});
-        if (pSection->index.size() >= pSection->lines.size() * 2) {
-            AddToIndex(*pSection, static_cast<std::uint32_t>(pSection->lines.size() - 1));
-        }
+        // FindLine left room for it.
+        AddToIndex(*pSection, static_cast<std::uint32_t>(pSection->lines.size() - 1));
     }
     m_bChanged = true;
 }

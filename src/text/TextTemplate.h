@@ -85,6 +85,7 @@ void ExpandTemplate(std::string_view sTemplate, TemplatePlaces ePlaces, Put put,
 // A text of the user that is processed as a format with no arguments: its conversions give nothing.
 inline std::string ExpandWithoutArguments(std::string_view text) {
     std::string result;
+    result.reserve(text.size());
     ExpandTemplate(
         text, TemplatePlaces::kConversions, [&](char c) { result.push_back(c); }, [](char) {});
     return result;

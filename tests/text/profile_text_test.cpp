@@ -96,6 +96,7 @@ std::string Changed(const char* text) {
 TEST(ProfileText, NewLinesEndAsTheFirstOne) {
     EXPECT_EQ(Changed(""), "[S]\r\nk=v\r\n");
     EXPECT_EQ(Changed("\n"), "\n[S]\nk=v\n");
+    EXPECT_EQ(Changed("\n;x\r\n"), "\n;x\r\n[S]\nk=v\n");
     EXPECT_EQ(Changed("x\n"), "x\n[S]\nk=v\n");
     EXPECT_EQ(Changed("x\r\ny\n"), "x\r\ny\n[S]\r\nk=v\r\n");
     EXPECT_EQ(Changed("x\ny\r\n"), "x\ny\r\n[S]\nk=v\n");

@@ -101,6 +101,7 @@ TEST(GaugeScale, NoRangeAndNoStepGiveThePreset) {
 TEST(GaugeScale, OriginIsTheGridPointNearestToTheLowerLimit) {
     ExpectScale(ScaleOf(7, 107, 5), 1, 20, 5, 5);
     ExpectScale(ScaleOf(8, 108, 5), 1, 20, 5, 10);
+    ExpectScale(ScaleOf(7.5, 107.5, 5), 1, 20, 5, 10);
     ExpectScale(ScaleOf(-7.4, 100, 5), 1, 21, 5, -5);
     ExpectScale(ScaleOf(-7.6, 100, 5), 1, 22, 5, -10);
 }
@@ -122,6 +123,7 @@ TEST(GaugeScale, StepGrowsByItsFirstDigitOfTwo) {
     ExpectScale(ScaleOf(0, 15, 10), 1, 2, 10, 0);
     // Four of the smallest numbers grow to ten of them: rounding would give the four again.
     const double dTiny = std::numeric_limits<double>::denorm_min();
+    ExpectScale(ScaleOf(3 * dTiny, 9 * dTiny, dTiny), 1, 6, dTiny, 3 * dTiny);
     ExpectScale(ScaleOf(0, 80000000 * dTiny, 4 * dTiny), 1, 8000000, 10 * dTiny, 0);
 }
 
