@@ -50,7 +50,6 @@ void CDataOptionsInterface::CorrectStoredIndices() {
     }
     for (std::uint32_t i = 0; i < kMaxConstants; ++i) {
         SetIsConstant(i, m_pRecord->abIsConstant[i] != 0);
-        SetConstant(i, m_pRecord->adConstants[i]);
     }
     if (bSheet) {
         std::uint32_t uFirst = std::min(m_pRecord->uFirstDataIndex, m_pRecord->uLastDataIndex);

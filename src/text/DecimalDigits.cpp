@@ -7,35 +7,14 @@
 
 namespace {
 
-constexpr int kMostDigits = 17;
-
-// Writes an unsigned number with as few 64-bit divisions as possible: they are slow on 32-bit
-// machines.
-int WriteUnsigned(std::uint64_t nValue, char* pDigits) {
-    constexpr std::uint64_t kChunk = 1000000000;
-    if (nValue < kChunk) {
-        return static_cast<int>(
-            std::to_chars(pDigits, pDigits + 20, static_cast<std::uint32_t>(nValue)).ptr - pDigits);
-    }
-    const std::uint64_t nHigh = nValue / kChunk;
-    std::uint32_t nLow = static_cast<std::uint32_t>(nValue - nHigh * kChunk);
-    const int nHead = WriteUnsigned(nHigh, pDigits);
-    for (int i = 8; i >= 0; --i) {
-        pDigits[nHead + i] = static_cast<char>('0' + nLow % 10);
-        nLow /= 10;
-    }
-    return nHead + 9;
-}
-
-// Whether nValue * 10^nExponent is a double without rounding. Such a number, next to a double that
-// is written with it, is that double.
+// Whether nValue * 10^nExponent, of an odd nValue, is a double without rounding. Such a number,
+// next to a double that is written with it, is that double.
 bool IsExactDouble(std::uint64_t nValue, int nExponent) {
     constexpr std::uint64_t kMantissaEnd = std::uint64_t{1} << 53;
     for (; nExponent < 0; ++nExponent) {
         if (nValue % 5 != 0) return false;
         nValue /= 5;
     }
-    while (nValue != 0 && nValue % 2 == 0) nValue /= 2;
     for (; nExponent > 0; --nExponent) {
         if (nValue >= kMantissaEnd) return false;
         nValue *= 5;
@@ -43,8 +22,9 @@ bool IsExactDouble(std::uint64_t nValue, int nExponent) {
     return nValue < kMantissaEnd;
 }
 
+// Of digits whose first is no zero.
 void StripZeros(DecimalDigits& digits) {
-    while (digits.nCount > 0 && digits.szDigits[digits.nCount - 1] == '0') --digits.nCount;
+    while (digits.szDigits[digits.nCount - 1] == '0') --digits.nCount;
     digits.szDigits[digits.nCount] = '\0';
 }
 
@@ -69,32 +49,17 @@ void ReadScientific(const char* pText, const char* pEnd, DecimalDigits& digits) 
     }
     ++pText;
     const bool bMinus = *pText == '-';
-    int nExponent = 0;
+    int nExponent{};
     std::from_chars(pText + 1, pEnd, nExponent);
     digits.nPoint = (bMinus ? -nExponent : nExponent) + 1;
 }
 
-// Most values that people type have few decimals: a decimal of at most 15 digits that rounds to the
-// double stands for it, whatever the count of digits asked for.
-bool ReadFewDecimals(double dMagnitude, DecimalDigits& digits) {
-    constexpr double kMost = 1e15;
-    if (!(dMagnitude >= 1e-3 && dMagnitude < 1e12)) return false;
-    const double dScaled = std::floor(dMagnitude * 1e3 + 0.5);
-    if (!(dScaled < kMost) || dScaled / 1e3 != dMagnitude) return false;
-    digits.nCount = WriteUnsigned(static_cast<std::uint64_t>(static_cast<std::int64_t>(dScaled)),
-                                  digits.szDigits);
-    digits.nPoint = digits.nCount - 3;
-    return true;
-}
-
-// Rounds the decimal in `digits`, which is the shortest one or has 17 digits, to nDigits places.
+// Rounds the decimal in `digits`, which is the shortest one or the first 17 digits, with no zeros
+// at its end, to nDigits places.
 void RoundTo(DecimalDigits& digits, int nDigits, double dMagnitude) {
-    const char* pTail = digits.szDigits + nDigits;
-    const int nTail = digits.nCount - nDigits;
-    bool bHalf = *pTail == '5';
-    for (int i = 1; bHalf && i < nTail; ++i) bHalf = pTail[i] == '0';
-    if (!bHalf) {
-        const bool bUp = *pTail >= '5';
+    const char chNext = digits.szDigits[nDigits];
+    if (digits.nCount > nDigits + 1 || chNext != '5') {
+        const bool bUp = chNext >= '5';
         digits.nCount = nDigits;
         if (bUp) RoundUp(digits, nDigits);
         return;
@@ -124,8 +89,6 @@ DecimalDigits ToDecimalDigits(double dValue, int nDigits) {
     digits.nCount = 0;
     digits.nPoint = 0;
     digits.szDigits[0] = '\0';
-    if (nDigits < 0) nDigits = 0;
-    if (nDigits > kMostDigits) nDigits = kMostDigits;
     if (dValue == 0) return digits;
     if (!std::isfinite(dValue)) {
         const bool bNan = std::isnan(dValue);
@@ -140,22 +103,21 @@ DecimalDigits ToDecimalDigits(double dValue, int nDigits) {
     // Up to 15 digits the shortest decimal decides alone. The 16th digit, and the smallest numbers
     // with their few bits, need the exact digits.
     const bool bShort = nDigits <= 15 && dMagnitude > 1e-300;
-    if (!bShort || !ReadFewDecimals(dMagnitude, digits)) {
-        char szText[40];
-        const auto result = bShort ? std::to_chars(szText, szText + sizeof szText, dMagnitude,
-                                                   std::chars_format::scientific)
-                                   : std::to_chars(szText, szText + sizeof szText, dMagnitude,
-                                                   std::chars_format::scientific, 16);
-        ReadScientific(szText, result.ptr, digits);
-    }
-    if (nDigits == 0) {
+    char szText[40];
+    const auto result = bShort ? std::to_chars(szText, szText + sizeof szText, dMagnitude,
+                                               std::chars_format::scientific)
+                               : std::to_chars(szText, szText + sizeof szText, dMagnitude,
+                                               std::chars_format::scientific, 16);
+    ReadScientific(szText, result.ptr, digits);
+    StripZeros(digits);
+    if (nDigits <= 0) {
         const bool bUp = digits.szDigits[0] >= '5';
         if (bUp) ++digits.nPoint;
         digits.nCount = bUp ? 1 : 0;
-        digits.szDigits[0] = '1';
-    } else if (digits.nCount > nDigits) {
-        RoundTo(digits, nDigits, dMagnitude);
+        std::strcpy(digits.szDigits, bUp ? "1" : "");
+        return digits;
     }
+    if (digits.nCount > nDigits) RoundTo(digits, nDigits, dMagnitude);
     StripZeros(digits);
     return digits;
 }

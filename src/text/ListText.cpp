@@ -1,10 +1,10 @@
 #include "text/ListText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 #include <limits>
-#include <memory>
-#include <new>
+#include <string>
 #include <string_view>
 
 #include "text/BoundedText.h"
@@ -33,29 +33,12 @@ bool IsListBlank(char ch) {
     return ch == ' ' || ch == '\t' || ch == '\r' || ch == '\n';
 }
 
-bool IsWhiteSpace(char ch) {
-    return ch == ' ' || (ch >= '\t' && ch <= '\r');
+bool IsDigit(char ch) {
+    return ch >= '0' && ch <= '9';
 }
 
-// Reads one bound. Returns false when it is neither a name nor, as a whole, a decimal number.
-bool ReadBound(const char* p, const char* pEnd, int nOffset, const NameList& names,
-               std::int64_t* pnBound) {
-    if (p == pEnd) return false;
-    for (int i = 0; i < names.nCount; ++i) {
-        const char* szName = names.pszNames[i];
-        if (szName == nullptr) continue;
-        if (EqualNoCase(std::string_view(p, static_cast<std::size_t>(pEnd - p)), szName)) {
-            *pnBound = names.pnValues != nullptr ? names.pnValues[i] : i;
-            return true;
-        }
-    }
-    // The library function takes no plus sign.
-    if (p != pEnd && *p == '+' && p + 1 != pEnd && p[1] != '-') ++p;
-    std::int32_t nNumber = 0;
-    const auto result = std::from_chars(p, pEnd, nNumber);
-    if (result.ec != std::errc() || result.ptr != pEnd) return false;
-    *pnBound = static_cast<std::int64_t>(nNumber) - nOffset;
-    return *pnBound >= kLow && *pnBound <= kHigh;
+bool IsWhiteSpace(char ch) {
+    return ch == ' ' || (ch >= '\t' && ch <= '\r');
 }
 
 // The numbers read so far.
@@ -65,69 +48,68 @@ struct ListResult {
     std::int64_t nCount = 0;
 
     void AddRange(std::int64_t nFirst, std::int64_t nLast) {
-        if (nFirst == nLast) {
-            if (nCount < nMax) pnValues[nCount] = static_cast<std::int32_t>(nFirst);
-            ++nCount;
-            return;
-        }
-        const std::int64_t nStep = nFirst <= nLast ? 1 : -1;
-        const std::int64_t nSteps = (nLast - nFirst) * nStep + 1;
-        const std::int64_t nRoom = nCount < nMax ? nMax - nCount : 0;
-        const std::int64_t nStored = nSteps < nRoom ? nSteps : nRoom;
-        for (std::int64_t i = 0; i < nStored; ++i) {
-            pnValues[nCount + i] = static_cast<std::int32_t>(nFirst + i * nStep);
+        const bool bUp = nFirst <= nLast;
+        const std::int64_t nSteps = (bUp ? nLast - nFirst : nFirst - nLast) + 1;
+        // Unsigned, for the step behind the highest number.
+        auto uValue = static_cast<std::uint32_t>(nFirst);
+        for (std::int64_t i = nCount; i < nMax && i < nCount + nSteps; ++i) {
+            pnValues[i] = static_cast<std::int32_t>(uValue);
+            uValue += bUp ? 1u : ~0u;
         }
         nCount += nSteps;
     }
 };
 
-// Finds ".." in an item; pEnd when there is none.
-const char* FindDots(const char* p, const char* pEnd) {
-    for (; p + 1 < pEnd; ++p) {
-        if (p[0] == '.' && p[1] == '.') return p;
+// Where the bound that begins at `p` ends, were it a name: at "..", or with its item.
+const char* FindEnd(const char* p, const ListRules& rules) {
+    const char* pEnd = p;
+    while (*pEnd != ',' && *pEnd != '\0') {
+        if (pEnd[0] == '.' && pEnd[1] == '.') return pEnd;
+        ++pEnd;
+    }
+    if (rules.bTrimItems) {
+        while (pEnd != p && IsListBlank(pEnd[-1])) --pEnd;
     }
     return pEnd;
 }
 
-bool ReadItem(const char* p, const char* pEnd, int nOffset, const NameList& names,
-              ListResult& result) {
-    const char* pDots = FindDots(p, pEnd);
-    if (p == pEnd || pDots == p) return false;
-    std::int64_t nFirst = 0;
-    if (!ReadBound(p, pDots, nOffset, names, &nFirst)) return false;
-    std::int64_t nLast = nFirst;
-    if (pDots != pEnd && !ReadBound(pDots + 2, pEnd, nOffset, names, &nLast)) return false;
-    result.AddRange(nFirst, nLast);
-    return true;
+// Reads a name; returns its end, or null when there is none.
+const char* ReadName(const char* p, const NameList& names, const ListRules& rules,
+                     std::int64_t* pnBound) {
+    const char* pEnd = FindEnd(p, rules);
+    const std::string_view sText(p, static_cast<std::size_t>(pEnd - p));
+    for (int i = 0; i < names.nCount && !sText.empty(); ++i) {
+        if (names.pszNames[i] == nullptr || !EqualNoCase(sText, names.pszNames[i])) continue;
+        *pnBound = names.pnValues != nullptr ? names.pnValues[i] : i;
+        return pEnd;
+    }
+    return nullptr;
 }
 
-// Reads an unsigned number of at most nine digits; returns its end, or null for anything else.
-const char* ReadPlainNumber(const char* p, std::int64_t* pnNumber) {
-    const char* pFirst = p;
+// Reads a decimal number of 32 bits; returns its end, or null when there is none.
+const char* ReadNumber(const char* p, int nOffset, std::int64_t* pnBound) {
+    constexpr std::uint32_t kBeforeLastDigit = kHigh / 10;
+    const bool bMinus = *p == '-';
+    if (*p == '-' || *p == '+') ++p;
+    if (!IsDigit(*p)) return nullptr;
     std::uint32_t uNumber = 0;
-    for (; *p >= '0' && *p <= '9'; ++p) uNumber = uNumber * 10 + static_cast<unsigned>(*p - '0');
-    if (p == pFirst || p - pFirst > 9) return nullptr;
-    *pnNumber = uNumber;
-    return p;
+    for (; IsDigit(*p); ++p) {
+        if (uNumber > kBeforeLastDigit) return nullptr;
+        uNumber = uNumber * 10 + static_cast<unsigned>(*p - '0');
+    }
+    const std::int64_t nNumber = bMinus ? -std::int64_t{uNumber} : std::int64_t{uNumber};
+    *pnBound = nNumber - nOffset;
+    return nNumber >= kLow && nNumber <= kHigh && *pnBound >= kLow && *pnBound <= kHigh ? p
+                                                                                        : nullptr;
 }
 
-// Reads an item of plain numbers in one pass, as nearly all are; returns its end, or null when the
-// item needs a closer look.
-const char* ReadPlainItem(const char* p, int nOffset, ListResult& result) {
-    std::int64_t nFirst = 0;
-    p = ReadPlainNumber(p, &nFirst);
-    if (p == nullptr) return nullptr;
-    std::int64_t nLast = nFirst;
-    if (p[0] == '.' && p[1] == '.') {
-        p = ReadPlainNumber(p + 2, &nLast);
-        if (p == nullptr) return nullptr;
+// Reads one bound. A name may look like a number, and goes before it.
+const char* ReadBound(const char* p, int nOffset, const NameList& names, const ListRules& rules,
+                      std::int64_t* pnBound) {
+    if (names.nCount > 0) {
+        if (const char* pEnd = ReadName(p, names, rules, pnBound)) return pEnd;
     }
-    if ((*p != ',' && *p != '\0') || nFirst - nOffset < kLow || nLast - nOffset < kLow ||
-        nFirst - nOffset > kHigh || nLast - nOffset > kHigh) {
-        return nullptr;
-    }
-    result.AddRange(nFirst - nOffset, nLast - nOffset);
-    return p;
+    return ReadNumber(p, nOffset, pnBound);
 }
 
 int Parse(const char* szText, std::int32_t* pnValues, int nMax, int nOffset, const NameList& names,
@@ -137,27 +119,23 @@ int Parse(const char* szText, std::int32_t* pnValues, int nMax, int nOffset, con
         if (rules.bTrimItems) {
             while (IsListBlank(*p)) ++p;
         }
-        // A name may look like a number, and goes before it.
-        if (names.nCount == 0) {
-            if (const char* pPlainEnd = ReadPlainItem(p, nOffset, result)) {
-                p = pPlainEnd;
-                if (*p == '\0') break;
-                continue;
-            }
+        std::int64_t nFirst{};
+        p = ReadBound(p, nOffset, names, rules, &nFirst);
+        if (p == nullptr) return 0;
+        std::int64_t nLast = nFirst;
+        if (p[0] == '.' && p[1] == '.') {
+            p = ReadBound(p + 2, nOffset, names, rules, &nLast);
+            if (p == nullptr) return 0;
         }
-        const char* pEnd = p;
-        while (*pEnd != ',' && *pEnd != '\0') ++pEnd;
-        const char* pItem = p;
-        const char* pItemEnd = pEnd;
         if (rules.bTrimItems) {
-            while (pItem != pItemEnd && IsListBlank(pItemEnd[-1])) --pItemEnd;
+            while (IsListBlank(*p)) ++p;
         }
-        if (!ReadItem(pItem, pItemEnd, nOffset, names, result)) return 0;
-        p = pEnd;
+        if (*p != ',' && *p != '\0') return 0;
+        result.AddRange(nFirst, nLast);
         if (*p == '\0') break;
     }
-    if (!rules.bCountPastLimit && result.nCount > result.nMax) return result.nMax;
-    return static_cast<int>(result.nCount < kHigh ? result.nCount : kHigh);
+    return static_cast<int>(
+        std::min(result.nCount, rules.bCountPastLimit ? kHigh : std::int64_t{result.nMax}));
 }
 
 // Writes a number with what stands before it, whole or not at all.
@@ -213,14 +191,8 @@ int ParseList(const char* szText, std::int32_t* pnNumbers, int nMaxCount, int nO
     const NameList names = {pszNames, nullptr, pszNames != nullptr ? nNameCount : 0};
     const int nCount = Parse(szText, pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
     if (nCount != 0) return nCount;
-    // White space is an error within an item: a text that has some is read again without it.
-    const char* p = szText;
-    while (*p != '\0' && !IsWhiteSpace(*p)) ++p;
-    if (*p == '\0') return 0;
-    const std::size_t nSize = std::strlen(szText) + 1;
-    const std::unique_ptr<char[]> pCopy(new (std::nothrow) char[nSize]);
-    if (pCopy == nullptr) return 0;
-    std::memcpy(pCopy.get(), szText, nSize);
-    RemoveSpaces(pCopy.get());
-    return Parse(pCopy.get(), pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
+    // White space is an error within an item: what can't be read is read again without it.
+    std::string sCopy(szText);
+    RemoveSpaces(sCopy.data());
+    return Parse(sCopy.c_str(), pnNumbers, nMaxCount, nOffset, names, kSelectionListRules);
 }

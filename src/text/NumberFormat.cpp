@@ -19,7 +19,7 @@ class NumberText {
   public:
     // Takes the sign off a number that shows as zero, whatever little there was below.
     void DropSignOfZero() {
-        if (m_nUsed == 0 || m_szText[0] != '-') return;
+        if (!View().starts_with('-')) return;
         const std::string_view sDigits = View().substr(1);
         if (sDigits.find_first_not_of("0.") != std::string_view::npos) return;
         std::copy(sDigits.begin(), sDigits.end(), m_szText);
@@ -57,12 +57,9 @@ void WriteFixed(NumberText& text, const PaddedDigits& digits, int nPoint, std::u
             bPoint = true;
         }
         const std::uint32_t uGap = static_cast<std::uint32_t>(-nPoint);
-        const std::uint32_t uZeros = uGap < uDecimals ? uGap : uDecimals;
-        for (; uBehind < uZeros && !text.IsFull(); ++uBehind) text.Put('0');
+        for (; uBehind < uGap && !text.IsFull(); ++uBehind) text.Put('0');
         if (uBehind < static_cast<std::uint32_t>(nMaxDigits)) {
-            for (int i = 0; i < digits.nTotal && uBehind < uDecimals; ++i, ++uBehind) {
-                text.Put(digits[i]);
-            }
+            for (int i = 0; i < digits.nTotal; ++i, ++uBehind) text.Put(digits[i]);
         }
     } else {
         for (; nWritten < digits.nTotal; ++nWritten) {
@@ -86,7 +83,6 @@ void WriteExponent(NumberText& text, const DecimalDigits& digits) {
         text.Put('.');
         for (int i = 1; i < digits.nCount; ++i) text.Put(digits.szDigits[i]);
     }
-    if (digits.nCount == 0 && digits.nPoint < 1) return;
     text.Put('e');
     char szExponent[12];
     const auto result =
@@ -103,7 +99,7 @@ void FormatGeneral(NumberText& text, double dValue, bool bPlainRange, std::uint3
         return;
     }
     // No trailing zero is shown: zeros in front of the point are filled in again by WriteFixed.
-    const int nDecimals = digits.nPoint >= 1 ? 0 : digits.nCount - digits.nPoint;
+    const int nDecimals = std::max(digits.nCount - digits.nPoint, 0);
     WriteFixed(text, {digits, digits.nCount}, digits.nPoint, static_cast<std::uint32_t>(nDecimals),
                nMaxDigits);
 }
@@ -113,14 +109,14 @@ void FormatGeneral(NumberText& text, double dValue, bool bPlainRange, std::uint3
 // first double whose logarithm does, so that no build depends on the last bit of its mathematics
 // library.
 int CountIntegerDigits(double dMagnitude) {
-    static constexpr double kFirst[] = {1.0,
-                                        10.0,
-                                        0x1.8ffffffffffffp+6,
-                                        0x1.f3ffffffffffcp+9,
-                                        0x1.387fffffffffep+13,
-                                        0x1.869fffffffff9p+16,
-                                        0x1.e847ffffffff8p+19,
-                                        0x1.312cffffffffbp+23};
+    constexpr double kFirst[] = {1.0,
+                                 10.0,
+                                 0x1.8ffffffffffffp+6,
+                                 0x1.f3ffffffffffcp+9,
+                                 0x1.387fffffffffep+13,
+                                 0x1.869fffffffff9p+16,
+                                 0x1.e847ffffffff8p+19,
+                                 0x1.312cffffffffbp+23};
     int nDigits = 0;
     for (const double dFirst : kFirst) {
         if (dMagnitude < dFirst) break;
@@ -129,31 +125,15 @@ int CountIntegerDigits(double dMagnitude) {
     return nDigits;
 }
 
-double PowerOfTen(int nExponent) {
-    double dPower = 1;
-    for (; nExponent > 0; --nExponent) dPower *= 10;
-    return dPower;
-}
-
 void FormatFixed(NumberText& text, double dValue, std::uint32_t uDecimals, int nMaxDigits) {
     const int nInt = CountIntegerDigits(std::fabs(dValue));
     std::int64_t nFrac = uDecimals;
-    if (nInt == 0 && dValue != 0) {
-        nFrac += ToDecimalDigits(dValue, nMaxDigits).nPoint;
-        if (nFrac < 0) {
-            dValue = 0;
-            nFrac = 0;
-        }
-    }
+    if (nInt == 0) nFrac += ToDecimalDigits(dValue, nMaxDigits).nPoint;
     std::int64_t nTotal = nFrac + nInt;
-    if (nTotal > nMaxDigits + 1) {
-        nTotal = nMaxDigits;
-        if (nInt > nMaxDigits + 1) {
-            const double dUnit = PowerOfTen(nInt - nMaxDigits - 1);
-            dValue = std::floor(dValue / dUnit + 0.5) * dUnit;
-        }
-    }
-    const DecimalDigits digits = ToDecimalDigits(dValue, static_cast<int>(nTotal));
+    if (nTotal > nMaxDigits + 1) nTotal = nMaxDigits;
+    // What begins behind the last decimal shows as zero.
+    const DecimalDigits digits =
+        nFrac < 0 ? DecimalDigits{} : ToDecimalDigits(dValue, static_cast<int>(nTotal));
     // A value that begins just behind the last decimal may round up to one digit.
     const int nDigits = std::max(static_cast<int>(nTotal), digits.nCount);
     WriteFixed(text, {digits, nDigits}, digits.nPoint, uDecimals, nMaxDigits);
@@ -194,6 +174,26 @@ std::int32_t Limit(double* pdValue, double dLimit) {
     return kNumberLimited;
 }
 
+// The two types differ in their limit and their digits.
+template <typename Value>
+std::int32_t ParseNormal(char* szText, int nSize, Value* pValue, double dLimit, int nMaxDigits,
+                         std::int32_t eFormat, std::uint32_t uDecimals, std::uint32_t uSigDigits,
+                         std::int32_t* pnError) {
+    double dValue{};
+    std::int32_t nCode = ParseDouble(szText, &dValue);
+    const bool bNumber = nCode == kNumberOk;
+    if (bNumber) {
+        nCode = Limit(&dValue, dLimit);
+        const std::int32_t nFormatCode = Format(static_cast<Value>(dValue), szText, nSize, eFormat,
+                                                uDecimals, uSigDigits, nMaxDigits, nullptr);
+        ParseDouble(szText, &dValue);
+        *pValue = static_cast<Value>(dValue);
+        if (nCode == kNumberOk) nCode = nFormatCode;
+    }
+    if (pnError != nullptr) *pnError = nCode;
+    return bNumber ? 1 : 0;
+}
+
 }  // namespace
 
 std::int32_t FormatDouble(double dValue, char* szBuffer, int nSize, std::int32_t eFormat,
@@ -218,37 +218,13 @@ std::int32_t LimitFloat(double* pdValue) {
 std::int32_t ParseDoubleNormal(char* szText, int nSize, double* pdValue, std::int32_t eFormat,
                                std::uint32_t uDecimals, std::uint32_t uSigDigits,
                                std::int32_t* pnError) {
-    double dValue = 0;
-    std::int32_t nCode = ParseDouble(szText, &dValue);
-    if (nCode == kNumberOk) {
-        nCode = LimitDouble(&dValue);
-        const std::int32_t nFormatCode =
-            FormatDouble(dValue, szText, nSize, eFormat, uDecimals, uSigDigits, nullptr);
-        ParseDouble(szText, &dValue);
-        *pdValue = dValue;
-        if (nCode == kNumberOk) nCode = nFormatCode;
-        if (pnError != nullptr) *pnError = nCode;
-        return 1;
-    }
-    if (pnError != nullptr) *pnError = nCode;
-    return 0;
+    return ParseNormal(szText, nSize, pdValue, kDoubleLimit, kDoubleDigits, eFormat, uDecimals,
+                       uSigDigits, pnError);
 }
 
 std::int32_t ParseFloatNormal(char* szText, int nSize, float* pfValue, std::int32_t eFormat,
                               std::uint32_t uDecimals, std::uint32_t uSigDigits,
                               std::int32_t* pnError) {
-    double dValue = 0;
-    std::int32_t nCode = ParseDouble(szText, &dValue);
-    if (nCode == kNumberOk) {
-        nCode = LimitFloat(&dValue);
-        const std::int32_t nFormatCode = FormatFloat(static_cast<float>(dValue), szText, nSize,
-                                                     eFormat, uDecimals, uSigDigits, nullptr);
-        ParseDouble(szText, &dValue);
-        *pfValue = static_cast<float>(dValue);
-        if (nCode == kNumberOk) nCode = nFormatCode;
-        if (pnError != nullptr) *pnError = nCode;
-        return 1;
-    }
-    if (pnError != nullptr) *pnError = nCode;
-    return 0;
+    return ParseNormal(szText, nSize, pfValue, kFloatLimit, kFloatDigits, eFormat, uDecimals,
+                       uSigDigits, pnError);
 }

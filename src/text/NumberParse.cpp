@@ -24,12 +24,6 @@ const char* SkipWhiteSpace(const char* p) {
     return p;
 }
 
-// Powers of ten that a double holds exactly.
-constexpr double kExactPower[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                  1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                  1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-constexpr int kExactPowers = 22;
-
 // What a number beyond the range of a double becomes: 0 when its first digit that isn't zero stands
 // far behind the point, infinity when it stands far in front of it.
 double OutOfRange(const char* p, const char* pEnd) {
@@ -58,92 +52,39 @@ double OutOfRange(const char* p, const char* pEnd) {
     return nPoint > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
+// Of a text that ends with a zero.
 double FromChars(const char* p, const char* pEnd) {
     const bool bNegative = p != pEnd && *p == '-';
     if (p != pEnd && (*p == '-' || *p == '+')) ++p;
     // The library function would take a second minus sign.
     if (p == pEnd || *p == '-') return 0;
-    std::chars_format eFormat = std::chars_format::general;
-    if (pEnd - p > 2 && p[0] == '0' && (p[1] | 0x20) == 'x') {
-        double dHex = 0;
-        if (std::from_chars(p + 2, pEnd, dHex, std::chars_format::hex).ec !=
-                std::errc::invalid_argument &&
-            p[2] != '-') {
-            p += 2;
-            eFormat = std::chars_format::hex;
-        }
+    double dValue{};
+    // Without digits behind it "0x" is a zero with an "x" behind it.
+    if (p[0] == '0' && (p[1] | 0x20) == 'x' && p[2] != '-') {
+        const std::errc eHex = std::from_chars(p + 2, pEnd, dValue, std::chars_format::hex).ec;
+        if (eHex == std::errc::result_out_of_range) return 0;
+        if (eHex == std::errc()) return bNegative ? -dValue : dValue;
     }
-    double dValue = 0;
-    const auto result = std::from_chars(p, pEnd, dValue, eFormat);
+    const auto result = std::from_chars(p, pEnd, dValue);
     if (result.ec == std::errc::invalid_argument) return 0;
-    if (result.ec == std::errc::result_out_of_range) {
-        if (eFormat == std::chars_format::hex) return 0;
-        dValue = OutOfRange(p, result.ptr);
-    }
+    if (result.ec == std::errc::result_out_of_range) dValue = OutOfRange(p, result.ptr);
     return bNegative ? -dValue : dValue;
 }
 
-// Reads a text that is one number in plain form, of so few digits that exact double arithmetic
-// gives its nearest double; returns false for every other text. One pass judges and converts.
-bool ReadSimple(const char* szText, double* pdValue) {
-    constexpr std::ptrdiff_t kMostDigits = 19;
-    constexpr std::uint64_t kMostMantissa = std::uint64_t{1} << 53;
-    const char* p = szText;
-    const bool bNegative = *p == '-';
-    if (*p == '-' || *p == '+') ++p;
-    std::uint64_t uMantissa = 0;
-    const char* pFirst = p;
-    for (; IsDigit(*p); ++p) uMantissa = uMantissa * 10 + static_cast<unsigned>(*p - '0');
-    std::ptrdiff_t nDigits = p - pFirst;
-    int nExponent = 0;
-    if (*p == '.') {
-        pFirst = ++p;
-        for (; IsDigit(*p); ++p) uMantissa = uMantissa * 10 + static_cast<unsigned>(*p - '0');
-        nDigits += p - pFirst;
-        nExponent = -static_cast<int>(p - pFirst);
-    }
-    // Beyond 19 digits the mantissa has wrapped around.
-    if (nDigits == 0 || nDigits > kMostDigits || uMantissa > kMostMantissa) return false;
-    if ((*p | 0x20) == 'e') {
-        ++p;
-        const bool bMinus = *p == '-';
-        if (*p == '-' || *p == '+') ++p;
-        pFirst = p;
-        int nWritten = 0;
-        for (; IsDigit(*p) && p - pFirst < 3; ++p) nWritten = nWritten * 10 + (*p - '0');
-        if (p == pFirst) return false;
-        nExponent += bMinus ? -nWritten : nWritten;
-    }
-    if (*p != '\0') return false;
-    // One rounding of two exact numbers: the nearest double.
-    double dValue = static_cast<double>(static_cast<std::int64_t>(uMantissa));
-    if (nExponent < 0) {
-        if (nExponent < -kExactPowers) return false;
-        dValue /= kExactPower[-nExponent];
-    } else {
-        if (nExponent > kExactPowers) return false;
-        dValue *= kExactPower[nExponent];
-    }
-    *pdValue = bNegative ? -dValue : dValue;
-    return true;
-}
-
 // The digits of an unsigned number in a base, at most `uMost`; beyond that *pbBeyond is set.
-std::uint64_t ReadDigits(const char** pp, unsigned uBase, std::uint64_t uMost, bool* pbBeyond,
-                         bool* pbAny) {
+std::uint64_t ReadDigits(const char** pp, unsigned uBase, std::uint64_t uMost, bool* pbBeyond) {
     std::uint64_t uValue = 0;
     for (;; ++*pp) {
         const char ch = **pp;
         unsigned uDigit;
         if (IsDigit(ch)) {
             uDigit = static_cast<unsigned>(ch - '0');
-        } else if ((ch | 0x20) >= 'a' && (ch | 0x20) <= 'f') {
+        } else if ((ch | 0x20) >= 'a') {
             uDigit = static_cast<unsigned>((ch | 0x20) - 'a' + 10);
         } else {
             break;
         }
         if (uDigit >= uBase) break;
-        *pbAny = true;
         if (*pbBeyond || uValue > (uMost - uDigit) / uBase) {
             *pbBeyond = true;
             uValue = uMost;
@@ -168,8 +109,7 @@ std::uint64_t TextToUnsigned(const char* szText, std::uint64_t uMost) {
         }
     }
     bool bBeyond = false;
-    bool bAny = false;
-    const std::uint64_t uValue = ReadDigits(&p, uBase, uMost, &bBeyond, &bAny);
+    const std::uint64_t uValue = ReadDigits(&p, uBase, uMost, &bBeyond);
     if (bBeyond) return uMost;
     return bMinus ? (~uValue + 1) & uMost : uValue;
 }
@@ -190,12 +130,11 @@ std::int32_t TextToInt(const char* szText, const char** ppEnd) {
     const char* p = SkipWhiteSpace(szText);
     const bool bMinus = *p == '-';
     if (*p == '-' || *p == '+') ++p;
+    const char* pFirst = p;
     bool bBeyond = false;
-    bool bAny = false;
     const std::uint64_t uMost = bMinus ? 2147483648u : 2147483647u;
-    const std::int64_t nValue =
-        static_cast<std::int64_t>(ReadDigits(&p, 10, uMost, &bBeyond, &bAny));
-    if (ppEnd != nullptr) *ppEnd = bAny ? p : szText;
+    const std::int64_t nValue = static_cast<std::int64_t>(ReadDigits(&p, 10, uMost, &bBeyond));
+    if (ppEnd != nullptr) *ppEnd = p != pFirst ? p : szText;
     return static_cast<std::int32_t>(bMinus ? -nValue : nValue);
 }
 
@@ -220,8 +159,16 @@ int WriteGeneral(double dValue, char* szBuffer) {
 
 std::int32_t ParseDouble(const char* szText, double* pdValue) {
     if (szText == nullptr || *szText == '\0') return kNumberBadText;
-    if (ReadSimple(szText, pdValue)) return kNumberOk;
     const char* p = szText;
+    // Most texts are small whole numbers, which need no more than this.
+    std::uint32_t uNumber = 0;
+    for (; IsDigit(*p) && p - szText < 9; ++p) {
+        uNumber = uNumber * 10 + static_cast<unsigned>(*p - '0');
+    }
+    if (*p == '\0') {
+        *pdValue = uNumber;
+        return kNumberOk;
+    }
     for (; *p != '\0'; ++p) {
         const char ch = *p;
         if (!IsDigit(ch) && ch != '.' && ch != '+' && ch != '-' && ch != 'e' && ch != 'E') {

@@ -9,7 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -96,9 +96,7 @@ class ProfileText {
     std::string_view m_sEol = "\r\n";
     std::vector<std::unique_ptr<Section>> m_sections;  // the first has no header and the name ""
     Section* m_pLast = nullptr;                        // the section found last
-    std::vector<std::unique_ptr<char[]>> m_chunks;     // texts of changed lines
-    std::size_t m_nChunkLeft = 0;
-    char* m_pChunk = nullptr;
+    std::deque<std::string> m_kept;                    // texts of changed lines
     bool m_bChanged = false;
 };
 
@@ -118,7 +116,7 @@ inline bool ProfileText::EqualFolded(std::string_view a, std::string_view b) {
 inline std::uint32_t ProfileText::Hash(std::string_view s) {
     std::uint32_t uHash = 2166136261u;
     for (const char ch : s) uHash = (uHash ^ static_cast<unsigned char>(Fold(ch))) * 16777619u;
-    return uHash ^ (uHash >> 15);
+    return uHash;
 }
 
 inline std::string_view ProfileText::Trim(std::string_view s) {
@@ -129,11 +127,9 @@ inline std::string_view ProfileText::Trim(std::string_view s) {
 
 // Takes the next line with its end from the text: "\n", "\r\n" or a "\r" alone.
 inline std::string_view ProfileText::NextLine(std::string_view& sRest) {
-    std::size_t nEnd = sRest.find('\n');
-    nEnd = nEnd == std::string_view::npos ? sRest.size() : nEnd + 1;
-    const std::size_t nReturn = sRest.substr(0, nEnd).find('\r');
-    const bool bPair = nReturn + 1 < nEnd && sRest[nReturn + 1] == '\n';
-    if (nReturn != std::string_view::npos && !bPair) nEnd = nReturn + 1;
+    std::size_t nEnd = 0;
+    while (nEnd < sRest.size() && sRest[nEnd] != '\n' && sRest[nEnd] != '\r') ++nEnd;
+    if (nEnd < sRest.size()) nEnd += sRest.substr(nEnd, 2) == "\r\n" ? 2 : 1;
     const std::string_view sLine = sRest.substr(0, nEnd);
     sRest.remove_prefix(nEnd);
     return sLine;
@@ -141,8 +137,8 @@ inline std::string_view ProfileText::NextLine(std::string_view& sRest) {
 
 // A header runs from "[" at the start of a line to the last "]" of it.
 inline bool ProfileText::ReadHeader(std::string_view sLine, std::string_view* psName) {
-    while (!sLine.empty() && IsSpace(sLine.front())) sLine.remove_prefix(1);
-    if (sLine.empty() || sLine.front() != '[') return false;
+    sLine = Trim(sLine);
+    if (!sLine.starts_with('[')) return false;
     const std::size_t nEnd = sLine.rfind(']');
     if (nEnd == std::string_view::npos) return false;
     *psName = Trim(sLine.substr(1, nEnd - 1));
@@ -150,7 +146,8 @@ inline bool ProfileText::ReadHeader(std::string_view sLine, std::string_view* ps
 }
 
 inline ProfileText::Line ProfileText::ReadLine(std::string_view sLine) {
-    Line line = {sLine, {}, {}, false, false, false};
+    Line line = {};
+    line.sText = sLine;
     const std::string_view sContent = Trim(sLine);
     if (sContent.empty() || sContent.front() == ';') return line;
     line.bEntry = true;
@@ -172,10 +169,7 @@ inline ProfileText::ProfileText(std::string sText) : m_sText(std::move(sText)) {
     bool bFirst = true;
     while (!sRest.empty()) {
         const std::string_view sLine = NextLine(sRest);
-        if (bFirst && sLine.back() == '\n' &&
-            (sLine.size() < 2 || sLine[sLine.size() - 2] != '\r')) {
-            m_sEol = "\n";
-        }
+        if (bFirst && sLine.ends_with('\n') && !sLine.ends_with("\r\n")) m_sEol = "\n";
         std::string_view sContent = sLine;
         if (bFirst && sContent.substr(0, 3) == "\xEF\xBB\xBF") sContent.remove_prefix(3);
         bFirst = false;
@@ -201,8 +195,6 @@ inline void ProfileText::AddToIndex(Section& section, std::uint32_t uLine) {
 inline void ProfileText::Parse(Section& section) {
     section.bParsed = true;
     std::string_view sRest = section.sBody;
-    constexpr std::size_t kShortLine = 12;  // the usual entry is longer
-    section.lines.reserve(section.sBody.size() / kShortLine);
     while (!sRest.empty()) section.lines.push_back(ReadLine(NextLine(sRest)));
     std::size_t nBlank = 0;
     while (!section.lines.empty() && Trim(section.lines.back().sText).empty()) {
@@ -215,7 +207,7 @@ inline void ProfileText::Parse(Section& section) {
 // Lines are found in the order in which they stand, so that the first of one name counts.
 inline ProfileText::Line* ProfileText::FindLine(Section& section, std::string_view sKey) {
     if (!section.bParsed) Parse(section);
-    if (section.index.size() < section.lines.size() * 2 || section.index.empty()) {
+    if (section.index.size() <= section.lines.size() * 2) {
         std::size_t nSize = 16;
         while (nSize < section.lines.size() * 4) nSize *= 2;
         section.index.assign(nSize, 0);
@@ -233,8 +225,7 @@ inline ProfileText::Line* ProfileText::FindLine(Section& section, std::string_vi
 
 inline ProfileText::Section* ProfileText::FindSection(std::string_view sName) {
     sName = Trim(sName);
-    if (m_pLast != nullptr && !m_pLast->bRemoved && EqualFolded(m_pLast->sName, sName))
-        return m_pLast;
+    if (m_pLast != nullptr && EqualFolded(m_pLast->sName, sName)) return m_pLast;
     for (const auto& pSection : m_sections) {
         if (!pSection->bRemoved && EqualFolded(pSection->sName, sName)) {
             return m_pLast = pSection.get();
@@ -254,24 +245,13 @@ inline bool ProfileText::Find(std::string_view sSection, std::string_view sKey,
 }
 
 inline std::string_view ProfileText::Keep(std::string_view s) {
-    constexpr std::size_t kChunkSize = 65536;
-    if (s.size() > m_nChunkLeft) {
-        m_nChunkLeft = s.size() > kChunkSize ? s.size() : kChunkSize;
-        m_chunks.push_back(std::make_unique<char[]>(m_nChunkLeft));
-        m_pChunk = m_chunks.back().get();
-    }
-    if (!s.empty()) std::memcpy(m_pChunk, s.data(), s.size());
-    const std::string_view sKept(m_pChunk, s.size());
-    m_pChunk += s.size();
-    m_nChunkLeft -= s.size();
-    return sKept;
+    return m_kept.emplace_back(s);
 }
 
 inline ProfileText::Section* ProfileText::FindOrAddSection(std::string_view sName) {
     if (Section* pSection = FindSection(sName)) return pSection;
     auto pNew = std::make_unique<Section>();
     pNew->sName = Keep(Trim(sName));
-    pNew->bParsed = true;
     m_sections.push_back(std::move(pNew));
     m_bChanged = true;
     return m_pLast = m_sections.back().get();
@@ -292,9 +272,8 @@ inline void ProfileText::Set(std::string_view sSection, std::string_view sKey,
         pLine->bHasEqual = true;
     } else {
         pSection->lines.push_back({{}, Keep(sKey), Keep(sValue), true, true, false});
-        if (pSection->index.size() >= pSection->lines.size() * 2) {
-            AddToIndex(*pSection, static_cast<std::uint32_t>(pSection->lines.size() - 1));
-        }
+        // FindLine left room for it.
+        AddToIndex(*pSection, static_cast<std::uint32_t>(pSection->lines.size() - 1));
     }
     m_bChanged = true;
 }
@@ -309,11 +288,8 @@ inline void ProfileText::RemoveKey(std::string_view sSection, std::string_view s
 
 inline void ProfileText::RemoveSection(std::string_view sSection) {
     Section* pSection = FindSection(sSection);
-    if (pSection == nullptr) return;
-    if (pSection->sName.empty() && pSection->sHeader.empty()) {
-        // The lines before the first header are no section that could go.
-        return;
-    }
+    // The lines before the first header are no section that could go.
+    if (pSection == nullptr || pSection->sName.empty()) return;
     pSection->bRemoved = true;
     m_pLast = nullptr;
     m_bChanged = true;
@@ -323,7 +299,7 @@ inline void ProfileText::ClearSection(std::string_view sSection) {
     Section* pSection = FindOrAddSection(sSection);
     if (!pSection->bParsed) Parse(*pSection);
     for (Line& line : pSection->lines) {
-        if (!line.bEntry || line.bRemoved) continue;
+        if (!line.bEntry) continue;
         line.bRemoved = true;
         m_bChanged = true;
     }
@@ -356,7 +332,6 @@ inline void ProfileText::Append(std::string& sOut, std::string_view sLine) const
 
 inline std::string ProfileText::Text() const {
     std::string sOut;
-    sOut.reserve(m_sText.size() + m_sText.size() / 4 + m_chunks.size() * 131072);
     for (const auto& pSection : m_sections) {
         const Section& section = *pSection;
         if (section.bRemoved) continue;
@@ -368,10 +343,7 @@ inline std::string ProfileText::Text() const {
             sOut += ']';
             sOut += m_sEol;
         }
-        if (!section.bParsed) {
-            Append(sOut, section.sBody);
-            continue;
-        }
+        if (!section.bParsed) Append(sOut, section.sBody);
         for (const Line& line : section.lines) {
             if (line.bRemoved) continue;
             if (!line.sText.empty()) {

@@ -1,9 +1,9 @@
 #include "text/StepScale.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
-#include <utility>
 
 #include "text/DecimalDigits.h"
 
@@ -35,19 +35,18 @@ float Step(float x, float s, float d) {
 
 std::int32_t CountSteps(double dRange, double dStep) {
     const double dCount = std::trunc(dRange / dStep + 0.5);
-    if (!(dCount >= 1)) return 1;
+    if (!(dCount > 1)) return 1;
     return dCount > 2147483647.0 ? 2147483647 : static_cast<std::int32_t>(dCount);
 }
 
 }  // namespace
 
 double RoundOneTwoFive(double x) {
-    if (!std::isfinite(x) || x == 0) return x;
     const DecimalDigits digits = ToDecimalDigits(x, 2);
     const char chFirst = digits.szDigits[0];
     char szText[16] = {chFirst >= '5' ? '5' : chFirst >= '2' ? '2' : '1', 'e'};
     const auto end = std::to_chars(szText + 2, szText + sizeof szText, digits.nPoint - 1);
-    double dRounded = 0;
+    double dRounded{};
     std::from_chars(szText, end.ptr, dRounded);
     return std::copysign(dRounded, x);
 }
@@ -67,8 +66,8 @@ std::int32_t ComputeGaugeScale(double dLow, double dHigh, double dStep, std::int
     *pdStep = dStep;
     *pdOrigin = dLow;
     if (dLow == dHigh || dStep == 0) return 0;
-    if (dLow > dHigh) std::swap(dLow, dHigh);
-    const double dRange = dHigh - dLow;
+    const double dRange = std::fabs(dHigh - dLow);
+    dLow = std::min(dLow, dHigh);
     std::int32_t nCount = CountSteps(dRange, dStep);
     while (nCount > kMostPositions) {
         // Among the smallest numbers rounding can undo the growth.

@@ -59,6 +59,28 @@ TEST_F(DataOptions, SheetColumnsBeyondTheSheetBecomeTheLastTwo) {
     EXPECT_EQ(record.uDepVarDataSetIndex, 11u);
 }
 
+TEST_F(DataOptions, FirstColumnBeyondASheetIsCorrectedAsWell) {
+    record.uIndepVarDataSetIndex = 12;
+    record.uDepVarDataSetIndex = 12;
+    Sheet();
+    EXPECT_EQ(record.uIndepVarDataSetIndex, 10u);
+    EXPECT_EQ(record.uDepVarDataSetIndex, 11u);
+    record.uIndepVarDataSetIndex = 11;
+    record.uDepVarDataSetIndex = 11;
+    Sheet();
+    EXPECT_EQ(record.uIndepVarDataSetIndex, 11u);
+    EXPECT_EQ(record.uDepVarDataSetIndex, 11u);
+}
+
+TEST_F(DataOptions, SheetWithTwoColumnsTakesBoth) {
+    source.Sets(2);
+    record.uIndepVarDataSetIndex = 9;
+    record.uDepVarDataSetIndex = 9;
+    Sheet();
+    EXPECT_EQ(record.uIndepVarDataSetIndex, 0u);
+    EXPECT_EQ(record.uDepVarDataSetIndex, 1u);
+}
+
 TEST_F(DataOptions, SheetWithOneColumnTakesColumnZeroForX) {
     source.Sets(1);
     record.uIndepVarDataSetIndex = 5;
@@ -109,11 +131,16 @@ TEST_F(DataOptions, SheetRowsBeyondThePointsStartAtTheFirstUnlessTheDataAreStore
 }
 
 TEST_F(DataOptions, ConstantMarksBecomeOneOrZero) {
+    record.abIsConstant[0] = 9;
     record.abIsConstant[1] = 7;
+    record.abIsConstant[5] = 8;
+    record.bUseFullDataRange = 1;
     record.adConstants[5] = 1.5;
     CDataOptionsInterface& m = Model();
     EXPECT_EQ(record.abIsConstant[1], 1);
-    EXPECT_EQ(record.abIsConstant[0], 0);
+    EXPECT_EQ(record.abIsConstant[0], 1);
+    EXPECT_EQ(record.abIsConstant[2], 0);
+    EXPECT_EQ(record.abIsConstant[5], 1);
     EXPECT_EQ(m.GetConstant(5), 1.5);
     EXPECT_EQ(m.GetConstant(6), 0.0);
     EXPECT_FALSE(m.GetIsConstant(6));
@@ -165,7 +192,9 @@ TEST_F(DataOptions, ConstantNamesHold15CharactersAndEndAtTheCount) {
     EXPECT_EQ(m.GetConstantCount(), 1u);
     m.SetConstantName(0, "A name of some length");
     m.SetConstantName(1, "x2");
+    m.SetDependentName("y");
     m.SetConstantName(6, "beyond");
+    EXPECT_STREQ(m.GetDependentName(), "y");
     EXPECT_STREQ(m.GetConstantName(0), "A name of some ");
     EXPECT_STREQ(m.GetConstantName(1), "");
     m.SetConstantCount(9);

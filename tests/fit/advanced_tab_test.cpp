@@ -137,6 +137,82 @@ TEST_F(AdvancedTab, PrecisionIsThatOfTheMethodAndItsDefault) {
     EXPECT_EQ(options.dVMPrecision, 4e-5);
 }
 
+TEST_F(AdvancedTab, EveryButtonStandsForItsMethod) {
+    library = StandInLibrary::kFile;
+    StandInLibrary standIn;
+    standIn.TellTraits().bBinWidthWeighting = 1;
+    options.eFunctionType = 10;
+    ByHand(kSearchLM);
+    DialogScript script;
+    const auto pick = [&](int nId, std::int32_t FitOptions::*pField, std::int32_t eExpected) {
+        script.Click(nId).ExpectChecked(nId, BST_CHECKED).Do([=, this] {
+            EXPECT_EQ(options.*pField, eExpected) << nId;
+        });
+    };
+    script.SelectTab(kAdvanced);
+    pick(IDC_FIT_VM, &FitOptions::eSearchMethod, 1);
+    pick(IDC_FIT_LIKELIHOOD, &FitOptions::eMinimMethod, 1);
+    pick(IDC_FIT_SQUARED_ERRORS, &FitOptions::eMinimMethod, 0);
+    pick(IDC_FIT_SIMPLEX, &FitOptions::eSearchMethod, 2);
+    pick(IDC_FIT_LM, &FitOptions::eSearchMethod, 0);
+    pick(IDC_FIT_MINIMAX, &FitOptions::eMinimMethod, 2);
+    pick(IDC_FIT_MEAN_ABSOLUTE, &FitOptions::eMinimMethod, 3);
+    pick(IDC_FIT_WEIGHT_FUNCTION, &FitOptions::eWeightingType, 1);
+    pick(IDC_FIT_WEIGHT_DATA, &FitOptions::eWeightingType, 2);
+    pick(IDC_FIT_WEIGHT_BIN_WIDTH, &FitOptions::eWeightingType, 3);
+    pick(IDC_FIT_WEIGHT_NONE, &FitOptions::eWeightingType, 0);
+    ShowAndCancel(script);
+    options.eFunctionType = 15;
+    DialogScript exponential;
+    exponential.SelectTab(kAdvanced)
+        .Click(IDC_FIT_CHEBYSHEV)
+        .ExpectChecked(IDC_FIT_CHEBYSHEV, BST_CHECKED)
+        .Do([this] { EXPECT_EQ(options.eSearchMethod, 3); });
+    ShowAndCancel(exponential);
+}
+
+TEST_F(AdvancedTab, EveryPrecisionHasItsOwnFieldAndDefault) {
+    library = StandInLibrary::kFile;
+    StandInLibrary standIn;
+    standIn.TellTraits();
+    const struct {
+        int nMethod, nField, nDefault;
+        double FitOptions::*pUser;
+        std::int32_t FitOptions::*pDefault;
+    } rows[] = {{kSearchLM, IDC_FIT_LM_PRECISION, IDC_FIT_LM_DEFAULT, &FitOptions::dUserLMPrecision,
+                 &FitOptions::bUseLMPrecisionDefault},
+                {kSearchVM, IDC_FIT_VM_PRECISION, IDC_FIT_VM_DEFAULT, &FitOptions::dUserVMPrecision,
+                 &FitOptions::bUseVMPrecisionDefault},
+                {kSearchSimplex, IDC_FIT_SIMPLEX_PRECISION, IDC_FIT_SIMPLEX_DEFAULT,
+                 &FitOptions::dUserFractError, &FitOptions::bUseFractErrDefault}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.nMethod);
+        options = FreshRecord();
+        options.uMaxIterations = 700;
+        options.dSubstZeroLinearFactor = 12.0;
+        ByHand(row.nMethod);
+        options.bUseLMPrecisionDefault = options.bUseVMPrecisionDefault = 1;
+        options.bUseFractErrDefault = 1;
+        DialogScript script;
+        script.SelectTab(kAdvanced)
+            .ExpectChecked(row.nDefault, BST_CHECKED)
+            .ExpectEnabled(row.nDefault, true)
+            .ExpectEnabled(row.nField, false)
+            .Click(row.nDefault)
+            .ExpectEnabled(row.nField, true)
+            .Type(row.nField, "7e-5")
+            .Do([&] { EXPECT_EQ(options.*row.pDefault, 0); });
+        for (const auto& other : rows) {
+            if (&other == &row) continue;
+            script.ExpectEnabled(other.nDefault, false).Do([&] {
+                EXPECT_EQ(options.*other.pDefault, 1);
+            });
+        }
+        ShowAndCancel(script);
+        EXPECT_EQ(options.*row.pUser, 7e-5);
+    }
+}
+
 TEST_F(AdvancedTab, DefaultsKeepTheUsersValues) {
     ByHand(kSearchLM);
     options.bUseLMPrecisionDefault = options.bUseVMPrecisionDefault = 1;
@@ -303,6 +379,23 @@ TEST_F(AdvancedTab, OutputFormatIsHiddenWhole) {
     EXPECT_EQ(options.bWriteStatistics, 1);
 }
 
+TEST_F(AdvancedTab, OutputFormatIsShownWholeWithItsFrame) {
+    ByHand(kSearchLM);
+    DialogScript script;
+    script.SelectTab(kAdvanced)
+        .ExpectVisible(IDC_FIT_OUTPUT_GROUP, true)
+        .ExpectEnabled(IDC_FIT_OUTPUT_GROUP, true)
+        .ExpectVisible(IDC_FIT_STATISTICS, true)
+        .ExpectEnabled(IDC_FIT_STATISTICS, true);
+    ShowAndCancel(script);
+    params.bReadOnly = 1;
+    DialogScript readOnly;
+    readOnly.SelectTab(kAdvanced)
+        .ExpectVisible(IDC_FIT_OUTPUT_GROUP, true)
+        .ExpectEnabled(IDC_FIT_STATISTICS, false);
+    ShowAndCancel(readOnly);
+}
+
 TEST_F(AdvancedTab, ZeroConcentrationIsForFunctionsThatReplaceIt) {
     ByHand(kSearchLM);
     DialogScript without;
@@ -344,6 +437,24 @@ TEST_F(AdvancedTab, ChosenCursorPairIsStored) {
     script.SelectTab(kAdvanced).Choose(IDC_FIT_CURSOR_PAIR, "3..4");
     ShowAndAccept(script);
     EXPECT_EQ(data.uExtrapolationCursor, 3u);
+}
+
+// A number that stands for neither pair is replaced only where the pair counts.
+TEST_F(AdvancedTab, CursorPairIsStoredWhereTheCurveGoesBeyondTheCursorsOfAFile) {
+    const struct {
+        bool bFile, bDataPage, bExtrapolate;
+        std::uint32_t uExpected;
+    } rows[] = {{true, true, true, 1}, {true, true, false, 7}, {false, true, true, 7}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::to_string(row.bFile) + std::to_string(row.bExtrapolate));
+        source.Kind(row.bFile ? 0 : 1);
+        params.bUseDataOptions = row.bDataPage;
+        data.bExtrapolate = row.bExtrapolate;
+        data.uExtrapolationCursor = 7;
+        DialogScript script;
+        ShowAndAccept(script);
+        EXPECT_EQ(data.uExtrapolationCursor, row.uExpected);
+    }
 }
 
 TEST_F(AdvancedTab, OtherDataOfferLimits) {

@@ -306,6 +306,18 @@ TEST_F(FitOpening, DeferredReadsNoValuesAndKeepsTheInterval) {
     EXPECT_FALSE(RememberedFit().bOpenedBefore);
 }
 
+TEST_F(FitOpening, DeferredDoesNotAskWhetherXBeginsAtZero) {
+    params.bDeferredRun = 1;
+    options.bAutoZeroShift = 0;
+    source.x[0] = 0.0;
+    source.Record();
+    DialogScript script;
+    ShowAndCancel(script);
+    EXPECT_EQ(options.eSearchMethod, kSearchLM);
+    for (const std::string& call : source.calls)
+        EXPECT_EQ(call.find("Values("), std::string::npos) << call;
+}
+
 TEST_F(FitOpening, DeferredRefusesACustomFunctionWithoutSeeds) {
     params.bDeferredRun = 1;
     options.eFunctionType = kCustomFitFunction;

@@ -464,4 +464,31 @@ TEST_F(FunctionTab, AConfidenceOutOfItsRangeIsToldAtOk) {
     }
 }
 
+// The function has no number of terms under Chebyshev, but another number would lead to another
+// method.
+TEST_F(FunctionTab, NumberOfTermsIsOpenWhereItLeadsAwayFromChebyshev) {
+    library = StandInLibrary::kFile;
+    StandInLibrary standIn;
+    standIn.TellTraits().bMultiTerm = 0;
+    const struct {
+        std::int32_t eFunction, bAutomatic, eSearch;
+        bool bOpen;
+    } rows[] = {{11, 1, kSearchChebyshev, true},
+                {11, 0, kSearchChebyshev, false},
+                {11, 0, kSearchLM, false},
+                {15, 1, kSearchChebyshev, false},
+                {18, 1, kSearchLM, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::to_string(row.eFunction) + std::to_string(row.bAutomatic));
+        options.eFunctionType = row.eFunction;
+        options.bAutoDefaultOptions = row.bAutomatic;
+        options.eSearchMethod = row.eSearch;
+        DialogScript script;
+        script.ExpectEnabled(IDC_FIT_TERMS, row.bOpen)
+            .ExpectEnabled(IDC_FIT_TERMS_LABEL, row.bOpen)
+            .Do([&] { EXPECT_EQ(options.eSearchMethod, row.eSearch); });
+        ShowAndCancel(script);
+    }
+}
+
 }  // namespace

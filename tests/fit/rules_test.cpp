@@ -3,11 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <set>
 #include <string>
 
 #include "FitFixture.h"
+#include "fit/FitSeedRules.h"
 
 namespace {
 
@@ -523,6 +525,62 @@ TEST_F(Rules, ExtrapolationLimitsOfConcentrationsAreAboveZeroOnASheet) {
     options.eFunctionType = 22;
     source.Kind(0);
     EXPECT_TRUE(onSheet.CheckExtrapolation());
+}
+
+// --- What is read of the data.
+
+// The widest step of x times the sum of y.
+TEST_F(Rules, ScaleOfProportionsLooksAtEveryPointAndNoFurther) {
+    source.Record();
+    source.x = {1.0, 9.0, 10.0, 12.0, 100.0};
+    source.y = {1.0, 2.0, 3.0, 4.0, 1000.0};
+    source.lengths = {4, 4, 4, 4};
+    EXPECT_EQ(ProportionScaleOfData(data), 80.0);
+    source.x = {12.0, 10.0, 9.0, 1.0, 100.0};
+    EXPECT_EQ(ProportionScaleOfData(data), 80.0);
+}
+
+TEST_F(Rules, ScaleOfProportionsIsOneWhereTheDataGiveNone) {
+    source.x = {1.0, 3.0};
+    source.y = {4.0, 2.0};
+    EXPECT_EQ(ProportionScaleOfData(data), 12.0);
+    source.y = {4.0, -4.0};
+    EXPECT_EQ(ProportionScaleOfData(data), 1.0);
+    source.y = {4.0, std::numeric_limits<double>::infinity()};
+    EXPECT_EQ(ProportionScaleOfData(data), 1.0);
+    source.y = {4.0, 2.0};
+    source.bNoY = true;
+    EXPECT_EQ(ProportionScaleOfData(data), 1.0);
+    source.bNoY = false;
+    source.bNoX = true;
+    EXPECT_EQ(ProportionScaleOfData(data), 1.0);
+}
+
+// Exponentials alone ask whether x begins at 0, and only where zero-shift doesn't answer already.
+TEST_F(Rules, FirstPointIsAskedForByTheAutomaticChoiceOfExponentialsAlone) {
+    source.x = {0.0, 1.0, 2.0};
+    source.y = {3.0, 2.0, 1.5};
+    source.Record();
+    options.bAutoDefaultOptions = 1;
+    const auto asks = [&](std::int32_t eFunction, std::int32_t bAuto, std::int32_t bDo) {
+        options.bAutoZeroShift = bAuto;
+        options.bDoZeroShift = bDo;
+        Choose(eFunction);
+        source.calls.clear();
+        fit.Settle();
+        return std::any_of(source.calls.begin(), source.calls.end(),
+                           [](const std::string& call) { return call.starts_with("GetXValues("); });
+    };
+    EXPECT_TRUE(asks(14, 0, 0));
+    EXPECT_EQ(options.eSearchMethod, kSearchChebyshev);
+    EXPECT_TRUE(asks(15, 0, 0));
+    EXPECT_EQ(options.eSearchMethod, kSearchChebyshev);
+    EXPECT_FALSE(asks(15, 1, 0));
+    EXPECT_FALSE(asks(15, 0, 1));
+    EXPECT_FALSE(asks(18, 0, 0));
+    fit.bDeferred = true;
+    EXPECT_FALSE(asks(14, 0, 0));
+    EXPECT_EQ(options.eSearchMethod, kSearchLM);
 }
 
 }  // namespace

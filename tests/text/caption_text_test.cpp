@@ -28,6 +28,7 @@ TEST(FormatCaption, TheFirstPlaceTakesTheText) {
 
 TEST(FormatCaption, OtherConversionsGiveNothing) {
     EXPECT_EQ(Caption("[%x%5.2f%s]", "text"), "[text]");
+    EXPECT_EQ(Caption("%x[%s]", "text"), "[text]");
     EXPECT_EQ(Caption("50%% of %s", "all"), "50% of all");
     EXPECT_EQ(Caption("end%", "text"), "end");
 }
@@ -56,6 +57,7 @@ TEST(FormatCaption, PlacesByNumberTakeTheArgumentOfTheirNumber) {
 
 TEST(LowerNoun, LettersOfTheCodePageLoseTheirCase) {
     EXPECT_EQ(Lower("Trace X2"), "trace x2");
+    EXPECT_EQ(Lower("A@Z["), "a@z[");
     EXPECT_EQ(Lower("\xC0\xD6\xDE\xD7\xDF"), "\xE0\xF6\xFE\xD7\xDF");
     EXPECT_EQ(Lower(nullptr), "");
 }

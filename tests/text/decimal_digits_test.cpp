@@ -55,6 +55,8 @@ TEST(DecimalDigits, ExactTiesGoAwayFromZero) {
     EXPECT_EQ(Digits(0.125, 2), "13@0");
     EXPECT_EQ(Digits(1125899906842624.5, 16), "1125899906842625@16");
     EXPECT_EQ(Digits(4503599627370497.5, 16), "4503599627370498@16");
+    EXPECT_EQ(Digits(250000000000.0, 1), "3@12");
+    EXPECT_EQ(Digits(2.5e21, 1), "3@22");
 }
 
 TEST(DecimalDigits, ApparentTiesGoToTheirNearerSide) {
@@ -63,6 +65,8 @@ TEST(DecimalDigits, ApparentTiesGoToTheirNearerSide) {
     EXPECT_EQ(Digits(0.35, 1), "3@0");     // 0.3499999999999999778...
     EXPECT_EQ(Digits(0.45, 1), "5@0");     // 0.4500000000000000111...
     EXPECT_EQ(Digits(1.45, 2), "14@1");    // 1.4499999999999999556...
+    EXPECT_EQ(Digits(2.5e22, 1), "2@23");  // 24999999999999997902848
+    EXPECT_EQ(Digits(3.5e22, 1), "4@23");  // 35000000000000002097152
     EXPECT_EQ(Digits(5e-324, 1), "5@-323");
     EXPECT_EQ(Digits(2.5e-323, 1), "2@-322");  // 2.47...e-323
 }
@@ -72,6 +76,12 @@ TEST(DecimalDigits, SixteenAndSeventeenDigitsAreExact) {
     EXPECT_EQ(Digits(0.1, 17), "10000000000000001@0");
     EXPECT_EQ(Digits(1.0 / 3, 17), "33333333333333331@0");
     EXPECT_EQ(Digits(9007199254740993.0, 16), "9007199254740992@16");
+}
+
+TEST(DecimalDigits, MoreThanSeventeenDigitsAreSeventeen) {
+    EXPECT_STREQ(ToDecimalDigits(1.0 / 3, 18).szDigits, "33333333333333331");
+    EXPECT_STREQ(ToDecimalDigits(1.0 / 3, 1000).szDigits, "33333333333333331");
+    EXPECT_EQ(ToDecimalDigits(1.0 / 3, 1000).nCount, 17);
 }
 
 TEST(DecimalDigits, ValuesBeyondNumbersSpellThemselves) {

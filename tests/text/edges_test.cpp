@@ -52,6 +52,10 @@ TEST(NumberEdges, TextsOfEveryShapeAreTheirNumbers) {
         {"1.5e-3", 0.0015},
         {"2e+05", 200000},
         {"7e0", 7},
+        {"123456789", 123456789},
+        {"1234567890", 1234567890},
+        {"4294967296", 4294967296.0},
+        {"12345678901", 12345678901.0},
         {"9007199254740992", 9007199254740992.0},
         {"9007199254740993", 9007199254740992.0},
         {"9007199254740995", 9007199254740996.0},
@@ -102,6 +106,11 @@ TEST(NumberEdges, WhatIsBeyondTheRangeIsZeroOrInfinity) {
         {"0.1e-400", 0},
         {"00.01e400", kInfinity},
         {"0x1p+5000", 0},
+        {"0." + zeros + "1e50", 0},
+        {zeros + "1e-400", 0},
+        {zeros + "1e310", kInfinity},
+        {"1." + zeros + "e310", kInfinity},
+        {"0." + std::string(2000, '0') + "1e1650", 0},
     };
     for (const auto& [sText, dExpected] : rows) {
         SCOPED_TRACE(sText);
@@ -189,7 +198,13 @@ TEST(ListEdges, NumbersBeyondTheRangeSpoilTheList) {
     EXPECT_EQ(Indices("1000000000", 5, 0, 1), (Values{1000000000}));
     EXPECT_EQ(Indices("2147483647", 5, 0, 1), (Values{2147483647}));
     EXPECT_EQ(Indices("2147483648", 5, 0, 0), (Values{}));
+    EXPECT_EQ(Indices("2147483648", 5, 1, 0), (Values{}));
+    EXPECT_EQ(Indices("-2147483649", 5, -1, 0), (Values{}));
     EXPECT_EQ(Indices("2147483647", 5, -1, 0), (Values{}));
+    EXPECT_EQ(Indices("2147483646..2147483647", 5, 0, 2), (Values{2147483646, 2147483647}));
+    EXPECT_EQ(Indices("4294967297", 5, 0, 0), (Values{}));
+    EXPECT_EQ(Indices("42949672961", 5, 0, 0), (Values{}));
+    EXPECT_EQ(Indices("-2147483649", 5, 0, 0), (Values{}));
     EXPECT_EQ(Indices("-2147483648", 5, 0, 1), (Values{-2147483647 - 1}));
     EXPECT_EQ(Indices("-2147483648", 5, 1, 0), (Values{}));
     EXPECT_EQ(Indices("0", 5, 2147483647, 1), (Values{-2147483647}));
@@ -200,8 +215,8 @@ TEST(ListEdges, NumbersBeyondTheRangeSpoilTheList) {
 
 TEST(ListEdges, WhatIsNoItemSpoilsTheList) {
     for (const char* szText :
-         {"",  ",", "1,", ",1", "1,,2", "1..", "..1", "1...3", "1..2..3", "1.2",  "1-2",
-          "/", ":", "1:", "a",  "+",    "+-1", "--1", "1 2",   "5.",      "5.6.7"}) {
+         {"",  ",",  "1,", ",1", "1,,2", "1..", "..1", "1...3", "1..2..3", "1.2",  "1-2", "/",
+          ":", "1:", "a",  "+",  "+-1",  "--1", "1 2", "5.",    "5.6.7",   "1.25", "1,.5"}) {
         SCOPED_TRACE(szText);
         std::int32_t values[5];
         EXPECT_EQ(ParseIndexList(szText, values, 5, 0, nullptr, nullptr, 0), 0);
@@ -222,6 +237,25 @@ TEST(ListEdges, NamesGoBeforeNumbersAndSkipTheMissing) {
     EXPECT_EQ(values[2], 3);
 }
 
+TEST(ListEdges, NamesEndWithTheirItemOrAtTheDots) {
+    const char* const names[] = {"V m", "", "a.b", "I"};
+    std::int32_t values[6] = {};
+    EXPECT_EQ(ParseIndexList(" v M\t, a.b..I ,2 ", values, 6, 0, names, nullptr, 4), 4);
+    const std::int32_t expected[] = {0, 2, 3, 2};
+    EXPECT_EQ(std::memcmp(values, expected, sizeof expected), 0);
+    EXPECT_EQ(ParseIndexList("v m", values, 6, 0, names, nullptr, 1), 1);
+    EXPECT_EQ(ParseIndexList("I ..a.b", values, 6, 0, names, nullptr, 4), 0);
+    EXPECT_EQ(ParseIndexList("I.. a.b", values, 6, 0, names, nullptr, 4), 0);
+    EXPECT_EQ(ParseIndexList("I,,I", values, 6, 0, names, nullptr, 4), 0);
+    EXPECT_EQ(ParseIndexList("a..I", values, 6, 0, names, nullptr, 4), 0);
+    EXPECT_EQ(ParseIndexList("I..I..I", values, 6, 0, names, nullptr, 4), 0);
+    // Without its blanks a name that has one isn't found; as it stands it is.
+    EXPECT_EQ(ParseList("V m", values, 6, 0, names, 4), 1);
+    EXPECT_EQ(ParseList("V m,I ", values, 6, 0, names, 4), 0);
+    EXPECT_EQ(ParseList("I ,I", values, 6, 0, names, 4), 2);
+    EXPECT_EQ(values[1], 3);
+}
+
 TEST(ListEdges, SelectionListsAreReadWithTheirBlanksTakenOut) {
     std::int32_t values[4] = {};
     EXPECT_EQ(ParseList("1 2 , 3\v..\f4", values, 4, 0, nullptr, 0), 3);
@@ -230,6 +264,7 @@ TEST(ListEdges, SelectionListsAreReadWithTheirBlanksTakenOut) {
     EXPECT_EQ(values[2], 4);
     EXPECT_EQ(ParseList("1..9", values, 4, 0, nullptr, 0), 4);
     EXPECT_EQ(ParseList("1..4", values, 4, 0, nullptr, 0), 4);
+    EXPECT_EQ(ParseList("1\x0E", values, 4, 0, nullptr, 0), 0);
     EXPECT_EQ(ParseList("x", values, 4, 0, nullptr, 0), 0);
     EXPECT_EQ(ParseList("x y", values, 4, 0, nullptr, 0), 0);
     EXPECT_EQ(ParseList("5", nullptr, 4, 0, nullptr, 0), 0);

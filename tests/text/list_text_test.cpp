@@ -68,6 +68,20 @@ TEST(IndexList, FullBufferEndsTheTextBetweenNumbers) {
     EXPECT_EQ(Format(values, 0, 1), "");
 }
 
+TEST(IndexList, NothingFollowsANumberThatDidNotFit) {
+    EXPECT_EQ(Format({5, 1000, 7}, 0, 6), "5");
+    EXPECT_EQ(Format({99, 100, 101, 7}, 0, 6), "99");
+}
+
+TEST(IndexList, NumbersBehindTheLastAreNotLookedAt) {
+    const std::int32_t anValues[] = {1, 2, 3, 4, 6};
+    char szText[20];
+    FormatIndexList(szText, sizeof szText, anValues, 3, 0);
+    EXPECT_STREQ(szText, "1..3");
+    FormatIndexList(szText, sizeof szText, anValues, 4, 0);
+    EXPECT_STREQ(szText, "1..4");
+}
+
 TEST(IndexList, ExtremeNumbersDoNotWrap) {
     EXPECT_EQ(Format({2147483646, 2147483647}, 1), "2147483647..2147483648");
     EXPECT_EQ(Format({2147483647, -2147483647 - 1}), "2147483647, -2147483648");

@@ -284,4 +284,73 @@ TEST(ParseFloatNormal, ValueIsCutToSinglePrecision) {
     EXPECT_EQ(fValue, -1e30f);
 }
 
+TEST(FormatFixed, EveryCountOfIntegerDigitsKeepsItsDecimals) {
+    EXPECT_EQ(Fixed(1.567, 2), "1.57");
+    EXPECT_EQ(Fixed(10.567, 2), "10.57");
+    EXPECT_EQ(Fixed(100.567, 2), "100.57");
+    EXPECT_EQ(Fixed(1000.567, 2), "1000.57");
+    EXPECT_EQ(Fixed(10000.567, 2), "10000.57");
+    EXPECT_EQ(Fixed(100000.567, 2), "100000.57");
+    EXPECT_EQ(Fixed(1000000.567, 2), "1000000.57");
+    EXPECT_EQ(Fixed(10000000, 2), "10000000.00");
+    EXPECT_EQ(Fixed(-10000000, 2), "-10000000.00");
+}
+
+// Sixteen digits are shown as they are, from seventeen on fifteen are; a value whose logarithm
+// rounds up to the next integer has one digit more in front.
+TEST(FormatFixed, LogarithmDecidesAtThePowersOfTen) {
+    const struct {
+        double dFirst;  // that counts as the power
+        std::uint32_t uDecimals;
+        const char* szBelow;
+        const char* szFirst;
+    } rows[] = {
+        {10.0, 15, "9.999999999999998", "10.000000000000000"},
+        {0x1.8ffffffffffffp+6, 14, "99.99999999999997", "100.00000000000000"},
+        {0x1.f3ffffffffffcp+9, 13, "999.9999999999994", "1000.0000000000000"},
+        {0x1.387fffffffffep+13, 12, "9999.999999999995", "10000.000000000000"},
+        {0x1.869fffffffff9p+16, 11, "99999.99999999988", "99999.99999999990"},
+        {0x1.e847ffffffff8p+19, 10, "999999.9999999990", "999999.9999999990"},
+        {0x1.312cffffffffbp+23, 9, "9999999.999999989", "9999999.999999990"},
+        {0x1.312cffffffffbp+23, 7, "10000000.0000000", "9999999.99999999"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(Fixed(std::nextafter(row.dFirst, 0.0), row.uDecimals), row.szBelow);
+        EXPECT_EQ(Fixed(row.dFirst, row.uDecimals), row.szFirst);
+    }
+}
+
+TEST(FormatFixed, DigitsFarBehindThePointEndWithTheTypesPrecision) {
+    EXPECT_EQ(Fixed(1.5e-15, 20), "0.00000000000000150000");
+    EXPECT_EQ(Fixed(1.5e-16, 20), "0.00000000000000000000");
+    EXPECT_EQ(Fixed(0.06, 1), "0.1");
+    EXPECT_EQ(Fixed(0.0006, 2), "0.00");
+    EXPECT_EQ(Fixed(-0.0006, 2), "0.00");
+}
+
+TEST(FormatFixed, TextIsThirtyOneCharactersAtMost) {
+    EXPECT_EQ(Fixed(0.5, 40), "0.50000000000000000000000000000");
+    EXPECT_EQ(Fixed(-1.23456789012345e-15, 40), "-0.0000000000000012345678901234");
+    EXPECT_EQ(Fixed(0, 40), "0.00000000000000000000000000000");
+}
+
+TEST(FormatSignificant, ZeroShowsAsOneDigit) {
+    char szText[64];
+    FormatDouble(0, szText, sizeof szText, kFormatSignificant, 0, 5, nullptr);
+    EXPECT_STREQ(szText, "0");
+    FormatDouble(1.5, szText, sizeof szText, kFormatSignificant, 0, 5, nullptr);
+    EXPECT_STREQ(szText, "1.5");
+    FormatDouble(12, szText, sizeof szText, kFormatSignificant, 0, 5, nullptr);
+    EXPECT_STREQ(szText, "12");
+}
+
+// A format that is neither takes the digits as they are.
+TEST(FormatSignificant, OtherFormatsTakeAnyCountOfDigits) {
+    char szText[64];
+    FormatDouble(1e8 / 3, szText, sizeof szText, 7, 0, 0xFFFFFFFFu, nullptr);
+    EXPECT_STREQ(szText, "3.3333333333333332e7");
+    FormatDouble(1e8, szText, sizeof szText, 7, 0, 0, nullptr);
+    EXPECT_STREQ(szText, "0e8");
+}
+
 }  // namespace

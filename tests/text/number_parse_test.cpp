@@ -82,6 +82,9 @@ TEST(ParseDouble, OtherCharactersAreRefused) {
     EXPECT_EQ(Code("1.#INFe0"), 3);
     EXPECT_EQ(Code("\xB5"), 3);
     EXPECT_EQ(Code("1d5"), 3);
+    EXPECT_EQ(Code("1:"), 3);
+    EXPECT_EQ(Code("1/"), 3);
+    EXPECT_EQ(Code("5\x01"), 3);
 }
 
 TEST(ParseDouble, OneHundredAndOneCharactersAreTooLong) {
@@ -115,6 +118,13 @@ TEST(TextToDouble, ReadsAsTheRuntimeDoes) {
     EXPECT_EQ(TextToDouble("0x-1"), 0.0);
     EXPECT_EQ(TextToDouble("1e999"), kInfinity);
     EXPECT_EQ(TextToDouble("1.#INF"), 1.0);
+    EXPECT_EQ(TextToDouble("0x1"), 1.0);
+    // What is no number has no sign; a zero has.
+    EXPECT_FALSE(std::signbit(TextToDouble("-x")));
+    EXPECT_FALSE(std::signbit(TextToDouble("-")));
+    EXPECT_TRUE(std::signbit(TextToDouble("-0xg")));
+    EXPECT_TRUE(std::signbit(TextToDouble("-0x0")));
+    EXPECT_FALSE(std::signbit(TextToDouble("-0x1p+5000")));
 }
 
 TEST(TextToInt, StaysWithinThirtyTwoBits) {
@@ -149,6 +159,9 @@ TEST(TextToUnsigned, ReadsDecimalOctalAndHexadecimal) {
     EXPECT_EQ(TextToUInt64("0xFFFFFFFFFFFFFFFF"), 18446744073709551615u);
     EXPECT_EQ(TextToUInt64("-1"), 18446744073709551615u);
     EXPECT_EQ(TextToUInt64(nullptr), 0u);
+    EXPECT_EQ(TextToUInt32("-4294967296"), 4294967295u);
+    EXPECT_EQ(TextToUInt64("-18446744073709551616"), 18446744073709551615u);
+    EXPECT_EQ(TextToUInt32("0x1\xE1"), 1u);
 }
 
 TEST(WriteGeneral, WritesSixSignificantDigits) {

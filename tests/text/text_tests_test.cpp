@@ -44,6 +44,7 @@ TEST(TextTests, BlanksAtTheEdges) {
     EXPECT_FALSE(HasEdgeSpaces("a b"));
     EXPECT_FALSE(HasEdgeSpaces("\ta"));
     EXPECT_FALSE(HasEdgeSpaces(""));
+    EXPECT_TRUE(HasEdgeSpaces("\x01 "));
     EXPECT_FALSE(HasEdgeSpaces(nullptr));
 }
 

@@ -5,7 +5,7 @@ Every mutant of a folder is compiled into one program beside the code as it is, 
 ZX_MUTANT. Each test is run once to see which mutants it comes by; then each mutant runs with these tests until
 one fails. Results are kept in build/mutate/<folder>.json: a second run repeats only the mutants that were
 alive or are new. The survivors are written to build/mutate/<folder>.txt. tests/mutate/equivalent.txt names
-those that change nothing; they count as alive.
+those that change nothing; they count as alive, and an entry that names no living mutant fails the run.
 """
 import argparse
 import concurrent.futures
@@ -109,6 +109,10 @@ class Build:
         live = self.live()
         Rewriter(self.finder, [m.places for m in live], [m.number for m in live], self.kept).write(self.out)
 
+    def is_own(self, path):
+        """Whether a path of the compiler's messages is one of the changed copies; it may start at the build folder."""
+        return os.path.normpath(os.path.join(WORK, "build", path)).startswith(self.out + os.sep)
+
     def learn(self, messages):
         """Takes out what the compiler refused; returns whether there was something to take out."""
         learned = False
@@ -122,8 +126,15 @@ class Build:
             if named:
                 self.kept |= named
                 learned = True
-            elif ": error:" in match.group(0) and os.path.abspath(path).startswith(self.out + os.sep):
+            elif ": error:" in match.group(0) and self.is_own(path):
                 refused.add((os.path.join(self.folder, os.path.basename(path)), line))
+        # What goes wrong in a header of the compiler was asked for by the line that it names before.
+        asked = None
+        for match in re.finditer(r"^(\S+?):(\d+):\d+:\s+(required from here$|error:)", messages, re.M):
+            if match.group(3) != "error:":
+                asked = (match.group(1), int(match.group(2)))
+            elif match.group(1).startswith("/usr/") and asked and self.is_own(asked[0]):
+                refused.add((os.path.join(self.folder, os.path.basename(asked[0])), asked[1]))
         if learned:
             return True
         for m in self.live():
@@ -362,6 +373,14 @@ def report(folder, mutants, left_out, results, seconds):
             if m.number in left_out:
                 out.write("%s:%d: left out: %s (%s)\n" % (m.file, m.first_line, m.what, left_out[m.number]))
     print(summary, flush=True)
+    # An entry must name a mutant that there is and that lives, or it hides nothing but a change of the code.
+    there = {(m.file, m.line_text, m.what) for m in mutants}
+    dead = {(m.file, m.line_text, m.what) for m in killed} - {(m.file, m.line_text, m.what) for m in alive}
+    wrong = [key for key in equivalents if key[0].startswith(folder + "/") and (key not in there or key in dead)]
+    for key in wrong:
+        print("mutate: equivalent.txt names what %s: %s" % ("is killed" if key in dead else "is not there",
+                                                            " | ".join(key)), flush=True)
+    return not wrong
 
 
 def prepare_folder(folder, jobs):
@@ -400,7 +419,7 @@ def run_folder(build, reach, programs, jobs, fresh, every):
     save()
     sample = {m.key for m in build.live()[::every]}
     asked = {key: result for key, result in results.items() if key in sample}
-    report(folder, mutants, build.left_out, asked, time.time() - started)
+    return report(folder, mutants, build.left_out, asked, time.time() - started)
 
 
 def main():
@@ -429,8 +448,10 @@ def main():
     print("built after %d s" % (time.time() - started), flush=True)
     reach = Reach(every)
     print("reach recorded after %d s" % (time.time() - started), flush=True)
-    for build in builds:
-        run_folder(build, reach, programs[build.folder], options.jobs, options.fresh, options.every)
+    right = [run_folder(build, reach, programs[build.folder], options.jobs, options.fresh, options.every)
+             for build in builds]
+    if not all(right):
+        raise SystemExit(1)
 
 
 main()
