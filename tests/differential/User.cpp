@@ -149,6 +149,8 @@ bool IsKnownToDiffer(HWND hwnd, const Words& words) {
     const std::string message = rest.Next();
     const auto style = static_cast<DWORD>(GetWindowLongPtrA(hwnd, GWL_STYLE));
     if (message == "LB_SELECTSTRING") return (style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+    // The platform's witness answers what is left in its memory.
+    if (message == "EM_CHARFROMPOS") return GetWindowTextLengthA(hwnd) == 0;
     if (message == "LB_SETSEL") return (style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) == 0;
     if (message != "CB_SETCURSEL") return false;
     return rest.NextNumber() >= SendMessageA(hwnd, CB_GETCOUNT, 0, 0);

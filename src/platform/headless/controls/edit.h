@@ -77,6 +77,8 @@ class Edit : public ControlObject<Edit> {
     POINT CaretPoint() const;
     int VisibleLines() const;
     bool ScrollLines(int lines);
+    void ScrollColumns(int letters);
+    int WidestLine(const ControlDc& dc) const;
     void ScrollToCaret();
     void ScrollLineToCaret();
     void ScrollLinesToColumn(int x);

@@ -252,6 +252,24 @@ bool Edit::ScrollLines(int lines) {
     return true;
 }
 
+int Edit::WidestLine(const ControlDc& dc) const {
+    int widest = 0;
+    for (const Line& line : m_lines)
+        widest = std::max(widest, TextWidth(dc, line.start, line.length));
+    return widest;
+}
+
+// A program may scroll until the widest line has gone out of the field.
+void Edit::ScrollColumns(int letters) {
+    const ControlDc dc(m_hwnd, m_font);
+    const int shift = letters * static_cast<int>(dc.Metrics().tmAveCharWidth);
+    const int offset = std::clamp(m_leftOffset + shift, 0, WidestLine(dc));
+    if (offset == m_leftOffset) return;
+    m_leftOffset = offset;
+    Repaint();
+    Notify(EN_HSCROLL);
+}
+
 // A caret that has left the field comes back with a third of the field beyond it, as far as there
 // is text.
 void Edit::ScrollLineToCaret() {
@@ -301,7 +319,8 @@ void Edit::ScrollToCaret() {
     if (!Wraps()) ScrollLinesToColumn(CaretPoint().x);
 }
 
-// As in a single line, a third of the width comes in at once, in whole letters.
+// As in a single line, a third of the width comes in at once, in whole letters and as far as there
+// is text.
 void Edit::ScrollLinesToColumn(int x) {
     const ControlDc dc(m_hwnd, m_font);
     const int room = m_format.right - m_format.left;
@@ -313,6 +332,7 @@ void Edit::ScrollLinesToColumn(int x) {
         const int rest = (kScrolledPart - 1) * room / kScrolledPart;
         shift = x - m_format.left - rest / letter * letter;
     }
+    shift = std::min(shift, WidestLine(dc) - room - m_leftOffset);
     m_leftOffset = std::max(m_leftOffset + shift, 0);
 }
 
