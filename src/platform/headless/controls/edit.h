@@ -126,6 +126,9 @@ class Edit : public ControlObject<Edit> {
     size_t m_firstLine = 0;  // of several lines: the first one shown
     size_t m_firstChar = 0;  // of one line: the first character shown
     int m_leftOffset = 0;    // of several lines: pixels scrolled to the left
+    // Of several lines: the widest, in its font, since there were fewer lines. It is no less when a
+    // line becomes shorter.
+    int m_widest = 0;
     RECT m_format = {};      // where text stands in the client area
     int m_leftMargin = 0;
     int m_rightMargin = 0;

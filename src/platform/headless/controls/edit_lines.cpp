@@ -87,8 +87,11 @@ void Edit::Reformat() {
     m_lineHeight = std::max<int>(dc.Metrics().tmHeight, 1);
     m_letterWidth = std::max(dc.LetterWidth(), 1);
     UpdateFormatRect();
+    const std::size_t before = m_lines.size();
     m_lines = BreakLines(m_text);
     m_firstLine = std::min(m_firstLine, m_lines.size() - 1);
+    if (m_text.empty() || m_lines.size() < before) m_widest = 0;
+    if (IsMultiLine()) m_widest = std::max(m_widest, WidestLine(dc));
 }
 
 void Edit::UpdateFormatRect() {
@@ -259,11 +262,11 @@ int Edit::WidestLine(const ControlDc& dc) const {
     return widest;
 }
 
-// A program may scroll until the widest line has gone out of the field.
+// A program may scroll until the widest line would be out of the field.
 void Edit::ScrollColumns(int letters) {
     const ControlDc dc(m_hwnd, m_font);
     const int shift = letters * static_cast<int>(dc.Metrics().tmAveCharWidth);
-    const int offset = std::clamp(m_leftOffset + shift, 0, WidestLine(dc));
+    const int offset = std::clamp(m_leftOffset + shift, 0, m_widest);
     if (offset == m_leftOffset) return;
     m_leftOffset = offset;
     Repaint();
@@ -316,11 +319,12 @@ void Edit::ScrollToCaret() {
     }
     // Nothing is left empty below the last line while there are lines above.
     ScrollLines(0);
-    if (!Wraps()) ScrollLinesToColumn(CaretPoint().x);
+    // What wraps scrolls back, where a program scrolled it.
+    if (!Wraps() || m_leftOffset > 0) ScrollLinesToColumn(CaretPoint().x);
 }
 
-// As in a single line, a third of the width comes in at once, in whole letters and as far as there
-// is text.
+// As in a single line, a third of the width comes in at once, in whole letters, as far as the
+// widest line goes.
 void Edit::ScrollLinesToColumn(int x) {
     const ControlDc dc(m_hwnd, m_font);
     const int room = m_format.right - m_format.left;
@@ -332,7 +336,7 @@ void Edit::ScrollLinesToColumn(int x) {
         const int rest = (kScrolledPart - 1) * room / kScrolledPart;
         shift = x - m_format.left - rest / letter * letter;
     }
-    shift = std::min(shift, WidestLine(dc) - room - m_leftOffset);
+    shift = std::min(shift, m_widest - room - m_leftOffset);
     m_leftOffset = std::max(m_leftOffset + shift, 0);
 }
 
