@@ -252,10 +252,13 @@ void Edit::OnButtonDown(POINT point, bool extend) {
 }
 
 void Edit::OnDoubleClick(POINT point) {
+    // The word is the one that begins before the place that was clicked, be it where the next one
+    // begins. A line end is one for itself.
     const size_t index = IndexFromPoint(Confined(point), nullptr);
-    const size_t start =
-        IsWordStart(m_text, index) && index < m_text.size() ? index : WordBackward(index);
-    Select(start, WordForward(start));
+    const auto beginsLine = [&](size_t at) { return m_lines[LineOf(at)].start == at; };
+    const size_t from = beginsLine(index) ? Backward(index) : index;
+    const size_t start = beginsLine(from) ? from : WordBackward(from);
+    Select(start, std::max(WordForward(start), index));
     ScrollToCaret();
 }
 
