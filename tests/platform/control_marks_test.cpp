@@ -98,6 +98,15 @@ TEST_F(EditTest, AThirdOfTheFieldComesInWhenTheCaretLeavesIt) {
     EXPECT_EQ(0, Send(EM_GETFIRSTVISIBLELINE));
 }
 
+TEST_F(EditTest, WhatIsDeletedToTheEndComesIntoViewFirst) {
+    MakeLine(ES_AUTOHSCROLL, "0123456789012345678901234567890123456789");
+    Select(10, 10);
+    ASSERT_EQ(0, Send(EM_GETFIRSTVISIBLELINE));
+    Key(VK_DELETE, false, true);
+    EXPECT_EQ("0123456789", Text());
+    EXPECT_GT(Send(EM_GETFIRSTVISIBLELINE), 0);
+}
+
 TEST_F(EditTest, PastingNothingKeepsTheSelection) {
     MakeLine(ES_AUTOHSCROLL, "text");
     ASSERT_TRUE(OpenClipboard(m_control));

@@ -135,7 +135,7 @@ void Edit::OnChar(char c) {
             return;
         case '\b':
             if (IsReadOnly() || control) return;
-            if (m_anchor == m_caret) Select(m_caret, Backward(m_caret));
+            if (m_anchor == m_caret) MoveTo(Backward(m_caret), true);
             Clear();
             return;
         case kControlC:
@@ -222,17 +222,17 @@ void Edit::MoveEnd(bool extend, bool all) {
     ScrollToCaret();
 }
 
+// What goes is selected first, and comes into view.
 void Edit::OnDelete(bool shift, bool control) {
     if (IsReadOnly() || (shift && control)) return;
     if (m_anchor != m_caret) {
         if (shift) Copy();
     } else if (shift) {
-        Select(m_caret, Backward(m_caret));
+        MoveTo(Backward(m_caret), true);
     } else if (control) {
-        const Line& line = m_lines[CaretLine()];
-        Select(m_caret, line.start + line.length);
+        MoveEnd(true, false);
     } else {
-        Select(m_caret, Forward(m_caret));
+        MoveTo(Forward(m_caret), true);
     }
     Clear();
 }
