@@ -37,7 +37,8 @@ class Canvas {
     void Write(std::FILE* out) const {
         for (int y = 0; y < m_height; ++y) {
             std::string row;
-            for (int x = 0; x < m_width; ++x) row += GetRValue(GetPixel(m_dc, x, y)) < kDark ? '#' : '-';
+            for (int x = 0; x < m_width; ++x)
+                row += GetRValue(GetPixel(m_dc, x, y)) < kDark ? '#' : '-';
             std::fprintf(out, "%s\n", row.c_str());
         }
     }

@@ -186,8 +186,8 @@ bool DoAsUser(HWND dialog, const std::string& verb, Words& words) {
     } else if (verb == "focus") {
         settledFocus = nullptr;
         const HWND hwnd = Target(dialog, words.Next());
-        // A radio button that has it while it is hidden makes some systems look for the next one for
-        // ever.
+        // A radio button that has it while it is hidden makes some systems look for the next one
+        // for ever.
         if (hwnd != nullptr && CanBeUsed(hwnd))
             SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(hwnd), TRUE);
     } else if (verb == "mnemonic") {

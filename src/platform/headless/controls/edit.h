@@ -129,7 +129,7 @@ class Edit : public ControlObject<Edit> {
     // Of several lines: the widest, in its font, since there were fewer lines. It is no less when a
     // line becomes shorter.
     int m_widest = 0;
-    RECT m_format = {};      // where text stands in the client area
+    RECT m_format = {};  // where text stands in the client area
     int m_leftMargin = 0;
     int m_rightMargin = 0;
     int m_tabStop = 32;  // dialog units
