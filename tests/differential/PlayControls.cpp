@@ -78,11 +78,6 @@ class Stage {
         Finish();
         if (verb != "show") return false;
         if (Made() && !m_shown) {
-            // Whether a text that a field is made with counts as a change is not compared.
-            for (const HWND hwnd : test_support::Descendants(Dialog())) {
-                if (test_support::ClassOf(hwnd) == "edit")
-                    SendMessageA(hwnd, EM_SETMODIFY, FALSE, 0);
-            }
             m_told.Take();
             m_shown = true;
             ShowWindow(Dialog(), SW_SHOW);

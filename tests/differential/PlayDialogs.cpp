@@ -67,13 +67,17 @@ std::vector<double> DecayingWave() {
     return values;
 }
 
-// Whether anything waits that must be done before the next action; painting and timers need not.
+// Whether anything waits that must be done before the next action; painting and timers, those of
+// the caret as well, need not: they come last, after the message that asks here again.
 bool Busy() {
-    MSG msg;
+    constexpr UINT kCaretTimer = 0x118;  // has no name
     constexpr UINT kLast = 0xFFFF;
-    return PeekMessageA(&msg, nullptr, 0, WM_PAINT - 1, PM_NOREMOVE) ||
-           PeekMessageA(&msg, nullptr, WM_PAINT + 1, WM_TIMER - 1, PM_NOREMOVE) ||
-           PeekMessageA(&msg, nullptr, WM_TIMER + 1, kLast, PM_NOREMOVE);
+    const auto waits = [](UINT first, UINT last) {
+        MSG msg;
+        return PeekMessageA(&msg, nullptr, first, last, PM_NOREMOVE) != FALSE;
+    };
+    return waits(0, WM_PAINT - 1) || waits(WM_PAINT + 1, WM_TIMER - 1) ||
+           waits(WM_TIMER + 1, kCaretTimer - 1) || waits(kCaretTimer + 1, kLast);
 }
 
 // The user: a window that posts itself a message until nothing else waits, and then does the next

@@ -66,5 +66,7 @@ void GenerateDialogs(std::FILE* out, uint64_t base, int number, int actions);
 // what the parent was told ("!") and each window that is not as it was (".").
 void PlayControls(std::FILE* out, const Scenario& scenario);
 void PlayDialogs(std::FILE* out, const Scenario& scenario);
+// As many rows of '#' and '-' as the picture is high, for each line "picture NAME WIDTH HEIGHT".
+void PlayPictures(std::FILE* out, const Scenario& scenario);
 
 }  // namespace differential

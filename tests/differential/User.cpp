@@ -149,6 +149,8 @@ bool IsKnownToDiffer(HWND hwnd, const Words& words) {
     const std::string message = rest.Next();
     const auto style = static_cast<DWORD>(GetWindowLongPtrA(hwnd, GWL_STYLE));
     if (message == "LB_SELECTSTRING") return (style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+    // The platform's witness answers what is left in its memory.
+    if (message == "EM_CHARFROMPOS") return GetWindowTextLengthA(hwnd) == 0;
     if (message == "LB_SETSEL") return (style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) == 0;
     if (message != "CB_SETCURSEL") return false;
     return rest.NextNumber() >= SendMessageA(hwnd, CB_GETCOUNT, 0, 0);
@@ -184,7 +186,9 @@ bool DoAsUser(HWND dialog, const std::string& verb, Words& words) {
     } else if (verb == "focus") {
         settledFocus = nullptr;
         const HWND hwnd = Target(dialog, words.Next());
-        if (hwnd != nullptr)
+        // A radio button that has it while it is hidden makes some systems look for the next one
+        // for ever.
+        if (hwnd != nullptr && CanBeUsed(hwnd))
             SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(hwnd), TRUE);
     } else if (verb == "mnemonic") {
         settledFocus = nullptr;

@@ -50,8 +50,7 @@ void ReadEdit(HWND hwnd, Line& line) {
     // Where an empty field is scrolled to cannot be seen.
     if (GetWindowTextLengthA(hwnd) > 0) line.Add("first", Ask(hwnd, EM_GETFIRSTVISIBLELINE));
     line.Add("lines", Ask(hwnd, EM_GETLINECOUNT));
-    // Whether a text that a field is made with counts as a change is not compared.
-    if (IsWindowVisible(hwnd)) line.Add("modified", Ask(hwnd, EM_GETMODIFY) != 0);
+    line.Add("modified", Ask(hwnd, EM_GETMODIFY) != 0);
     line.Add("undo", Ask(hwnd, EM_CANUNDO) != 0);
 }
 
@@ -116,6 +115,16 @@ std::string Describe(HWND hwnd, HWND top, bool places) {
     return line.m_text;
 }
 
+// Whether a text that a field is made with counts as a change is not compared.
+void ForgetChangesOfNew(HWND top) {
+    constexpr char kSeen[] = "ZxDifferentialSeen";
+    if (GetPropA(top, kSeen) != nullptr) return;
+    SetPropA(top, kSeen, reinterpret_cast<HANDLE>(top));
+    for (const HWND hwnd : test_support::Descendants(top)) {
+        if (ClassOf(hwnd) == "edit") SendMessageA(hwnd, EM_SETMODIFY, FALSE, 0);
+    }
+}
+
 std::string NameOf(HWND hwnd, HWND top) {
     if (hwnd == nullptr) return "nothing";
     if (hwnd == top) return "the dialog";
@@ -141,6 +150,7 @@ std::string DescribeTop(HWND top) {
 }  // namespace
 
 std::vector<std::string> WindowState::Changes(HWND top, bool places) {
+    ForgetChangesOfNew(top);
     if (top != m_top) m_known.clear();
     m_top = top;
     std::vector<std::string> changes;

@@ -4,6 +4,7 @@
 compare.py short [--base N]      about a minute: what "make test" runs
 compare.py long [--base N]       50,000 operations of each kind and 1,000 runs of 200 actions
 compare.py random controls|dialogs [--base N] [--first N] [--count N] [--actions N] [--reduce N]
+compare.py pictures
 compare.py file FILE [--reduce N]
 
 Random scenarios come from a base: scenario n of a base is always the same. Of each scenario the first difference
@@ -30,6 +31,11 @@ SETUP = ("dialog", "page", "control", "show", "open")
 TIME_LIMIT = 3600
 # Per cent of operations, and of runs whose records, stores, messages and host calls are the same.
 GOALS = {"controls": 99.9, "dialogs": 99.95, "outcomes": 99.5}
+# The equation pictures, in a pane at 100 and at 150 %, and how many per cent of a picture's dark pixels may differ:
+# edges that fall between two pixels go to the one or to the other, a bar is a row thicker or thinner.
+EQUATIONS = os.path.join(ROOT, "resources/equations.rc")
+PICTURE_SIZES = ((333, 55), (500, 83))
+PICTURE_LIMIT = 15.0
 # kind -> scenarios, actions of each
 SHORT = {"controls": (120, 40), "dialogs": (40, 100)}
 LONG = {"controls": (1250, 50), "dialogs": (1000, 200)}
@@ -294,16 +300,16 @@ def outcome(blocks):
 
 
 def run(kind, base, first, count, actions):
-    """As compare, in several processes; gives the results and how many scenarios left the same behind."""
-    results, same = [], 0
+    """As compare, in several processes; gives the results and the scenarios that did not leave the same behind."""
+    results, others = [], []
     for start_at in range(first, first + count, CHUNK):
         size = min(CHUNK, first + count - start_at)
         scenarios = generate(kind, base, start_at, size, actions)
         ours, theirs = play(scenarios, kind)
         results += differences_of(scenarios, ours, theirs)
-        same += sum(outcome(ours.get(n, [])) == outcome(theirs.get(n, [1])) for n, _ in scenarios
-                    if n in ours and n in theirs)
-    return results, same
+        others += [n for n, _ in scenarios
+                   if n not in ours or n not in theirs or outcome(ours[n]) != outcome(theirs[n])]
+    return results, others
 
 
 def report(results, known, to_reduce):
@@ -342,21 +348,49 @@ def check_known(known):
     return closed
 
 
+def pictures_differ():
+    """Lays the pictures of both systems over each other; gives whether one differs by more than the limit."""
+    with open(EQUATIONS, encoding="utf-8") as file:
+        names = re.findall(r"^(\w+) METAFILE", file.read(), re.M)
+    scenarios = [(name, ["picture %s %d %d" % ((name,) + size) for size in PICTURE_SIZES]) for name in names]
+    ours, theirs = play(scenarios, "pictures")
+    shares = []
+    for name, lines in scenarios:
+        for at, line in enumerate(lines):
+            mine, other = ("".join(trace[name][at][1]) for trace in (ours, theirs))
+            dark = other.count("#")
+            differing = sum(a != b for a, b in zip(mine, other)) + abs(len(mine) - len(other))
+            shares.append((100.0 * differing / dark if dark else 100.0, line))
+    worst, line = max(shares)
+    print("    pictures: %d, on average %.2f %% of the dark pixels differ, at most %.2f %% (%s), the limit is %s" % (
+        len(shares), sum(share for share, _ in shares) / len(shares), worst, line, PICTURE_LIMIT))
+    return worst > PICTURE_LIMIT
+
+
+def report_outcomes(others, count, actions):
+    """Prints which runs left something else behind for their host; gives the per cent of those that did not."""
+    for name in others:
+        print("    %s leaves something else behind" % name)
+    outcomes = 100.0 * (count - len(others)) / max(1, count)
+    print("    outcomes: %d of %d runs of %d actions left the same records, stores, messages and host calls: "
+          "%.2f %%, the goal is %s" % (count - len(others), count, actions, outcomes, GOALS["outcomes"]))
+    return outcomes
+
+
 def run_all(sizes, base, strict):
-    """Known differences, controls, dialogs; gives whether all is well."""
+    """Known differences, pictures, controls, dialogs; gives whether all is well."""
     known = read_known()
     well = not check_known(known)
+    well = not pictures_differ() and well
     print("    %d known differences" % len(known))
     for kind, (count, actions) in sizes.items():
-        results, same = run(kind, base, 0, count, actions)
+        results, others = run(kind, base, 0, count, actions)
         operations, differences, unknown = report(results, known, 0)
         equal = 100.0 * (operations - differences) / max(1, operations)
         print("    %s: base %d, %d operations compared, %d differences (%d not known): %.3f %% equal, the goal is %s" % (
             kind, base, operations, differences, unknown, equal, GOALS[kind]))
         if kind == "dialogs":
-            outcomes = 100.0 * same / count
-            print("    outcomes: %d of %d runs of %d actions left the same records, stores, messages and host calls: "
-                  "%.2f %%, the goal is %s" % (same, count, actions, outcomes, GOALS["outcomes"]))
+            outcomes = report_outcomes(others, count, actions)
             well = well and (outcomes >= GOALS["outcomes"] or strict)
         well = well and (unknown == 0 if strict else equal >= GOALS[kind])
     return well
@@ -364,7 +398,7 @@ def run_all(sizes, base, strict):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("what", choices=("short", "long", "random", "file"))
+    parser.add_argument("what", choices=("short", "long", "random", "pictures", "file"))
     parser.add_argument("which", nargs="?")
     parser.add_argument("--base", type=int, default=1)
     parser.add_argument("--first", type=int, default=0)
@@ -374,10 +408,14 @@ def main():
     args = parser.parse_args()
     if args.what in ("short", "long"):
         return 0 if run_all(SHORT if args.what == "short" else LONG, args.base, args.what == "short") else 1
+    if args.what == "pictures":
+        return 1 if pictures_differ() else 0
     if args.what == "file":
         results = compare(read_scenarios(args.which))
     else:
-        results, _ = run(args.which, args.base, args.first, args.count, args.actions)
+        results, others = run(args.which, args.base, args.first, args.count, args.actions)
+        if args.which == "dialogs":
+            report_outcomes(others, args.count, args.actions)
     operations, differences, unknown = report(results, read_known(), args.reduce)
     print("%d scenarios, %d operations compared, %d differences (%d not known): %.3f %% equal" % (
         len(results), operations, differences, unknown, 100.0 * (operations - differences) / max(1, operations)))

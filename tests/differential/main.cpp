@@ -17,7 +17,8 @@
 
 namespace {
 
-constexpr unsigned kLimitOfAScenario = 180000;  // ms
+// Long enough for 200 actions on a machine that does much else.
+constexpr unsigned kLimitOfAScenario = 900000;  // ms
 
 int Fail(const char* why) {
     std::fprintf(stderr, "zx_differential: %s\n", why);
@@ -38,6 +39,12 @@ int Generate(char** words) {
     return 0;
 }
 
+auto PlayerOf(const differential::Scenario& scenario) {
+    const std::string first = scenario.lines.empty() ? "" : scenario.lines[0];
+    if (first.rfind("picture ", 0) == 0) return differential::PlayPictures;
+    return first.rfind("open ", 0) == 0 ? differential::PlayDialogs : differential::PlayControls;
+}
+
 int Play(char** words) {
     std::FILE* trace = std::fopen(words[1], "wb");
     if (trace == nullptr) return Fail("the trace cannot be written");
@@ -49,8 +56,7 @@ int Play(char** words) {
         // A crash leaves what led to it.
         std::fflush(trace);
         const test_support::HardLimit limit(kLimitOfAScenario);
-        const bool dialogs = !scenario.lines.empty() && scenario.lines[0].rfind("open ", 0) == 0;
-        (dialogs ? differential::PlayDialogs : differential::PlayControls)(trace, scenario);
+        PlayerOf(scenario)(trace, scenario);
         std::fputs("end\n", trace);
     }
     test_support::StopSystem();

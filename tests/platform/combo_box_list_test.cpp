@@ -158,4 +158,67 @@ TEST_F(ComboBoxTest, AResetAnswersThatAllIsWell) {
     KNOWN_GAP(kWine, "a reset answers 1", Send(CB_RESETCONTENT) == CB_OKAY);
 }
 
+TEST_F(ComboBoxTest, OpeningByTheButtonTakesTheTextOfTheItemThatItMatches) {
+    MakeEdit();
+    SetWindowTextA(m_edit, "oth");
+    ClickButton();
+    EXPECT_EQ("other 4", Text());
+    EXPECT_EQ("0..7", EditSelection());
+    EXPECT_EQ(4, Current());
+    Send(CB_SHOWDROPDOWN, FALSE);
+}
+
+TEST_F(ComboBoxTest, OpeningOverATextThatNoItemMatchesGoesToTheFirstItem) {
+    MakeEdit();
+    Send(CB_SETCURSEL, 3);
+    SetWindowTextA(m_edit, "none");
+    Send(CB_SHOWDROPDOWN, TRUE);
+    EXPECT_EQ(CB_ERR, Current());
+    EXPECT_EQ(0, SendMessageA(m_list, LB_GETCARETINDEX, 0, 0));
+    EXPECT_EQ("none", Text());
+    Send(CB_SHOWDROPDOWN, FALSE);
+}
+
+TEST_F(ComboBoxTest, ATextThatTheLimitCutsIsTold) {
+    MakeEdit();
+    SetFocus(m_control);
+    Send(CB_LIMITTEXT, 2);
+    TypeTo(m_edit, "ab");
+    Events();
+    TypeTo(m_edit, "c");
+    EXPECT_EQ("ab", Text());
+    EXPECT_EQ("0xFFFF CBN_EDITUPDATE CBN_EDITCHANGE", Events()) << "no space comes as -1";
+}
+
+TEST_F(ComboBoxTest, PageKeysInAClosedListMoveByWhatItWouldShow) {
+    MakeCombo(CBS_DROPDOWNLIST, 6);
+    const int item = static_cast<int>(Send(CB_GETITEMHEIGHT));
+    const auto openHeight = [&](int rows) {
+        SetWindowPos(m_control, nullptr, 0, 0, 100, Height() + rows * item + 2,
+                     SWP_NOMOVE | SWP_NOZORDER);
+    };
+    openHeight(3);
+    Send(CB_SETCURSEL, 0);
+    Key(VK_NEXT);
+    EXPECT_EQ(2, Current());
+    Key(VK_PRIOR);
+    EXPECT_EQ(0, Current());
+    openHeight(1);
+    Events();
+    Key(VK_NEXT);
+    EXPECT_EQ(0, Current()) << "one item that shows is the whole page";
+    EXPECT_EQ("CBN_SELENDOK CBN_SELCHANGE", Events());
+}
+
+TEST_F(ComboBoxTest, ADoubleClickWhereNoItemIsIsNotTold) {
+    MakeList(0);
+    Send(CB_SHOWDROPDOWN, TRUE);
+    Events();
+    SendMessageA(m_list, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageA(m_list, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    KNOWN_GAP(kWine, "a double click into an open list is told",
+              Events().find("CBN_DBLCLK") == std::string::npos);
+    Send(CB_SHOWDROPDOWN, FALSE);
+}
+
 }  // namespace

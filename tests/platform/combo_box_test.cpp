@@ -509,6 +509,9 @@ TEST_F(ComboBoxTest, OwnerDrawingComesUnderItsOwnName) {
     EXPECT_TRUE(seen.starts_with("field "));
     KNOWN_GAP(kWine, "the font takes the measured height away", Height() == 30);
     EXPECT_EQ(20, Send(CB_GETITEMHEIGHT));
+    RedrawWindow(m_control, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(m_control, drawn.hwndItem);
+    EXPECT_EQ(static_cast<UINT>(-1), drawn.itemID) << "nothing is chosen";
     Send(CB_SETCURSEL, 1);
     RedrawWindow(m_control, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     EXPECT_EQ(1u, drawn.itemID);

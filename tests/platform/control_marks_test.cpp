@@ -98,6 +98,15 @@ TEST_F(EditTest, AThirdOfTheFieldComesInWhenTheCaretLeavesIt) {
     EXPECT_EQ(0, Send(EM_GETFIRSTVISIBLELINE));
 }
 
+TEST_F(EditTest, WhatIsDeletedToTheEndComesIntoViewFirst) {
+    MakeLine(ES_AUTOHSCROLL, "0123456789012345678901234567890123456789");
+    Select(10, 10);
+    ASSERT_EQ(0, Send(EM_GETFIRSTVISIBLELINE));
+    Key(VK_DELETE, false, true);
+    EXPECT_EQ("0123456789", Text());
+    EXPECT_GT(Send(EM_GETFIRSTVISIBLELINE), 0);
+}
+
 TEST_F(EditTest, PastingNothingKeepsTheSelection) {
     MakeLine(ES_AUTOHSCROLL, "text");
     ASSERT_TRUE(OpenClipboard(m_control));
@@ -149,6 +158,64 @@ TEST_F(EditTest, TheMouseMeansTheNearestLineThatShows) {
     Send(WM_LBUTTONUP, 0, MAKELPARAM(40, client.bottom - 1));
     EXPECT_EQ("7..7", Selection());
     EXPECT_EQ(0, Send(EM_GETFIRSTVISIBLELINE));
+}
+
+int LeftOf(LRESULT point) {
+    return static_cast<SHORT>(LOWORD(point));
+}
+
+TEST_F(EditTest, SeveralLinesScrollNoFurtherThanTheirTextGoes) {
+    MakeLines(ES_AUTOVSCROLL | ES_AUTOHSCROLL, 120, 60);
+    SetText("one");
+    const std::string text = "word word word word word word word word word word";
+    Select(0, 3);
+    SendText(EM_REPLACESEL, 0, text.c_str());
+    RECT format = {};
+    Send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&format));
+    const LRESULT last = Send(EM_POSFROMCHAR, text.size() - 1);
+    EXPECT_LT(format.right - LeftOf(last), 15) << "the last letter stands at the right edge";
+    EXPECT_LE(LeftOf(last), format.right);
+}
+
+TEST_F(EditTest, AProgramScrollsColumnsPastTheEndOfTheText) {
+    MakeLines(ES_AUTOVSCROLL | ES_AUTOHSCROLL, 120, 60);
+    SetText("word");
+    const int before = LeftOf(Send(EM_POSFROMCHAR, 0));
+    Send(EM_LINESCROLL, 1, 0);
+    const int letter = before - LeftOf(Send(EM_POSFROMCHAR, 0));
+    EXPECT_GT(letter, 3);
+    EXPECT_LT(letter, 12);
+    Send(EM_LINESCROLL, 1, 0);
+    EXPECT_EQ(before - 2 * letter, LeftOf(Send(EM_POSFROMCHAR, 0)));
+    Send(EM_LINESCROLL, 100, 0);
+    const int width = before - LeftOf(Send(EM_POSFROMCHAR, 0));
+    EXPECT_GT(width, 2 * letter);
+    EXPECT_LT(width, 60) << "until nothing of it shows, and no further";
+    Send(EM_LINESCROLL, static_cast<WPARAM>(-100), 0);
+    EXPECT_EQ(before, LeftOf(Send(EM_POSFROMCHAR, 0)));
+}
+
+TEST_F(EditTest, WhatIsRefusedWholeLeavesTheLastChangeToBeUndone) {
+    MakeLine();
+    Send(EM_LIMITTEXT, 2);
+    Type("ab");
+    SendText(EM_REPLACESEL, FALSE, "cd");
+    EXPECT_EQ("ab", Text());
+    EXPECT_EQ(1, Send(EM_CANUNDO));
+    Send(EM_LIMITTEXT, 3);
+    SendText(EM_REPLACESEL, FALSE, "cd");
+    EXPECT_EQ("abc", Text());
+    EXPECT_EQ(0, Send(EM_CANUNDO));
+}
+
+TEST_F(EditTest, ADeletionIsNoTextBeyondTheLimit) {
+    MakeLine(ES_AUTOHSCROLL, "long text");
+    Send(EM_LIMITTEXT, 3);
+    Select(4, 9);
+    Send(WM_CLEAR);
+    EXPECT_EQ("long", Text());
+    KNOWN_GAP(kWine, "a deletion that leaves more than the limit is told as text beyond it",
+              Events() == "EN_UPDATE EN_CHANGE");
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ using test_support::DialogScript;
 using test_support::DialogTemplate;
 using test_support::TestDialog;
 
-constexpr int kPush = 120, kBox = 121, kInPage = 130;
+constexpr int kPush = 120, kBox = 121, kInPage = 130, kLabel = 140, kField = 141;
 
 TEST(DefaultButton, IsOkWhereTheTemplateHasNone) {
     DialogTemplate shape("None", 120, 60);
@@ -109,6 +109,27 @@ TEST(SystemKeys, AMnemonicOfNothingClosesAnOpenList) {
         .Do([](HWND made) {
             EXPECT_EQ(0, SendMessageA(GetDlgItem(made, kBox), CB_GETDROPPEDSTATE, 0, 0));
             EXPECT_EQ(nullptr, GetCapture());
+        })
+        .Press(VK_ESCAPE);
+    script.Run([&] { dialog.Run(shape); });
+}
+
+TEST(LabelMnemonic, GivesAFieldThatHasTheFocusTheFocusAgain) {
+    DialogTemplate shape("Mnemonic", 200, 100);
+    shape.Label("&Name:", kLabel, 5, 5).Edit(kField, 5, 20);
+    TestDialog dialog;
+    DialogScript script;
+    script.ExpectFocus(kField)
+        .Type(kField, "typed")
+        .Do([&](HWND made) {
+            SendMessageA(GetDlgItem(made, kField), EM_SETSEL, 2, 2);
+            dialog.Notifications().Take();
+        })
+        .Mnemonic('n')
+        .ExpectFocus(kField)
+        .Do([&](HWND made) {
+            EXPECT_EQ("EN_KILLFOCUS(141) EN_SETFOCUS(141)", dialog.Notifications().Take());
+            EXPECT_EQ("typed", test_support::SelectedPart(GetDlgItem(made, kField)));
         })
         .Press(VK_ESCAPE);
     script.Run([&] { dialog.Run(shape); });

@@ -223,6 +223,40 @@ TEST_F(Drawing, InvertsARectangle) {
     EXPECT_EQ(RGB(255, 0, 255), GetPixel(dc_, 5, 5));
 }
 
+TEST_F(Drawing, TheFocusRectangleIsDottedAndTakesItselfBack) {
+    Fill(0, 0, 40, 30, RGB(255, 255, 255));
+    const RECT rect = {4, 6, 24, 18};
+    const auto dots = [&] {
+        int count = 0;
+        for (int x = 0; x < 40; ++x) {
+            for (int y = 0; y < 30; ++y) count += GetPixel(dc_, x, y) != RGB(255, 255, 255);
+        }
+        return count;
+    };
+    const auto isDot = [&](int x, int y) { return GetPixel(dc_, x, y) == RGB(0, 0, 0); };
+    EXPECT_TRUE(DrawFocusRect(dc_, &rect));
+    EXPECT_EQ(30, dots()) << "half of the 60 pixels of the frame";
+    EXPECT_NE(isDot(10, 6), isDot(11, 6));
+    EXPECT_NE(isDot(4, 10), isDot(4, 11));
+    EXPECT_NE(isDot(23, 10), isDot(23, 11));
+    EXPECT_NE(isDot(10, 17), isDot(11, 17));
+    EXPECT_TRUE(DrawFocusRect(dc_, &rect));
+    EXPECT_EQ(0, dots());
+}
+
+TEST_F(Drawing, AWidePenStandsOnBothSidesOfItsLine) {
+    Fill(0, 0, 40, 30, RGB(255, 255, 255));
+    const HPEN pen = CreatePen(PS_SOLID, 3, RGB(0, 0, 255));
+    const HGDIOBJ old = SelectObject(dc_, pen);
+    MoveToEx(dc_, 10, 15, nullptr);
+    EXPECT_TRUE(LineTo(dc_, 30, 15));
+    SelectObject(dc_, old);
+    DeleteObject(pen);
+    for (int y = 14; y <= 16; ++y) EXPECT_EQ(RGB(0, 0, 255), GetPixel(dc_, 20, y)) << y;
+    EXPECT_EQ(RGB(255, 255, 255), GetPixel(dc_, 20, 13));
+    EXPECT_EQ(RGB(255, 255, 255), GetPixel(dc_, 20, 17));
+}
+
 TEST(Painting, BeginPaintValidatesAndTellsTheRectangle) {
     RecordingWindow window;
     test_support::PumpMessages();

@@ -395,6 +395,23 @@ TEST_F(EditTest, DoubleClickSelectsAWordWithTheSpacesAfterIt) {
     EXPECT_EQ("4..9", Selection());
 }
 
+TEST_F(EditTest, DoubleClickWhereAWordBeginsSelectsTheOneBefore) {
+    MakeLine(ES_AUTOHSCROLL, "one two  three");
+    const auto twice = [&](int index) {
+        Click(index);
+        Send(WM_LBUTTONDBLCLK, MK_LBUTTON, PointOf(index));
+        Send(WM_LBUTTONUP, 0, PointOf(index));
+        return Selection();
+    };
+    EXPECT_EQ("0..4", twice(4));
+    EXPECT_EQ("4..9", twice(9));
+    EXPECT_EQ("0..4", twice(0));
+    MakeLines(ES_AUTOVSCROLL | ES_AUTOHSCROLL);
+    SetText("first line\r\n\r\nthird");
+    EXPECT_EQ("6..12", twice(12)) << "with the end of its line";
+    EXPECT_EQ("12..14", twice(14)) << "an empty line before is a word";
+}
+
 TEST_F(EditTest, ClipboardCutsCopiesAndPastes) {
     HWND edit = MakeLine(ES_AUTOHSCROLL, "one two");
     SetFocus(edit);

@@ -349,4 +349,27 @@ TEST_F(ListBoxTest, TheScrollBarMovesTheTopItem) {
     EXPECT_EQ(last, scroll(SB_LINEDOWN)) << "the last item stays at the bottom";
 }
 
+TEST_F(ListBoxTest, TheRectangleOfAnItemSaysWhetherItShows) {
+    MakeList();
+    const auto shows = [&](int index) {
+        RECT rect = {};
+        return Send(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&rect));
+    };
+    const LONG height = static_cast<LONG>(Send(LB_GETITEMHEIGHT));
+    EXPECT_EQ(1, shows(0));
+    EXPECT_EQ(0, shows(9));
+    Send(LB_SETTOPINDEX, 2);
+    EXPECT_EQ(0, shows(1));
+    EXPECT_EQ(1, shows(2));
+    EXPECT_EQ(0, shows(-1));
+    EXPECT_EQ(-3 * height, ItemRect(m_control, -1).top) << "where one more would stand";
+}
+
+TEST_F(ListBoxTest, AnEmptyListHasNoPlaceForTheCaret) {
+    MakeList(0, 0);
+    EXPECT_EQ(LB_ERR, Send(LB_SETCARETINDEX, 0));
+    Add("one");
+    EXPECT_EQ(LB_OKAY, Send(LB_SETCARETINDEX, 0));
+}
+
 }  // namespace

@@ -428,6 +428,7 @@ LRESULT ComboBox::OnCommand(int code, HWND child) {
                 Notify(CBN_EDITCHANGE);
                 break;
             case EN_ERRSPACE:
+            case EN_MAXTEXT:
                 Notify(CBN_ERRSPACE);
                 break;
             default:

@@ -30,7 +30,11 @@ void ComboBox::DropDown() {
     if (m_edit != nullptr) {
         const int index = MatchEditText();
         ToList(LB_SETCURSEL, static_cast<WPARAM>(index));
-        if (index >= 0 && !m_buttonDown) ShowItemInEdit(index);
+        if (index >= 0) {
+            ShowItemInEdit(index);
+        } else {
+            ToList(LB_SETCARETINDEX, 0);
+        }
     }
     m_choiceAtOpening = Current();
     ToList(LB_SETTOPINDEX, static_cast<WPARAM>(std::max(Current(), 0)));

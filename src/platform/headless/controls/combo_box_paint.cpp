@@ -94,8 +94,8 @@ void ComboBox::PaintField(HDC dc) {
     const bool focused = m_focused && !m_dropped;
     const int current = Current();
     if (m_ownerDraws) {
-        if (current < 0) return;
         InflateRect(&field, -1, -1);
+        // With nothing chosen the owner draws item -1.
         DRAWITEMSTRUCT draw = {};
         draw.CtlType = ODT_COMBOBOX;
         draw.CtlID = static_cast<UINT>(Id());

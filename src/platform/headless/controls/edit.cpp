@@ -267,6 +267,7 @@ LRESULT Edit::HandleLineMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return ScrollBy(static_cast<int>(index));
         case EM_LINESCROLL:
             if (!IsMultiLine()) return FALSE;
+            ScrollColumns(static_cast<int>(index));
             ScrollLines(static_cast<int>(lParam));
             return TRUE;
         case EM_SCROLLCARET:

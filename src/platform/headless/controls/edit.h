@@ -77,6 +77,8 @@ class Edit : public ControlObject<Edit> {
     POINT CaretPoint() const;
     int VisibleLines() const;
     bool ScrollLines(int lines);
+    void ScrollColumns(int letters);
+    int WidestLine(const ControlDc& dc) const;
     void ScrollToCaret();
     void ScrollLineToCaret();
     void ScrollLinesToColumn(int x);
@@ -124,7 +126,10 @@ class Edit : public ControlObject<Edit> {
     size_t m_firstLine = 0;  // of several lines: the first one shown
     size_t m_firstChar = 0;  // of one line: the first character shown
     int m_leftOffset = 0;    // of several lines: pixels scrolled to the left
-    RECT m_format = {};      // where text stands in the client area
+    // Of several lines: the widest, in its font, since there were fewer lines. It is no less when a
+    // line becomes shorter.
+    int m_widest = 0;
+    RECT m_format = {};  // where text stands in the client area
     int m_leftMargin = 0;
     int m_rightMargin = 0;
     int m_tabStop = 32;  // dialog units

@@ -135,7 +135,7 @@ void Edit::OnChar(char c) {
             return;
         case '\b':
             if (IsReadOnly() || control) return;
-            if (m_anchor == m_caret) Select(m_caret, Backward(m_caret));
+            if (m_anchor == m_caret) MoveTo(Backward(m_caret), true);
             Clear();
             return;
         case kControlC:
@@ -222,17 +222,17 @@ void Edit::MoveEnd(bool extend, bool all) {
     ScrollToCaret();
 }
 
+// What goes is selected first, and comes into view.
 void Edit::OnDelete(bool shift, bool control) {
     if (IsReadOnly() || (shift && control)) return;
     if (m_anchor != m_caret) {
         if (shift) Copy();
     } else if (shift) {
-        Select(m_caret, Backward(m_caret));
+        MoveTo(Backward(m_caret), true);
     } else if (control) {
-        const Line& line = m_lines[CaretLine()];
-        Select(m_caret, line.start + line.length);
+        MoveEnd(true, false);
     } else {
-        Select(m_caret, Forward(m_caret));
+        MoveTo(Forward(m_caret), true);
     }
     Clear();
 }
@@ -252,10 +252,13 @@ void Edit::OnButtonDown(POINT point, bool extend) {
 }
 
 void Edit::OnDoubleClick(POINT point) {
+    // The word is the one that begins before the place that was clicked, be it where the next one
+    // begins. A line end is one for itself.
     const size_t index = IndexFromPoint(Confined(point), nullptr);
-    const size_t start =
-        IsWordStart(m_text, index) && index < m_text.size() ? index : WordBackward(index);
-    Select(start, WordForward(start));
+    const auto beginsLine = [&](size_t at) { return m_lines[LineOf(at)].start == at; };
+    const size_t from = beginsLine(index) ? Backward(index) : index;
+    const size_t start = beginsLine(from) ? from : WordBackward(from);
+    Select(start, std::max(WordForward(start), index));
     ScrollToCaret();
 }
 

@@ -87,8 +87,11 @@ void Edit::Reformat() {
     m_lineHeight = std::max<int>(dc.Metrics().tmHeight, 1);
     m_letterWidth = std::max(dc.LetterWidth(), 1);
     UpdateFormatRect();
+    const std::size_t before = m_lines.size();
     m_lines = BreakLines(m_text);
     m_firstLine = std::min(m_firstLine, m_lines.size() - 1);
+    if (m_text.empty() || m_lines.size() < before) m_widest = 0;
+    if (IsMultiLine()) m_widest = std::max(m_widest, WidestLine(dc));
 }
 
 void Edit::UpdateFormatRect() {
@@ -252,6 +255,24 @@ bool Edit::ScrollLines(int lines) {
     return true;
 }
 
+int Edit::WidestLine(const ControlDc& dc) const {
+    int widest = 0;
+    for (const Line& line : m_lines)
+        widest = std::max(widest, TextWidth(dc, line.start, line.length));
+    return widest;
+}
+
+// A program may scroll until the widest line would be out of the field.
+void Edit::ScrollColumns(int letters) {
+    const ControlDc dc(m_hwnd, m_font);
+    const int shift = letters * static_cast<int>(dc.Metrics().tmAveCharWidth);
+    const int offset = std::clamp(m_leftOffset + shift, 0, m_widest);
+    if (offset == m_leftOffset) return;
+    m_leftOffset = offset;
+    Repaint();
+    Notify(EN_HSCROLL);
+}
+
 // A caret that has left the field comes back with a third of the field beyond it, as far as there
 // is text.
 void Edit::ScrollLineToCaret() {
@@ -298,10 +319,12 @@ void Edit::ScrollToCaret() {
     }
     // Nothing is left empty below the last line while there are lines above.
     ScrollLines(0);
-    if (!Wraps()) ScrollLinesToColumn(CaretPoint().x);
+    // What wraps scrolls back, where a program scrolled it.
+    if (!Wraps() || m_leftOffset > 0) ScrollLinesToColumn(CaretPoint().x);
 }
 
-// As in a single line, a third of the width comes in at once, in whole letters.
+// As in a single line, a third of the width comes in at once, in whole letters, as far as the
+// widest line goes.
 void Edit::ScrollLinesToColumn(int x) {
     const ControlDc dc(m_hwnd, m_font);
     const int room = m_format.right - m_format.left;
@@ -313,6 +336,7 @@ void Edit::ScrollLinesToColumn(int x) {
         const int rest = (kScrolledPart - 1) * room / kScrolledPart;
         shift = x - m_format.left - rest / letter * letter;
     }
+    shift = std::min(shift, m_widest - room - m_leftOffset);
     m_leftOffset = std::max(m_leftOffset + shift, 0);
 }
 

@@ -53,7 +53,8 @@ void Edit::Replace(std::string_view given, bool canUndo, bool honourLimit, bool 
     if (cut) Notify(EN_MAXTEXT);
     if (m_hwnd == nullptr || end > m_text.size()) return;
     if (!canUndo) {
-        ForgetUndo();
+        // What was refused whole leaves the last change to be undone.
+        if (start != end || !text.empty()) ForgetUndo();
     } else {
         if (start != end)
             RememberDeletion(start, std::string_view(m_text).substr(start, end - start));

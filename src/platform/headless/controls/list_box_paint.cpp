@@ -100,8 +100,9 @@ LRESULT ListBox::ItemFromPointResult(POINT point) const {
 
 LRESULT ListBox::GetItemRect(LRESULT index, RECT* rect) const {
     GetClientRect(m_hwnd, rect);
-    // The first place of an empty list has a rectangle too.
-    if (!IsIndex(index) && !(index == 0 && Count() == 0)) {
+    const RECT client = *rect;
+    // The first place of an empty list has a rectangle too, and so has what would stand above it.
+    if (index > 0 && !IsIndex(index)) {
         SetRectEmpty(rect);
         SetLastError(ERROR_INVALID_INDEX);
         return LB_ERR;
@@ -115,7 +116,7 @@ LRESULT ListBox::GetItemRect(LRESULT index, RECT* rect) const {
     }
     rect->top = top;
     rect->bottom = top + ItemHeight(static_cast<int>(index));
-    return 1;
+    return rect->top < client.bottom && rect->bottom > 0 ? 1 : 0;
 }
 
 LRESULT ListBox::SetItemHeight(LRESULT index, int height) {

@@ -62,7 +62,6 @@ LRESULT ListBox::HandleSelectionMessage(UINT message, WPARAM wParam, LPARAM lPar
             return m_caret;
         case LB_SETCARETINDEX:
             if (!IsMultiple() && m_current != -1) return LB_ERR;
-            if (Count() == 0) return index == 0 ? LB_OKAY : LB_ERR;
             if (!IsIndex(index)) return LB_ERR;
             SetCaret(static_cast<int>(index));
             return LB_OKAY;
@@ -136,7 +135,8 @@ LRESULT ListBox::OnKeyDown(int key) {
         if (caret == -2) return 0;
     }
     if (caret < 0) {
-        const int page = std::max(PageSize() - 1, 1);
+        // The item at the edge stays in sight, so that a list of one line does not move by pages.
+        const int page = PageSize() - 1;
         // While the caret is elsewhere than the selection, a key only brings the selection to it.
         const bool starts = !IsMultiple() && m_current != m_caret;
         switch (key) {

@@ -144,9 +144,10 @@ void Reach(HWND dialog, HWND control) {
                        (SameName(window->cls->name, "Button") &&
                         (window->style & BS_TYPEMASK) == static_cast<DWORD>(BS_GROUPBOX));
     if (label) {
-        // A label stands for the control after it.
-        const HWND next = GetNextDlgTabItem(dialog, control, FALSE);
-        if (next != nullptr) Send(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+        // A label stands for the control after it. That one loses the focus and has it again when
+        // it had it before, as the real system shows.
+        Send(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+        if (Peek(dialog) != nullptr) Send(dialog, WM_NEXTDLGCTL, FALSE, FALSE);
         return;
     }
     if ((code & (DLGC_BUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON | DLGC_RADIOBUTTON)) != 0)

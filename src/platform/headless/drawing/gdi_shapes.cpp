@@ -68,6 +68,21 @@ void PaintFrame(DeviceContext& dc, const RECT& rect, COLORREF color, DWORD opera
     PaintPixels(dc, {rect.right - 1, rect.top + 1, rect.right, rect.bottom - 1}, color, operation);
 }
 
+// Every second pixel of the frame turned round, which a second time takes back.
+void PaintDottedFrame(DeviceContext& dc, const RECT& rect) {
+    const auto dot = [&](LONG x, LONG y) {
+        if (((x + y) & 1) == 0) PaintPixels(dc, {x, y, x + 1, y + 1}, 0, DSTINVERT);
+    };
+    for (LONG x = rect.left; x < rect.right; ++x) {
+        dot(x, rect.top);
+        if (rect.bottom - 1 > rect.top) dot(x, rect.bottom - 1);
+    }
+    for (LONG y = rect.top + 1; y < rect.bottom - 1; ++y) {
+        dot(rect.left, y);
+        if (rect.right - 1 > rect.left) dot(rect.right - 1, y);
+    }
+}
+
 RECT BoxOf(const std::vector<POINT>& points) {
     RECT box{points.front().x, points.front().y, points.front().x, points.front().y};
     for (const POINT& point : points) {
@@ -300,7 +315,7 @@ BOOL DrawFocusRect(HDC handle, const RECT* rect) {
     if (dc == nullptr || rect == nullptr) return FALSE;
     const RECT device = dc->ToDevice(*rect);
     RecordRect(*dc, DrawKind::kFocus, device);
-    PaintFrame(*dc, device, 0, DSTINVERT);
+    PaintDottedFrame(*dc, device);
     return TRUE;
 }
 
