@@ -13,7 +13,9 @@
 #include "HostFileSource.h"
 #include "HostWindow.h"
 #include "PlotView.h"
+#include "Report.h"
 #include "SettingsStore.h"
+#include "System.h"
 #include "zxadlg/headless.h"
 // The file dialog needs the types of the platform.
 #include <commdlg.h>
@@ -58,11 +60,14 @@ class Frame {
     int Run() {
         std::string error;
         if (!store_.Open(options_.store, &error)) {
-            MessageBoxA(nullptr, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
+            Complain(error);
             return kNoInput;
         }
         // A file may take its time and is read when there is a window to tell so.
-        if (options_.data.empty()) LoadRecording(options_, &recording_, &error);
+        if (options_.data.empty() && LoadRecording(options_, &recording_, &error) != kDone) {
+            Complain(error);
+            return kWrongUsage;
+        }
         for (const Analysis& analysis : kAnalyses) {
             recordOf_.emplace_back(analysis.size / sizeof(double) + 1, 0.0);
             std::memcpy(recordOf_.back().data(), analysis.defaults, analysis.size);
@@ -217,8 +222,9 @@ class Frame {
 
     static void SetCell(HWND list, int row, int column, const std::string& text) {
         LVITEMA item = {};
+        std::string told = ToSystem(text);
         item.iSubItem = column;
-        item.pszText = const_cast<char*>(text.c_str());
+        item.pszText = told.data();
         SendMessageA(list, LVM_SETITEMTEXTA, static_cast<WPARAM>(row),
                      reinterpret_cast<LPARAM>(&item));
     }
@@ -309,7 +315,11 @@ class Frame {
         return 0;
     }
 
-    void Tell(const std::string& text) { SetWindowTextA(Item(kIdStatus), text.c_str()); }
+    void Tell(const std::string& text) { SetWindowTextA(Item(kIdStatus), ToSystem(text).c_str()); }
+
+    void Complain(const std::string& text) {
+        MessageBoxA(hwnd_, ToSystem(text).c_str(), "zxhost", MB_OK | MB_ICONERROR);
+    }
 
     void TellCursor(int cursor) {
         if (cursor < 1 || cursor > kCursors) return;
@@ -347,7 +357,7 @@ class Frame {
         open.lpstrFile = path;
         open.nMaxFile = sizeof path;
         open.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-        return GetOpenFileNameA(&open) ? path : "";
+        return GetOpenFileNameA(&open) ? FromSystem(path) : "";
     }
 
     void ChooseFile() {
@@ -359,23 +369,32 @@ class Frame {
         ReadFile(chosen);
     }
 
+    // Whether the user pressed Escape while a file is read; other input waits.
+    static bool EscapeWaits() {
+        MSG message;
+        bool pressed = false;
+        while (PeekMessageA(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE))
+            pressed = pressed || (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE);
+        return pressed;
+    }
+
     void ReadFile(const Options& chosen) {
         HWND progress = Item(kIdProgress);
         ShowWindow(progress, SW_SHOW);
-        Tell("Reading " + chosen.data);
+        Tell("Reading " + chosen.data + " (Escape stops)");
         EnableWindow(hwnd_, FALSE);
         std::string error;
-        const bool good = LoadRecording(chosen, &recording_, &error, [&](double fraction) {
+        const ExitCode code = LoadRecording(chosen, &recording_, &error, [&](double fraction) {
             SendMessageA(progress, PBM_SETPOS, static_cast<WPARAM>(fraction * 1000.0), 0);
             UpdateWindow(hwnd_);
             UpdateWindow(progress);
-            return true;
+            return !EscapeWaits();
         });
         EnableWindow(hwnd_, TRUE);
         ShowWindow(progress, SW_HIDE);
-        if (!good) {
+        if (code != kDone) {
             Tell(recording_.Describe());
-            MessageBoxA(hwnd_, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
+            Complain(error);
             return;
         }
         SendMessageA(Item(kIdRecording), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
@@ -399,17 +418,19 @@ class Frame {
         HostDataSource source(&recording_, store_.ProfileName());
         const std::int32_t result =
             analysis.show({hwnd_, options.data(), &data, &source, &files_, &params_});
-        fields_ = CompareRecords(analysis.record, optionsBefore.data(), options.data());
-        const std::vector<FieldValue> more =
-            CompareRecords("ZXADLG_DataOptions", &dataBefore, &data);
-        fields_.insert(fields_.end(), more.begin(), more.end());
+        std::string error;
+        Report report;
+        report.analysis = &analysis;
+        report.result = result;
+        report.options = CompareRecords(analysis.record, optionsBefore.data(), options.data());
+        report.dataSelection = CompareRecords("ZXADLG_DataOptions", &dataBefore, &data);
+        report.store = store_.Read();
+        WriteText(report, std::cout);
+        fields_ = report.options;
+        fields_.insert(fields_.end(), report.dataSelection.begin(), report.dataSelection.end());
         const auto changed = std::count_if(fields_.begin(), fields_.end(),
                                            [](const FieldValue& value) { return value.changed; });
-        std::string error;
-        PrintOutcome(
-            {analysis, result, optionsBefore.data(), options.data(), dataBefore, data, store_},
-            std::cout);
-        if (!store_.Save(&error)) MessageBoxA(hwnd_, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
+        if (!store_.Save(&error)) Complain(error);
         ShowFields();
         ShowStore();
         InvalidateRect(Item(kIdPlot), nullptr, FALSE);
@@ -441,7 +462,8 @@ class Frame {
             if (c == '\n') text += '\r';
             text += c;
         }
-        SetWindowTextA(Item(kIdStore), text.empty() ? "Nothing is stored yet." : text.c_str());
+        SetWindowTextA(Item(kIdStore),
+                       text.empty() ? "Nothing is stored yet." : ToSystem(text).c_str());
     }
 
     Options options_;
@@ -449,9 +471,7 @@ class Frame {
     Recording recording_;
     SettingsStore store_;
     HostFileSource files_{[](HWND__* owner) { return PickFile(owner); },
-                          [this](const std::string& error) {
-                              MessageBoxA(hwnd_, error.c_str(), "Control file", MB_ICONERROR);
-                          }};
+                          [this](const std::string& error) { Complain(error); }};
     // The records of each analysis, as its last dialog left them. Doubles make the room fit for
     // every record.
     std::vector<std::vector<double>> recordOf_;

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "System.h"
+
 namespace zxhost {
 namespace {
 
@@ -206,7 +208,7 @@ class Plot {
         DeleteObject(frame);
         SetTextAlign(dc, TA_LEFT | TA_TOP);
         const std::string title =
-            group.units.empty() ? group.name : group.name + " (" + group.units + ")";
+            ToSystem(group.units.empty() ? group.name : group.name + " (" + group.units + ")");
         TextOutA(dc, pane.left + 6, pane.top + 4, title.c_str(), static_cast<int>(title.size()));
     }
 
@@ -226,7 +228,7 @@ class Plot {
             TextOutA(dc, x, pane.bottom + 4, label.c_str(), static_cast<int>(label.size()));
         }
         if (!isLast) return;
-        const std::string units = recording_->xUnits.empty() ? "row" : recording_->xUnits;
+        const std::string units = recording_->xUnits.empty() ? "row" : ToSystem(recording_->xUnits);
         SetTextAlign(dc, TA_RIGHT | TA_TOP);
         TextOutA(dc, pane.right, pane.bottom + 18, units.c_str(), static_cast<int>(units.size()));
     }
