@@ -158,7 +158,8 @@ uint32_t HostDataSource::GetActiveGroup() {
 
 const char* HostDataSource::GetRegionName(uint32_t position) {
     const std::vector<Region>& regions = recording_->regions;
-    return position < regions.size() ? Told(regions[position].name) : nullptr;
+    const bool named = position < regions.size() && !regions[position].name.empty();
+    return named ? Told(regions[position].name) : nullptr;
 }
 
 const char* HostDataSource::GetEpochName(uint32_t position, uint32_t* value) {

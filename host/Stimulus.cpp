@@ -47,6 +47,14 @@ std::uint32_t PointAt(const Recording& recording, double time) {
 void AddEpoch(Recording* recording, std::size_t index, std::uint32_t first, std::uint32_t last) {
     const std::string name = std::string("Epoch ") + static_cast<char>('A' + index);
     AddRegion(recording, name, first, last);
+    // The dialogs offer the level of an epoch as a variable where a region has this number; without
+    // a name it is no region that a user chooses.
+    constexpr std::size_t kLevels = 10;
+    constexpr std::int32_t kFirstLevel = 26;
+    if (index < kLevels) {
+        const std::int32_t id = kFirstLevel + static_cast<std::int32_t>(index);
+        recording->regions.push_back({id, "", 0, 0, first, last});
+    }
 }
 
 bool NeedsTime(const Recording& recording, std::string* error) {

@@ -71,7 +71,8 @@ TEST_F(HostOptions, PutCursorsAndRegions) {
 }
 
 TEST_F(HostOptions, GiveARecordingAStimulus) {
-    const std::string script = WriteFile("iv.txt", "expect title \"Current/Voltage\"\nok\n");
+    const std::string script = WriteFile("iv.txt", "expect title \"Current/Voltage\"\n"
+                                                 "expect item 2420 \"Epoch A level\"\nok\n");
     const std::vector<std::string> run = {"run",     "current-voltage", "--script", script,
                                           "--data", Family()};
     EXPECT_EQ(Run(run), zxhost::kScriptFailed) << "refused without a stimulus";

@@ -87,7 +87,8 @@ TEST_F(Stimulus, AProtocolGivesAWaveformAndAnEpoch) {
     ASSERT_TRUE(zxhost::ApplyProtocol(protocol, &recording, &error)) << error;
     ASSERT_EQ(recording.waveforms.size(), 1u);
     EXPECT_EQ(recording.waveforms[0].name, "Command potential");
-    EXPECT_EQ(RegionText(recording.regions.back()), "3 Epoch A 30..49");
+    EXPECT_EQ(RegionText(recording.regions[3]), "3 Epoch A 30..49");
+    EXPECT_EQ(RegionText(recording.regions[4]), "26  30..49") << "the variable of its level";
     EXPECT_EQ(recording.notes.back(),
               "the stimulus steps from -80 to -60 mV by 10, in points 31 to 50");
     Recording other = Sweeps(4);
@@ -116,9 +117,9 @@ TEST_F(Stimulus, AWaveformFileGivesItsSignalsAndEpochs) {
     EXPECT_EQ(recording.waveforms[0].name, "Command");
     EXPECT_EQ(recording.waveforms[1].name, "Light");
     EXPECT_EQ(recording.waveforms[1].number, 1u);
-    ASSERT_EQ(recording.regions.size(), 5u);
+    ASSERT_EQ(recording.regions.size(), 7u);
     EXPECT_EQ(RegionText(recording.regions[3]), "3 Epoch A 20..59");
-    EXPECT_EQ(RegionText(recording.regions[4]), "4 Epoch B 60..69");
+    EXPECT_EQ(RegionText(recording.regions[5]), "5 Epoch B 60..69");
     EXPECT_EQ(recording.notes.back(),
               "the stimulus is \"Command\", with steps that begin at points 21, 61");
     std::string ramp = "Time (ms),Command (mV)\n";
