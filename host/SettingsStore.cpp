@@ -227,13 +227,23 @@ bool SettingsStore::Prepare(Keep keep, const Settings& settings, std::string* er
     }
     SetEnvironmentVariableA(kRootVariable, root_.c_str());
     open_ = true;
+    if (!WriteAll(settings, error)) return false;
+    before_ = Read();
+    return true;
+}
+
+bool SettingsStore::WriteAll(const Settings& settings, std::string* error) {
     for (const auto& [section, values] : settings) {
         if (WriteSection(Key() + "\\" + section, values)) continue;
         *error = path_ + ": the settings cannot be kept in the registry";
         return false;
     }
-    before_ = Read();
     return true;
+}
+
+bool SettingsStore::Replace(const Settings& settings, std::string* error) {
+    RegDeleteTreeA(HKEY_CURRENT_USER, Key().c_str());
+    return WriteAll(settings, error);
 }
 
 Settings SettingsStore::Read() const {

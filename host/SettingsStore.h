@@ -48,6 +48,9 @@ class SettingsStore {
     // What is in the store now.
     Settings Read() const;
 
+    // Makes these all that is in the store.
+    bool Replace(const Settings& settings, std::string* error);
+
     // Writes the file or the own branch, where the run has a branch to itself and its content is
     // another one than before. On failure false with what is wrong, and the file as it was.
     bool Save(std::string* error) const;
@@ -58,6 +61,7 @@ class SettingsStore {
   private:
     enum class Keep { kLive, kNothing, kFile, kOwn };
     std::string Key() const;
+    bool WriteAll(const Settings& settings, std::string* error);
     bool Prepare(Keep keep, const Settings& settings, std::string* error);
 
     Keep keep_ = Keep::kLive;

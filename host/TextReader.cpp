@@ -1,7 +1,6 @@
 #include "TextReader.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstring>
 #include <filesystem>
@@ -306,9 +305,8 @@ class Reader {
         const char* const end = at + line.size();
         for (std::size_t i = 0; i < wanted; ++i) {
             while (at < end && IsBlank(*at)) ++at;
-            const auto [stop, code] = std::from_chars(at, end, row_[i]);
-            if (code != std::errc() || !std::isfinite(row_[i])) return false;
-            at = stop;
+            at = ReadDecimal(at, end, &row_[i]);
+            if (at == nullptr) return false;
             if (i + 1 == wanted) break;
             if (delimiter_ == ' ') {
                 if (at == end || !IsBlank(*at)) return false;

@@ -61,9 +61,10 @@ double ReadOurs(const std::string& path, double* sum) {
     return best;
 }
 
+// By the system's own Python, which the package is installed for.
 double ReadPeers(const std::string& path, double* sum) {
     const std::string command =
-        "python3 -c 'import pandas, sys, time\n"
+        "/usr/bin/python3 -c 'import pandas, sys, time\n"
         "best = 1e9\n"
         "for i in range(" + std::to_string(kRounds) + "):\n"
         "    begin = time.perf_counter()\n"

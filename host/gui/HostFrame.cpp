@@ -2,6 +2,7 @@
 // their dialogs, below the fields of the records before and after and the store.
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <iostream>
@@ -12,6 +13,7 @@
 #include "HostDataSource.h"
 #include "HostFileSource.h"
 #include "HostWindow.h"
+#include "Look.h"
 #include "PlotView.h"
 #include "Report.h"
 #include "SettingsStore.h"
@@ -19,6 +21,7 @@
 #include "zxadlg/headless.h"
 // The file dialog needs the types of the platform.
 #include <commdlg.h>
+#include <shellapi.h>
 
 namespace zxhost {
 namespace {
@@ -32,6 +35,7 @@ enum Id {
     kIdAnalyses,
     kIdParams,
     kIdOpen,
+    kIdUndo,
     kIdChangedOnly,
     kIdFields,
     kIdStore,
@@ -40,13 +44,14 @@ enum Id {
     kIdLabel,
 };
 
-constexpr int kMargin = 8;  // pixels, as all below
-constexpr int kSide = 250;
-constexpr int kButton = 26;
-constexpr int kLabel = 16;
-constexpr int kStoreWidth = 320;
-constexpr int kFieldsHeight = 210;
-constexpr int kStatusHeight = 18;
+// Pixels.
+const int kMargin = Scaled(8);
+const int kSide = Scaled(250);
+const int kButton = Scaled(26);
+const int kLabel = Scaled(16);
+const int kStoreWidth = Scaled(320);
+const int kFieldsHeight = Scaled(210);
+const int kStatusHeight = Scaled(18);
 constexpr COLORREF kChangedBack = RGB(255, 244, 204);
 
 const char* const kRecordings[] = {"Simulated family", "Simulated, second kind",
@@ -86,8 +91,10 @@ class Frame {
         RegisterClassA(&wc);
         hwnd_ = CreateWindowExA(WS_EX_CONTROLPARENT, kClassName, "zxhost",
                                 WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
-                                1120, 800, nullptr, nullptr, wc.hInstance, this);
+                                Scaled(1120), Scaled(800), nullptr, nullptr, wc.hInstance, this);
         if (!hwnd_) return kNoInput;
+        DragAcceptFiles(hwnd_, TRUE);
+        RefreshPlot(Item(kIdPlot));
         ShowWindow(hwnd_, SW_SHOW);
         SetFocus(Item(kIdAnalyses));
         if (!options_.data.empty()) {
@@ -125,13 +132,16 @@ class Frame {
                 Arrange(LOWORD(lParam), HIWORD(lParam));
                 return 0;
             case WM_GETMINMAXINFO:
-                reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {820, 640};
+                reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {Scaled(820), Scaled(640)};
                 return 0;
             case WM_COMMAND:
                 Command(LOWORD(wParam), HIWORD(wParam));
                 return 0;
             case WM_NOTIFY:
                 return Notify(*reinterpret_cast<NMHDR*>(lParam), lParam);
+            case WM_DROPFILES:
+                TakeDropped(reinterpret_cast<HDROP>(wParam));
+                return 0;
             case WM_DESTROY:
                 DeleteObject(fixedFont_);
                 PostQuitMessage(0);
@@ -149,7 +159,7 @@ class Frame {
         HWND made = CreateWindowExA(exStyle, kind, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
                                     hwnd_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                     GetModuleHandleA(nullptr), nullptr);
-        SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
+        SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(DialogFont()),
                      FALSE);
         return made;
     }
@@ -176,6 +186,7 @@ class Frame {
             SendMessageA(analyses, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(analysis.title));
         SendMessageA(analyses, LB_SETCURSEL, 0, 0);
         Make("BUTTON", "&Open dialog", WS_TABSTOP | BS_DEFPUSHBUTTON, kIdOpen);
+        Make("BUTTON", "&Undo last dialog", WS_TABSTOP | WS_DISABLED, kIdUndo);
         labels_[2] = Make("STATIC", "&Parameters of the dialog", 0, kIdLabel);
         MakeParams();
         Make("BUTTON", "&Changed only", BS_AUTOCHECKBOX | WS_TABSTOP, kIdChangedOnly);
@@ -185,14 +196,14 @@ class Frame {
             Make(WC_LISTVIEWA, "", LVS_REPORT | LVS_SINGLESEL | LVS_NOSORTHEADER | WS_TABSTOP,
                  kIdFields, WS_EX_CLIENTEDGE);
         ListView_SetExtendedListViewStyle(fields, LVS_EX_FULLROWSELECT);
-        AddColumn(fields, 0, "Field", 200);
-        AddColumn(fields, 1, "Before", 120);
-        AddColumn(fields, 2, "After", 150);
+        AddColumn(fields, 0, "Field", Scaled(200));
+        AddColumn(fields, 1, "Before", Scaled(120));
+        AddColumn(fields, 2, "After", Scaled(150));
         labels_[4] = Make("STATIC", "S&tore", 0, kIdLabel);
         HWND store =
             Make("EDIT", "", ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | WS_VSCROLL | WS_TABSTOP,
                  kIdStore, WS_EX_CLIENTEDGE);
-        fixedFont_ = CreateFontA(-12, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0,
+        fixedFont_ = CreateFontA(-Scaled(12), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0,
                                  0, FIXED_PITCH | FF_MODERN, "Courier New");
         SendMessageA(store, WM_SETFONT, reinterpret_cast<WPARAM>(fixedFont_), FALSE);
         Make("STATIC", "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdStatus);
@@ -234,7 +245,7 @@ class Frame {
             Make(WC_LISTVIEWA, "", LVS_REPORT | LVS_SINGLESEL | LVS_NOCOLUMNHEADER | WS_TABSTOP,
                  kIdParams, WS_EX_CLIENTEDGE);
         ListView_SetExtendedListViewStyle(list, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
-        AddColumn(list, 0, "Parameter", kSide - 30);
+        AddColumn(list, 0, "Parameter", kSide - Scaled(30));
         for (std::size_t i = 0; i < kParamNames.size(); ++i) {
             AddRow(list, static_cast<int>(i), kParamNames[i].name);
             ListView_SetCheckState(list, static_cast<int>(i), params_.*kParamNames[i].byte != 0);
@@ -252,15 +263,16 @@ class Frame {
         int y = kMargin;
         Place(labels_[0], kMargin, y, kSide, kLabel);
         y += kLabel;
-        Place(Item(kIdRecording), kMargin, y, kSide, 160);
-        y += 28;
+        Place(Item(kIdRecording), kMargin, y, kSide, Scaled(160));
+        y += Scaled(28);
         Place(Item(kIdLoad), kMargin, y, kSide, kButton);
         y += kButton + kMargin;
         Place(labels_[1], kMargin, y, kSide, kLabel);
         y += kLabel;
-        Place(Item(kIdAnalyses), kMargin, y, kSide, 150);
-        y += 150 + 6;
-        Place(Item(kIdOpen), kMargin, y, kSide, kButton);
+        Place(Item(kIdAnalyses), kMargin, y, kSide, Scaled(150));
+        y += Scaled(156);
+        Place(Item(kIdOpen), kMargin, y, kSide / 2 - Scaled(2), kButton);
+        Place(Item(kIdUndo), kMargin + kSide / 2 + Scaled(2), y, kSide / 2 - Scaled(2), kButton);
         y += kButton + kMargin;
         Place(labels_[2], kMargin, y, kSide, kLabel);
         y += kLabel;
@@ -268,16 +280,18 @@ class Frame {
 
         const int lower = bottom - kFieldsHeight;
         Place(Item(kIdPlot), right, kMargin, width - right - kMargin,
-              lower - kLabel - 2 * kMargin - 2);
+              lower - kLabel - 2 * kMargin - Scaled(2));
         const int fields = width - right - kStoreWidth - 2 * kMargin;
-        Place(labels_[3], right, lower - kLabel - 2, fields - 120, kLabel);
-        Place(Item(kIdChangedOnly), right + fields - 110, lower - kLabel - 4, 110, kLabel + 2);
+        Place(labels_[3], right, lower - kLabel - Scaled(2), fields - Scaled(120), kLabel);
+        Place(Item(kIdChangedOnly), right + fields - Scaled(110), lower - kLabel - Scaled(4), Scaled(110),
+              kLabel + Scaled(2));
         Place(Item(kIdFields), right, lower, fields, kFieldsHeight);
-        Place(labels_[4], right + fields + kMargin, lower - kLabel - 2, kStoreWidth, kLabel);
+        Place(labels_[4], right + fields + kMargin, lower - kLabel - Scaled(2), kStoreWidth, kLabel);
         Place(Item(kIdStore), right + fields + kMargin, lower, kStoreWidth, kFieldsHeight);
-        Place(Item(kIdStatus), kMargin, height - kStatusHeight - kMargin, width - 240,
+        Place(Item(kIdStatus), kMargin, height - kStatusHeight - kMargin, width - Scaled(240),
               kStatusHeight);
-        Place(Item(kIdProgress), width - 208, height - kStatusHeight - kMargin, 200, 14);
+        Place(Item(kIdProgress), width - Scaled(208), height - kStatusHeight - kMargin, Scaled(200),
+              Scaled(14));
     }
 
     // --- Events ---
@@ -289,7 +303,9 @@ class Frame {
         if (id == kIdLoad && code == BN_CLICKED) ChooseFile();
         if (id == kIdRecording && code == CBN_SELCHANGE) ChooseSimulation();
         if (id == kIdChangedOnly && code == BN_CLICKED) ShowFields();
+        if (id == kIdPlot && code == kPlotReadout) Tell(ReadPlot(Item(kIdPlot)));
         if (id == kIdPlot) TellCursor(code);
+        if (id == kIdUndo && code == BN_CLICKED) Undo();
     }
 
     LRESULT Notify(const NMHDR& header, LPARAM lParam) {
@@ -308,6 +324,7 @@ class Frame {
             if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT &&
                 draw.nmcd.dwItemSpec < shownChanged_.size() &&
                 shownChanged_[draw.nmcd.dwItemSpec]) {
+                draw.clrText = RGB(0, 0, 0);
                 draw.clrTextBk = kChangedBack;
                 return CDRF_NEWFONT;
             }
@@ -362,7 +379,17 @@ class Frame {
 
     void ChooseFile() {
         const std::string path = PickFile(hwnd_);
-        if (path.empty()) return;
+        if (!path.empty()) OpenFile(path);
+    }
+
+    void TakeDropped(HDROP drop) {
+        char path[MAX_PATH] = "";
+        const UINT length = DragQueryFileA(drop, 0, path, sizeof path);
+        DragFinish(drop);
+        if (length > 0) OpenFile(FromSystem(path));
+    }
+
+    void OpenFile(const std::string& path) {
         Options chosen;
         chosen.data = path;
         if (recording_.kind == DataKind::kSheet) chosen.recording = "sheet";
@@ -415,6 +442,7 @@ class Frame {
         ZXADLG_DataOptions& data = dataOf_[at];
         const std::vector<double> optionsBefore = options;
         const ZXADLG_DataOptions dataBefore = data;
+        undo_ = {at, options, data, store_.Read(), recording_.cursors};
         HostDataSource source(&recording_, store_.ProfileName());
         const std::int32_t result =
             analysis.show({hwnd_, options.data(), &data, &source, &files_, &params_});
@@ -431,11 +459,29 @@ class Frame {
         const auto changed = std::count_if(fields_.begin(), fields_.end(),
                                            [](const FieldValue& value) { return value.changed; });
         if (!store_.Save(&error)) Complain(error);
+        EnableWindow(Item(kIdUndo), TRUE);
         ShowFields();
         ShowStore();
         InvalidateRect(Item(kIdPlot), nullptr, FALSE);
         Tell(std::string(analysis.title) + " gave " + std::to_string(result) + " (" +
              DescribeResult(result) + "); " + std::to_string(changed) + " fields changed");
+    }
+
+    // The records, the settings and the cursors as they were before the last dialog.
+    void Undo() {
+        const Analysis& analysis = kAnalyses[undo_.analysis];
+        recordOf_[undo_.analysis] = undo_.options;
+        dataOf_[undo_.analysis] = undo_.data;
+        recording_.cursors = undo_.cursors;
+        std::string error;
+        if (!store_.Replace(undo_.settings, &error) || !store_.Save(&error)) Complain(error);
+        EnableWindow(Item(kIdUndo), FALSE);
+        SetFocus(Item(kIdAnalyses));
+        fields_.clear();
+        ShowFields();
+        ShowStore();
+        InvalidateRect(Item(kIdPlot), nullptr, FALSE);
+        Tell(std::string(analysis.title) + " is as it was before its last dialog");
     }
 
     void ShowFields() {
@@ -476,6 +522,15 @@ class Frame {
     // every record.
     std::vector<std::vector<double>> recordOf_;
     std::vector<ZXADLG_DataOptions> dataOf_;
+    // What stood before the last dialog.
+    struct Step {
+        std::size_t analysis = 0;
+        std::vector<double> options;
+        ZXADLG_DataOptions data = {};
+        Settings settings;
+        std::array<std::int32_t, kCursors> cursors = {};
+    };
+    Step undo_;
     std::vector<FieldValue> fields_;
     std::vector<bool> shownChanged_;
     HWND hwnd_ = nullptr;

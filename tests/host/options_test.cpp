@@ -221,6 +221,16 @@ TEST_F(HostOptions, AStoreThatCannotBeWrittenIsToldBeforeTheDialogOpens) {
     EXPECT_EQ(out, "");
 }
 
+TEST_F(HostOptions, AStoreGoesBackToWhatItWas) {
+    zxhost::SettingsStore store;
+    std::string error;
+    ASSERT_TRUE(store.OpenScratch(&error)) << error;
+    ASSERT_TRUE(store.Replace({{"A", {{"x", "1"}, {"y", "µ"}}}, {"B", {{"z", "2"}}}}, &error));
+    EXPECT_EQ(zxhost::FormatSettings(store.Read()), "[A]\nx=1\ny=µ\n\n[B]\nz=2\n");
+    ASSERT_TRUE(store.Replace({{"A", {{"x", "3"}}}}, &error)) << error;
+    EXPECT_EQ(zxhost::FormatSettings(store.Read()), "[A]\nx=3\n");
+}
+
 TEST_F(HostOptions, WithoutAStoreARunLeavesTheUsersSettingsAlone) {
     const std::string root = "ZxHostTests-own";
     const test_support::ScopedEnvironment variable("ZDC_REGISTRY_ROOT", root.c_str());
