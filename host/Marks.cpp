@@ -17,7 +17,8 @@ bool FindPoint(const Recording& recording, double at, std::uint32_t* point) {
     }
     const std::vector<double>& x = recording.x;
     if (at < x.front() || at > x.back()) return false;
-    const auto behind = static_cast<std::size_t>(std::lower_bound(x.begin(), x.end(), at) - x.begin());
+    const auto behind =
+        static_cast<std::size_t>(std::lower_bound(x.begin(), x.end(), at) - x.begin());
     const bool before = behind > 0 && at - x[behind - 1] < x[behind] - at;
     *point = static_cast<std::uint32_t>(before ? behind - 1 : behind);
     return true;
@@ -32,8 +33,8 @@ std::string Extent(const Recording& recording) {
 }  // namespace
 
 bool ParseCursorMark(const std::string& text, CursorMark* mark, std::string* error) {
-    const bool numbered = text.size() > 2 && text[1] == '=' && text[0] > '0' &&
-                          text[0] <= '0' + kCursors;
+    const bool numbered =
+        text.size() > 2 && text[1] == '=' && text[0] > '0' && text[0] <= '0' + kCursors;
     if (!numbered || !ParseNumber(text.substr(2), &mark->at)) {
         *error = "\"" + text + "\" should be N=MS with N from 1 to " + std::to_string(kCursors);
         return false;
@@ -71,9 +72,9 @@ bool ApplyMarks(const std::vector<CursorMark>& cursors, const std::vector<Region
     Recording marked;
     marked.regions = recording->regions;
     for (const RegionMark& mark : regions) {
-        const bool taken = std::any_of(marked.regions.begin(), marked.regions.end(), [&](const Region& region) {
-            return region.name == mark.name;
-        });
+        const bool taken =
+            std::any_of(marked.regions.begin(), marked.regions.end(),
+                        [&](const Region& region) { return region.name == mark.name; });
         if (taken) {
             *error = "there is already a region \"" + mark.name + "\"";
             return false;

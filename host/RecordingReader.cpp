@@ -14,7 +14,7 @@ struct TimeUnit {
     double milliseconds;
 };
 // The micro sign and the Greek letter look alike.
-constexpr TimeUnit kUnitsOfTime[] = {{"s", 1000.0},  {"ms", 1.0},        {"us", 0.001},
+constexpr TimeUnit kUnitsOfTime[] = {{"s", 1000.0}, {"ms", 1.0},        {"us", 0.001},
                                      {"µs", 0.001}, {"\u03BCs", 0.001}, {"min", 60000.0}};
 
 std::string Heading(const TextColumn& column) {
@@ -101,8 +101,9 @@ class Maker {
         }
         if (units.empty()) {
             units = "ms";
-            made.notes.push_back("the x column has no units and is taken as ms; --x-units s, us or "
-                                 "min says otherwise");
+            made.notes.push_back(
+                "the x column has no units and is taken as ms; --x-units s, us or "
+                "min says otherwise");
         }
         const double milliseconds = MillisecondsOf(units);
         if (milliseconds == 0.0) {
@@ -128,8 +129,7 @@ class Maker {
         if (options_.layout == Layout::kSweeps && !made.groups.empty()) return made.groups[0];
         if (!alone) {
             for (std::size_t i = 0; i < made.groups.size(); ++i) {
-                if (keys_[i] == name && made.groups[i].units == column.units)
-                    return made.groups[i];
+                if (keys_[i] == name && made.groups[i].units == column.units) return made.groups[i];
             }
         }
         keys_.push_back(name);

@@ -111,9 +111,8 @@ void ListAnalyses(bool json, std::ostream& out) {
                                        {"size", analysis.size}});
         }
         for (const ParamName& param : kParamNames) {
-            all["parameters"].push_back({{"name", param.name},
-                                         {"value", usual.*param.byte},
-                                         {"meaning", param.meaning}});
+            all["parameters"].push_back(
+                {{"name", param.name}, {"value", usual.*param.byte}, {"meaning", param.meaning}});
         }
         Print(all, out);
         return;

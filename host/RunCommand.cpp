@@ -72,8 +72,7 @@ bool FindField(const Records& records, const std::string& name, std::string* val
     if (search(records.analysis.record, records.options.data()) ||
         search("ZXADLG_DataOptions", &records.data))
         return true;
-    *error = "there is no field " + name + "; zxhost list " + records.analysis.name +
-             " names them";
+    *error = "there is no field " + name + "; zxhost list " + records.analysis.name + " names them";
     return false;
 }
 
@@ -82,8 +81,7 @@ bool FindKey(const SettingsStore& store, const std::string& name, std::string* v
              std::string* error) {
     const Settings settings = store.Read();
     const std::size_t slash = name.rfind('/');
-    const auto section =
-        settings.find(slash == std::string::npos ? "" : name.substr(0, slash));
+    const auto section = settings.find(slash == std::string::npos ? "" : name.substr(0, slash));
     if (section != settings.end()) {
         const auto key = section->second.find(name.substr(slash + 1));
         if (key != section->second.end()) {
@@ -144,13 +142,11 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
     HostFileSource files([&options](HWND__*) { return options.control; },
                          [&err](const std::string& why) { err << "zxhost: " << why << "\n"; });
     ScriptPlayer player(made.script, options.timeLimit * 1000);
-    player.SetReaders(
-        [&](const std::string& name, std::string* value, std::string* why) {
-            return FindField(records, name, value, why);
-        },
-        [&](const std::string& name, std::string* value, std::string* why) {
-            return FindKey(made.store, name, value, why);
-        });
+    player.SetReaders([&](const std::string& name, std::string* value,
+                          std::string* why) { return FindField(records, name, value, why); },
+                      [&](const std::string& name, std::string* value, std::string* why) {
+                          return FindKey(made.store, name, value, why);
+                      });
     Report report;
     report.result = player.Play([&] {
         return analysis.show(
@@ -162,8 +158,7 @@ int RunAnalysis(const Options& options, std::ostream& out, std::ostream& err) {
     report.notes = made.recording.notes;
     report.messages = player.Messages();
     report.analysis = &analysis;
-    report.options =
-        CompareRecords(analysis.record, before.options.data(), records.options.data());
+    report.options = CompareRecords(analysis.record, before.options.data(), records.options.data());
     report.dataSelection = CompareRecords("ZXADLG_DataOptions", &before.data, &records.data);
     report.store = good ? made.store.Read() : made.store.Before();
     report.steps = good ? made.script.steps.size() : 0;
@@ -190,8 +185,7 @@ ExitCode LoadRecording(const Options& options, Recording* recording, std::string
         const ReadingOptions reading{kind.kind, options.layout, options.xUnits, options.delimiter};
         if (!ReadRecording(options.data, reading, &made, error, progress)) return kNoInput;
     }
-    if (!options.waveform.empty() &&
-        !ApplyWaveformFile(options.waveform, &made, error, progress))
+    if (!options.waveform.empty() && !ApplyWaveformFile(options.waveform, &made, error, progress))
         return kNoInput;
     if (options.protocol && !ApplyProtocol(*options.protocol, &made, error)) {
         *error = "--waveform: " + *error;

@@ -182,7 +182,8 @@ bool ApplyWaveformFile(const std::string& path, Recording* recording, std::strin
                     " points and the recording " + std::to_string(recording->x.size()));
     }
     const double span = recording->x.back() - recording->x.front();
-    const double least = 0.5 * span / static_cast<double>(std::max<std::size_t>(command.x.size(), 2) - 1);
+    const double least =
+        0.5 * span / static_cast<double>(std::max<std::size_t>(command.x.size(), 2) - 1);
     for (std::size_t i = 0; i < command.x.size(); ++i) {
         if (std::fabs(command.x[i] - recording->x[i]) <= least) continue;
         return fail("the waveform's time at point " + std::to_string(i + 1) + " is " +

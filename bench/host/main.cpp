@@ -66,11 +66,14 @@ double ReadPeers(const std::string& path, double* sum) {
     const std::string command =
         "/usr/bin/python3 -c 'import pandas, sys, time\n"
         "best = 1e9\n"
-        "for i in range(" + std::to_string(kRounds) + "):\n"
+        "for i in range(" +
+        std::to_string(kRounds) +
+        "):\n"
         "    begin = time.perf_counter()\n"
         "    frame = pandas.read_csv(sys.argv[1])\n"
         "    best = min(best, time.perf_counter() - begin)\n"
-        "print(best, frame.iloc[:, 1].sum())' " + path;
+        "print(best, frame.iloc[:, 1].sum())' " +
+        path;
     std::FILE* pipe = popen(command.c_str(), "r");
     double best = 0.0;
     const bool read = pipe != nullptr && std::fscanf(pipe, "%lf %lf", &best, sum) == 2;

@@ -31,7 +31,8 @@ void ReadMarks(const std::string& text) {
     zxhost::RegionMark region;
     std::string error;
     if (zxhost::ParseCursorMark(text, &cursor, &error))
-        Require(cursor.cursor >= 1 && cursor.cursor <= zxhost::kCursors && std::isfinite(cursor.at));
+        Require(cursor.cursor >= 1 && cursor.cursor <= zxhost::kCursors &&
+                std::isfinite(cursor.at));
     if (zxhost::ParseRegionMark(text, &region, &error))
         Require(!region.name.empty() && region.from <= region.to);
 }
@@ -57,7 +58,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ReadProtocol(text);
     ReadMarks(text);
     ReadArguments(text);
-    // Texts that are UTF-8 come back from the dialogs' code page when it has all of their characters.
+    // Texts that are UTF-8 come back from the dialogs' code page when it has all of their
+    // characters.
     if (zxhost::FindWrongByte(text) == std::string::npos) {
         bool exact = false;
         const std::string told = zxhost::ToSystem(text, &exact);

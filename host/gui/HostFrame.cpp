@@ -159,8 +159,7 @@ class Frame {
         HWND made = CreateWindowExA(exStyle, kind, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
                                     hwnd_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                     GetModuleHandleA(nullptr), nullptr);
-        SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(DialogFont()),
-                     FALSE);
+        SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(DialogFont()), FALSE);
         return made;
     }
 
@@ -203,8 +202,8 @@ class Frame {
         HWND store =
             Make("EDIT", "", ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | WS_VSCROLL | WS_TABSTOP,
                  kIdStore, WS_EX_CLIENTEDGE);
-        fixedFont_ = CreateFontA(-Scaled(12), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0,
-                                 0, FIXED_PITCH | FF_MODERN, "Courier New");
+        fixedFont_ = CreateFontA(-Scaled(12), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET,
+                                 0, 0, 0, FIXED_PITCH | FF_MODERN, "Courier New");
         SendMessageA(store, WM_SETFONT, reinterpret_cast<WPARAM>(fixedFont_), FALSE);
         Make("STATIC", "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdStatus);
         HWND progress = Make(PROGRESS_CLASSA, "", 0, kIdProgress);
@@ -283,10 +282,11 @@ class Frame {
               lower - kLabel - 2 * kMargin - Scaled(2));
         const int fields = width - right - kStoreWidth - 2 * kMargin;
         Place(labels_[3], right, lower - kLabel - Scaled(2), fields - Scaled(120), kLabel);
-        Place(Item(kIdChangedOnly), right + fields - Scaled(110), lower - kLabel - Scaled(4), Scaled(110),
-              kLabel + Scaled(2));
+        Place(Item(kIdChangedOnly), right + fields - Scaled(110), lower - kLabel - Scaled(4),
+              Scaled(110), kLabel + Scaled(2));
         Place(Item(kIdFields), right, lower, fields, kFieldsHeight);
-        Place(labels_[4], right + fields + kMargin, lower - kLabel - Scaled(2), kStoreWidth, kLabel);
+        Place(labels_[4], right + fields + kMargin, lower - kLabel - Scaled(2), kStoreWidth,
+              kLabel);
         Place(Item(kIdStore), right + fields + kMargin, lower, kStoreWidth, kFieldsHeight);
         Place(Item(kIdStatus), kMargin, height - kStatusHeight - kMargin, width - Scaled(240),
               kStatusHeight);

@@ -352,8 +352,8 @@ class Plot {
         SetBkColor(dc, Ground());
         SetBkMode(dc, OPAQUE);
         ForEachPane(client, [&](const RECT& pane, const Group& group, bool) {
-            const std::string title = ToSystem(
-                group.units.empty() ? group.name : group.name + " (" + group.units + ")");
+            const std::string title =
+                ToSystem(group.units.empty() ? group.name : group.name + " (" + group.units + ")");
             TextOutA(dc, pane.left + Scaled(6), pane.top + Scaled(4), title.c_str(),
                      static_cast<int>(title.size()));
         });
@@ -378,7 +378,8 @@ class Plot {
         if (!isLast) return;
         const std::string units = recording_->xUnits.empty() ? "row" : ToSystem(recording_->xUnits);
         SetTextAlign(dc, TA_RIGHT | TA_TOP);
-        TextOutA(dc, pane.right, pane.bottom + Scaled(18), units.c_str(), static_cast<int>(units.size()));
+        TextOutA(dc, pane.right, pane.bottom + Scaled(18), units.c_str(),
+                 static_cast<int>(units.size()));
     }
 
     // With more points than pixels, each pixel shows the lowest and the highest of its points.
@@ -436,8 +437,8 @@ class Plot {
     Recording* recording_;
     HBITMAP picture_ = nullptr;
     int dragged_ = 0;
-    int pointer_ = 0;      // where the mouse is
-    double first_ = 0.0;   // what is shown, in points
+    int pointer_ = 0;     // where the mouse is
+    double first_ = 0.0;  // what is shown, in points
     double last_ = 1.0;
 };
 
@@ -518,10 +519,9 @@ HWND CreatePlot(HWND parent, int id, Recording* recording) {
     wc.hInstance = GetModuleHandleA(nullptr);
     wc.lpszClassName = kClassName;
     RegisterClassA(&wc);
-    return CreateWindowExA(WS_EX_CLIENTEDGE, kClassName, "",
-                           WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_TABSTOP, 0, 0, 0, 0,
-                           parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), wc.hInstance,
-                           recording);
+    return CreateWindowExA(
+        WS_EX_CLIENTEDGE, kClassName, "", WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_TABSTOP, 0, 0, 0,
+        0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), wc.hInstance, recording);
 }
 
 void RefreshPlot(HWND plot) {

@@ -1,9 +1,8 @@
 // Windows: arguments are 16-bit, dialogs have the system's code page, and a console is told.
 #include "System.h"
 // The header of the system, and what it leaves out.
-#include <windows.h>
-
 #include <shellapi.h>
+#include <windows.h>
 
 namespace zxhost {
 namespace {

@@ -21,7 +21,8 @@ class HostOptions : public host_test::HostTest {
     }
     // 300 points at 1 kHz of two signals in three sweeps.
     std::string Family() {
-        std::string rows = "Time (ms),Im 1 (pA),Vm 1 (mV),Im 2 (pA),Vm 2 (mV),Im 3 (pA),Vm 3 (mV)\n";
+        std::string rows =
+            "Time (ms),Im 1 (pA),Vm 1 (mV),Im 2 (pA),Vm 2 (mV),Im 3 (pA),Vm 3 (mV)\n";
         for (int i = 0; i < 300; ++i) {
             rows += std::to_string(i);
             for (int k = 0; k < 6; ++k) rows += "," + std::to_string(i % 7 + k) + ".5";
@@ -49,8 +50,10 @@ TEST_F(HostOptions, AreRefusedWithWhatIsWrong) {
     EXPECT_EQ(Wrong({"--data="}), "--data needs a value");
     EXPECT_EQ(Wrong({"--settings", "--store", "x"}),
               "--store and --settings say two places for the settings");
-    EXPECT_EQ(Wrong({"list", "nothing"}), "there is no analysis \"nothing\"; zxhost list names them");
-    EXPECT_EQ(Wrong({"list", "normalize", "filter"}), "list takes the name of one analysis or none");
+    EXPECT_EQ(Wrong({"list", "nothing"}),
+              "there is no analysis \"nothing\"; zxhost list names them");
+    EXPECT_EQ(Wrong({"list", "normalize", "filter"}),
+              "list takes the name of one analysis or none");
 }
 
 TEST_F(HostOptions, TellTheVersion) {
@@ -71,10 +74,11 @@ TEST_F(HostOptions, PutCursorsAndRegions) {
 }
 
 TEST_F(HostOptions, GiveARecordingAStimulus) {
-    const std::string script = WriteFile("iv.txt", "expect title \"Current/Voltage\"\n"
-                                                 "expect item 2420 \"Epoch A level\"\nok\n");
-    const std::vector<std::string> run = {"run",     "current-voltage", "--script", script,
-                                          "--data", Family()};
+    const std::string script = WriteFile("iv.txt",
+                                         "expect title \"Current/Voltage\"\n"
+                                         "expect item 2420 \"Epoch A level\"\nok\n");
+    const std::vector<std::string> run = {"run",  "current-voltage", "--script",
+                                          script, "--data",          Family()};
     EXPECT_EQ(Run(run), zxhost::kScriptFailed) << "refused without a stimulus";
     std::vector<std::string> with = run;
     with.insert(with.end(), {"--waveform", "-80..-40 by 20 from 50 to 150 ms"});
@@ -94,8 +98,7 @@ TEST_F(HostOptions, GiveARecordingAStimulus) {
 }
 
 TEST_F(HostOptions, SetStartValuesOfTheRecords) {
-    const std::string script = WriteFile(
-        "steps.txt", "ok\n");
+    const std::string script = WriteFile("steps.txt", "ok\n");
     ASSERT_EQ(Play("expect record eBaselineRegion 2\nexpect record bUseFullDataRange 0\n"
                    "expect chosen 2364 \"Cursors 3..4\"\nok\nexpect record eBaselineRegion 2.0\n",
                    {"--set", "eBaselineRegion=2", "--set", "bUseFullDataRange=0"}),
@@ -108,8 +111,9 @@ TEST_F(HostOptions, SetStartValuesOfTheRecords) {
     };
     EXPECT_EQ(refused("normalize", "bUseAllPoints=2"),
               "zxhost: --set: bUseAllPoints is 0 or 1, not \"2\"\n");
-    EXPECT_EQ(refused("normalize", "eBaselineRegion=-1"),
-              "zxhost: --set: eBaselineRegion is a whole number from 0 to 4294967295, not \"-1\"\n");
+    EXPECT_EQ(
+        refused("normalize", "eBaselineRegion=-1"),
+        "zxhost: --set: eBaselineRegion is a whole number from 0 to 4294967295, not \"-1\"\n");
     EXPECT_EQ(refused("sampling-rate", "nReduceFactor=2147483648"),
               "zxhost: --set: nReduceFactor is a whole number from -2147483648 to 2147483647, not "
               "\"2147483648\"\n");
@@ -163,8 +167,7 @@ TEST_F(HostOptions, AScriptThatFailsBehindOkStoresNothing) {
     ASSERT_EQ(Play("choose 2364 2\nok\n", {"--set", "bUseAllPoints=1"}), 0) << err;
     const std::string before = ReadFile(Store());
     const std::string script = scratch.File("steps.txt");
-    EXPECT_EQ(Play("choose 2364 3\nok\nexpect record eBaselineRegion 1\n"),
-              zxhost::kScriptFailed);
+    EXPECT_EQ(Play("choose 2364 3\nok\nexpect record eBaselineRegion 1\n"), zxhost::kScriptFailed);
     EXPECT_EQ(err, script + ":3: field eBaselineRegion is \"2\" and should be \"1\"\n");
     EXPECT_EQ(ReadFile(Store()), before);
     EXPECT_TRUE(OutHas("  eBaselineRegion=1\n")) << "the store as it stays";
@@ -177,8 +180,7 @@ TEST_F(HostOptions, AScriptThatFailsBehindOkStoresNothing) {
     EXPECT_EQ(Play("ok\nexpect store NormalizeSection/none 1\n"), zxhost::kScriptFailed);
     EXPECT_EQ(err, script + ":2: there is no key NormalizeSection/none in the store\n");
     EXPECT_EQ(Play("ok\nexpect record none 1\n"), zxhost::kScriptFailed);
-    EXPECT_EQ(err,
-              script + ":2: there is no field none; zxhost list normalize names them\n");
+    EXPECT_EQ(err, script + ":2: there is no field none; zxhost list normalize names them\n");
 }
 
 TEST_F(HostOptions, ARefusalInPlaceOfTheDialogIsMet) {
@@ -235,8 +237,8 @@ TEST_F(HostOptions, WithoutAStoreARunLeavesTheUsersSettingsAlone) {
     const std::string root = "ZxHostTests-own";
     const test_support::ScopedEnvironment variable("ZDC_REGISTRY_ROOT", root.c_str());
     const std::string script = WriteFile("steps.txt", "choose 2364 3\nok\n");
-    const std::vector<std::string> run = {"run", "normalize", "--script", script, "--set",
-                                          "bUseAllPoints=1"};
+    const std::vector<std::string> run = {"run",  "normalize", "--script",
+                                          script, "--set",     "bUseAllPoints=1"};
     const auto stored = [&] {
         zxhost::SettingsStore own;
         std::string error;

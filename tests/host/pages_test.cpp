@@ -1,4 +1,5 @@
-// The command lines and scripts of the README and of docs/automation.md, taken from the pages and run.
+// The command lines and scripts of the README and of docs/automation.md, taken from the pages and
+// run.
 #include <filesystem>
 #include <map>
 #include <sstream>

@@ -1,6 +1,5 @@
 // Recordings out of columns: what is a signal and what a sweep, and in what the time is.
 #include "RecordingReader.h"
-
 #include "host_test.h"
 
 namespace {
@@ -84,9 +83,10 @@ TEST_F(RecordingReader, UnderstandsUnitsOfTime) {
     const struct {
         const char* units;
         double milliseconds;
-    } kRows[] = {{"s", 1000},  {"S", 1000},    {"ms", 1},     {"MS", 1},     {"us", 0.001},
-                 {"US", 0.001}, {"µs", 0.001}, {"µS", 0.001}, {"\u03BCs", 0.001},
-                 {"min", 60000}, {"Min", 60000}, {"h", 0},    {"m", 0},      {"", 0}};
+    } kRows[] = {{"s", 1000},        {"S", 1000},    {"ms", 1},      {"MS", 1},
+                 {"us", 0.001},      {"US", 0.001},  {"µs", 0.001},  {"µS", 0.001},
+                 {"\u03BCs", 0.001}, {"min", 60000}, {"Min", 60000}, {"h", 0},
+                 {"m", 0},           {"", 0}};
     for (const auto& [units, milliseconds] : kRows)
         EXPECT_EQ(zxhost::MillisecondsOf(units), milliseconds) << units;
     ASSERT_TRUE(Read("Time (s),Vm (mV)\n0,1.5\n0.00025,2\n0.0005,3\n")) << error;
@@ -116,8 +116,7 @@ TEST_F(RecordingReader, RefusesOtherUnitsOfTheXColumn) {
     ASSERT_TRUE(Read("Vm (mV),Im (pA)\n0,1.5\n1,2\n", {.kind = DataKind::kSecondKind})) << error;
     EXPECT_EQ(recording.xUnits, "mV");
     EXPECT_EQ(recording.samplingFrequency, 0.0);
-    EXPECT_EQ(recording.Describe(),
-              "cell.csv: 1 signal (Im in pA), 1 sweep, 2 points, 0 to 1 mV");
+    EXPECT_EQ(recording.Describe(), "cell.csv: 1 signal (Im in pA), 1 sweep, 2 points, 0 to 1 mV");
 }
 
 TEST_F(RecordingReader, MakesASheetOfAllColumns) {

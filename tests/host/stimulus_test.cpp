@@ -63,7 +63,8 @@ TEST_F(Stimulus, TellsWhereAProtocolIsWrong) {
     EXPECT_EQ(Refused("-80 by 10"), "place 1: FIRST..LAST was expected");
     EXPECT_EQ(Refused("-80..x by 10"), "place 1: FIRST..LAST was expected");
     EXPECT_EQ(Refused("-80..40 in 10"), "place 9: \"by\" was expected");
-    EXPECT_EQ(Refused("-80..40 by 0 from 1 to 2 ms"), "place 12: a step that is not 0 was expected");
+    EXPECT_EQ(Refused("-80..40 by 0 from 1 to 2 ms"),
+              "place 12: a step that is not 0 was expected");
     EXPECT_EQ(Refused("-80..40 by 7 from 1 to 2 ms"),
               "place 12: a step that leads from -80 to 40 was expected");
     EXPECT_EQ(Refused("-80..40 by -10 from 1 to 2 ms"),
@@ -146,8 +147,7 @@ TEST_F(Stimulus, AWaveformFileMustFitTheRecording) {
         late += std::to_string(i < 50 ? i : i + 1) + ",1\n";
         two += std::to_string(i) + ",1,2\n";
     }
-    EXPECT_EQ(refused(late),
-              "the waveform's time at point 51 is 51 ms and the recording's 50 ms");
+    EXPECT_EQ(refused(late), "the waveform's time at point 51 is 51 ms and the recording's 50 ms");
     EXPECT_EQ(refused(two), "the waveform has 2 sweeps and the recording 3");
 }
 

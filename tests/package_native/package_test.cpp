@@ -47,7 +47,8 @@ TEST(Package, TheCommandsOfTheGuideRunInAnEmptyFolder) {
         ASSERT_NE(commands, "");
         std::ofstream(root + "/commands.sh")
             << "set -e\nexport ZX=" << root << "/zx CXXFLAGS='" ZX_CONSUMER_FLAGS "'\n"
-            << "cd " << root << "\n" << commands;
+            << "cd " << root << "\n"
+            << commands;
         ASSERT_EQ(std::system(("sh " + root + "/commands.sh >" + log + " 2>&1").c_str()), 0)
             << Read(log);
         EXPECT_NE(Read(log).find("Baseline region 0, peak region 0, in 3 of 3 sweeps.\n"),
