@@ -1,8 +1,8 @@
 // Windows: arguments are 16-bit, dialogs have the system's code page, and a console is told.
 #include "System.h"
-// The header of the system, and what it leaves out.
+#include "zxadlg/headless.h"
+// What the platform's main header leaves out.
 #include <shellapi.h>
-#include <windows.h>
 
 namespace zxhost {
 namespace {
