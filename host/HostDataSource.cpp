@@ -4,6 +4,8 @@
 #include <cstring>
 #include <utility>
 
+#include "System.h"
+
 namespace zxhost {
 namespace {
 
@@ -58,6 +60,11 @@ HostDataSource::Span HostDataSource::SpanOf(uint32_t group, uint32_t set,
     return {range->uFirstIndex, range->uLastIndex - range->uFirstIndex + 1};
 }
 
+const char* HostDataSource::Told(const std::string& text) {
+    told_ = ToSystem(text);
+    return told_.c_str();
+}
+
 const char* HostDataSource::GetProfileName() {
     return profile_.empty() ? nullptr : profile_.c_str();
 }
@@ -101,19 +108,19 @@ const char* HostDataSource::GetSetLabel() {
 }
 
 const char* HostDataSource::GetGroupName(uint32_t group) {
-    return group < recording_->groups.size() ? recording_->groups[group].name.c_str() : nullptr;
+    return group < recording_->groups.size() ? Told(recording_->groups[group].name) : nullptr;
 }
 
 const char* HostDataSource::GetSetName(uint32_t group, uint32_t set) {
     const Set* found = FindSet(group, set);
-    return found ? found->name.c_str() : nullptr;
+    return found ? Told(found->name) : nullptr;
 }
 
 const char* HostDataSource::GetUnits(uint32_t group, int32_t index) {
     if (group >= recording_->groups.size()) return nullptr;
-    if (recording_->kind != DataKind::kSheet) return recording_->groups[group].units.c_str();
+    if (recording_->kind != DataKind::kSheet) return Told(recording_->groups[group].units);
     const Set* found = FindSet(group, static_cast<uint32_t>(index + 1));
-    return found ? found->units.c_str() : "";
+    return found ? Told(found->units) : "";
 }
 
 uint32_t HostDataSource::GetDataKind() {
@@ -151,13 +158,14 @@ uint32_t HostDataSource::GetActiveGroup() {
 
 const char* HostDataSource::GetRegionName(uint32_t position) {
     const std::vector<Region>& regions = recording_->regions;
-    return position < regions.size() ? regions[position].name.c_str() : nullptr;
+    const bool named = position < regions.size() && !regions[position].name.empty();
+    return named ? Told(regions[position].name) : nullptr;
 }
 
 const char* HostDataSource::GetEpochName(uint32_t position, uint32_t* value) {
     if (position >= recording_->waveforms.size()) return nullptr;
     *value = recording_->waveforms[position].number;
-    return recording_->waveforms[position].name.c_str();
+    return Told(recording_->waveforms[position].name);
 }
 
 bool HostDataSource::GetRegionInfo(uint32_t position, ZXADLG_RegionInfo* info, uint32_t group,

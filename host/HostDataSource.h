@@ -62,8 +62,12 @@ class HostDataSource final : public ZXADLG_CDlgDataSource {
     Span SpanOf(const Region& region) const;
     Span SpanOf(uint32_t group, uint32_t set, const ZXADLG_DataRange* range) const;
 
+    // The dialogs have another encoding than the host.
+    const char* Told(const std::string& text);
+
     Recording* recording_;
     std::string profile_;
+    std::string told_;  // the last text
 };
 
 }  // namespace zxhost

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "Recording.h"
-#include "TextReader.h"
+#include "RecordingReader.h"
+#include "System.h"
 
 namespace zxhost {
 
@@ -28,12 +28,12 @@ const char* HostFileSource::BrowseForFile(HWND__* owner) {
     if (path.empty()) return nullptr;
     Recording recording;
     std::string error;
-    if (!ReadRecording(path, DataKind::kRecording, &recording, &error)) {
+    if (!ReadRecording(path, {}, &recording, &error)) {
         complain_(error);
         return nullptr;
     }
-    ControlFile file{path, {}};
-    for (const Group& group : recording.groups) file.groups.push_back(group.name);
+    ControlFile file{ToSystem(path), {}};
+    for (const Group& group : recording.groups) file.groups.push_back(ToSystem(group.name));
     files_.push_back(std::move(file));
     current_ = static_cast<uint32_t>(files_.size());
     return files_.back().path.c_str();

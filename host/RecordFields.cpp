@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstring>
+
+#include "Numbers.h"
+#include "System.h"
 
 namespace zxhost {
 namespace {
@@ -80,7 +84,7 @@ std::string FormatField(const ZXADLG_FieldInfo& field, const char* at) {
             const void* end = std::memchr(at, 0, field.size);
             const std::size_t length =
                 end ? static_cast<std::size_t>(static_cast<const char*>(end) - at) : field.size;
-            return "\"" + std::string(at, length) + "\"";
+            return "\"" + FromSystem(std::string(at, length)) + "\"";
         }
         default:
             return FormatBytes(at, field.size);
@@ -119,6 +123,122 @@ std::vector<FieldValue> CompareRecords(const char* type, const void* before, con
         }
     }
     return values;
+}
+
+namespace {
+
+const char* TypeText(const ZXADLG_FieldInfo& field, std::string* room) {
+    switch (field.type) {
+        case ZXADLG_FIELD_BOOL8:
+        case ZXADLG_FIELD_BOOL32:
+            return "0 or 1";
+        case ZXADLG_FIELD_U32:
+            return "a whole number from 0 to 4294967295";
+        case ZXADLG_FIELD_I32:
+            return "a whole number from -2147483648 to 2147483647";
+        case ZXADLG_FIELD_FLOAT:
+            return "a number of single precision";
+        case ZXADLG_FIELD_DOUBLE:
+            return "a number";
+        case ZXADLG_FIELD_TEXT:
+            *room = "a text of at most " + std::to_string(field.size - 1) + " bytes";
+            return room->c_str();
+        default:
+            return "bytes that cannot be set";
+    }
+}
+
+template <class T>
+void Store(char* at, T value) {
+    std::memcpy(at, &value, sizeof value);
+}
+
+template <class T>
+bool StoreWhole(const std::string& text, char* at) {
+    T value = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, code] = std::from_chars(text.data(), end, value);
+    if (code != std::errc() || stop != end) return false;
+    Store(at, value);
+    return true;
+}
+
+bool StoreField(const ZXADLG_FieldInfo& field, const std::string& text, char* at) {
+    double number = 0.0;
+    switch (field.type) {
+        case ZXADLG_FIELD_BOOL8:
+        case ZXADLG_FIELD_BOOL32:
+            if (text != "0" && text != "1") return false;
+            if (field.type == ZXADLG_FIELD_BOOL8) {
+                Store<std::uint8_t>(at, text == "1");
+            } else {
+                Store<std::uint32_t>(at, text == "1");
+            }
+            return true;
+        case ZXADLG_FIELD_U32:
+            return StoreWhole<std::uint32_t>(text, at);
+        case ZXADLG_FIELD_I32:
+            return StoreWhole<std::int32_t>(text, at);
+        case ZXADLG_FIELD_FLOAT:
+            if (!ParseNumber(text, &number) || std::isinf(static_cast<float>(number))) return false;
+            Store(at, static_cast<float>(number));
+            return true;
+        case ZXADLG_FIELD_DOUBLE:
+            if (!ParseNumber(text, &number)) return false;
+            Store(at, number);
+            return true;
+        case ZXADLG_FIELD_TEXT: {
+            bool exact = false;
+            const std::string told = ToSystem(text, &exact);
+            if (!exact || told.size() >= field.size) return false;
+            std::memset(at, 0, field.size);
+            std::memcpy(at, told.data(), told.size());
+            return true;
+        }
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+FieldSetting SetField(const char* type, const std::string& name, const std::string& text,
+                      void* record, std::string* error) {
+    const ZXADLG_FieldInfo* fields = nullptr;
+    const std::uint32_t count = ZXADLG_GetRecordFields(type, &fields);
+    for (std::uint32_t f = 0; f < count; ++f) {
+        const ZXADLG_FieldInfo& field = fields[f];
+        if (name.compare(0, std::strlen(field.name), field.name) != 0) continue;
+        for (std::uint32_t i = 0; i < field.count; ++i) {
+            for (std::uint32_t j = 0; j < field.innerCount; ++j) {
+                if (FieldName(field, i, j) != name) continue;
+                const std::size_t place = field.offset + i * field.stride + j * field.size;
+                if (StoreField(field, text, static_cast<char*>(record) + place))
+                    return FieldSetting::kSet;
+                std::string room;
+                *error = name + " is " + TypeText(field, &room) + ", not \"" + text + "\"";
+                return FieldSetting::kWrongValue;
+            }
+        }
+    }
+    return FieldSetting::kNoField;
+}
+
+std::vector<FieldLine> DescribeFields(const char* type, const void* record) {
+    const ZXADLG_FieldInfo* fields = nullptr;
+    const std::uint32_t count = ZXADLG_GetRecordFields(type, &fields);
+    std::vector<FieldLine> lines;
+    for (std::uint32_t f = 0; f < count; ++f) {
+        const ZXADLG_FieldInfo& field = fields[f];
+        const bool array = field.count > 1, inner = field.innerCount > 1;
+        std::string name = field.name, room;
+        if (array) name += "[0.." + std::to_string(field.count - 1) + "]";
+        if (field.member != nullptr) name += std::string(".") + field.member;
+        if (inner) name += "[0.." + std::to_string(field.innerCount - 1) + "]";
+        lines.push_back({name, TypeText(field, &room),
+                         FormatField(field, static_cast<const char*>(record) + field.offset)});
+    }
+    return lines;
 }
 
 ZXADLG_DataOptions DefaultData() {

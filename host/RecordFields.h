@@ -23,6 +23,20 @@ struct FieldValue {
 // digits that give them back, texts in quotes, bytes in hexadecimal.
 std::vector<FieldValue> CompareRecords(const char* type, const void* before, const void* after);
 
+// Sets a field by its name as CompareRecords tells it. A value that the field cannot have leaves
+// it, with what it can have in `error`.
+enum class FieldSetting { kSet, kNoField, kWrongValue };
+FieldSetting SetField(const char* type, const std::string& name, const std::string& text,
+                      void* record, std::string* error);
+
+// A field, or an array of it as "name[0..5]": what it can be, and the value of the (first) one.
+struct FieldLine {
+    std::string name;
+    std::string limits;
+    std::string value;
+};
+std::vector<FieldLine> DescribeFields(const char* type, const void* record);
+
 // The bytes of the parameter record by their names.
 struct ParamName {
     const char* name;

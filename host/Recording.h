@@ -1,8 +1,9 @@
 // The data of the example host: groups (signals, or the sheet) of sets (sweeps, or columns), with
 // the marks that a scientist puts on them.
 //
-// A recording and the second kind have one x axis for all sets; a sheet has none, its columns are
-// all there is. Every set of a group has the same number of points. Indices are 0-based.
+// A recording and the second kind have one x axis for all sets, that of a recording in ms; a sheet
+// has none, its columns are all there is. Texts are UTF-8. Every set of a group has the same number
+// of points. Indices are 0-based.
 #pragma once
 
 #include <array>
@@ -56,6 +57,7 @@ struct Recording {
     std::vector<Region> regions;
     std::vector<Waveform> waveforms;
     std::array<std::int32_t, kCursors> cursors{};  // points
+    std::vector<std::string> notes;  // what was assumed when it was read, a sentence each
     std::uint32_t activeGroup = 0;
     std::uint32_t activeSet = 0;
 
@@ -64,9 +66,13 @@ struct Recording {
         if (groups.empty() || groups.front().sets.empty()) return 0;
         return static_cast<std::uint32_t>(groups.front().sets.front().values.size());
     }
-    // One line: what it is and how much there is of it.
+    // One line: what it is, its signals with their units, and how much there is of it.
     std::string Describe() const;
 };
+
+// A fixed region, with the next number that stands for no variable of the dialogs' own.
+void AddRegion(Recording* recording, const std::string& name, std::uint32_t first,
+               std::uint32_t last);
 
 // The regions that every recording has: all points, and those between its cursors.
 void AddCursorRegions(Recording* recording);

@@ -4,8 +4,10 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 
+#include "System.h"
 #include "zxadlg/headless.h"
 
 namespace zxhost {
@@ -13,8 +15,8 @@ namespace {
 
 constexpr std::size_t kLargestScript = 1 << 20;
 
-// What stands behind a verb: C a control, T a text or a number, K a key, M keys held (may be left
-// out).
+// What stands behind a verb: C a control, N a name, T a text or a number, K a key, M keys held (may
+// be left out).
 struct VerbRow {
     const char* name;
     Verb verb;
@@ -51,6 +53,8 @@ constexpr VerbRow kExpectations[] = {
     {"checked", Verb::kExpectChecked, "C", "expect checked CONTROL"},
     {"unchecked", Verb::kExpectUnchecked, "C", "expect unchecked CONTROL"},
     {"focus", Verb::kExpectFocus, "C", "expect focus CONTROL"},
+    {"record", Verb::kExpectRecord, "NT", "expect record FIELD VALUE"},
+    {"store", Verb::kExpectStore, "NT", "expect store SECTION/KEY VALUE"},
 };
 
 struct KeyRow {
@@ -147,7 +151,11 @@ std::string TakeWords(const VerbRow& row, const std::vector<Word>& words, Step* 
         }
         if (at == words.size()) return usage;
         const Word& word = words[at++];
-        if (*form == 'C') step->control = word;
+        if (*form == 'C') {
+            step->field = !word.quoted && word.text == "field" && at < words.size();
+            step->control = step->field ? words[at++] : word;
+        }
+        if (*form == 'N') step->name = word;
         if (*form == 'T') step->argument = word;
         if (*form == 'K') {
             step->argument = word;
@@ -179,7 +187,12 @@ bool ParseScript(const std::string& text, const std::string& name, Script* scrip
                  std::string* error) {
     Script read;
     read.name = name;
-    std::size_t at = 0;
+    const std::string wide = WrongEncoding(text);
+    if (!wide.empty()) {
+        *error = name + ": " + wide;
+        return false;
+    }
+    std::size_t at = text.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0;
     for (int number = 1; at < text.size(); ++number) {
         const std::size_t end = std::min(text.find('\n', at), text.size());
         std::string line = text.substr(at, end - at);
@@ -190,6 +203,11 @@ bool ParseScript(const std::string& text, const std::string& name, Script* scrip
             return false;
         };
         if (line.find('\0') != std::string::npos) return fail("this is not a text file");
+        const std::size_t place = FindWrongByte(line);
+        if (place != std::string::npos) {
+            return fail("the byte at place " + std::to_string(place + 1) +
+                        " is not UTF-8; save the script as UTF-8");
+        }
         std::vector<Word> words;
         if (!SplitLine(line, &words)) return fail("a quote is not closed");
         if (words.empty()) continue;
@@ -228,12 +246,17 @@ bool ParseScript(const std::string& text, const std::string& name, Script* scrip
 }
 
 bool ReadScript(const std::string& path, Script* script, std::string* error) {
+    if (path == "-") {
+        const std::string text((std::istreambuf_iterator<char>(std::cin)),
+                               std::istreambuf_iterator<char>());
+        return ParseScript(text, "standard input", script, error);
+    }
     std::error_code code;
-    if (std::filesystem::is_directory(path, code)) {
+    if (std::filesystem::is_directory(PathOf(path), code)) {
         *error = path + ": this is a folder, not a script";
         return false;
     }
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     if (!file) {
         *error = path + ": the script cannot be opened";
         return false;

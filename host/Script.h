@@ -32,6 +32,8 @@ enum class Verb {
     kExpectChecked,
     kExpectUnchecked,
     kExpectFocus,
+    kExpectRecord,
+    kExpectStore,
 };
 
 // A word of a line; what stood in quotes is text and never a number.
@@ -48,6 +50,8 @@ struct Step {
     Verb verb = Verb::kOk;
     std::string source;  // the line as it stands
     Word control;        // an id or a caption; empty where the verb has none
+    bool field = false;  // the caption is that of a button, and the field behind it is meant
+    Word name;           // of a field of a record or a key of the store
     Word argument;       // text, item, key, button or time
     int key = 0;         // of kPress: a VK_* number
     unsigned held = 0;   // of kPress and kChoose
@@ -61,6 +65,7 @@ struct Script {
 // On failure false with "NAME:LINE: what is wrong" for the first wrong line.
 bool ParseScript(const std::string& text, const std::string& name, Script* script,
                  std::string* error);
+// From a file, or from the standard input as "-".
 bool ReadScript(const std::string& path, Script* script, std::string* error);
 
 // The number that a word without quotes stands for, or -1.

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "Numbers.h"
+#include "System.h"
+
 namespace zxhost {
 namespace {
 
@@ -64,10 +67,13 @@ std::int32_t ScriptPlayer::Play(const std::function<std::int32_t()>& open) {
     timer_ = 0;
     playing = nullptr;
     HoldKeys(kHoldNone);
-    if (!sawDialog_) {
+    while (error_.empty() && next_ < script_.steps.size() && IsLater(script_.steps[next_]))
+        ExpectValue(script_.steps[next_++]);
+    if (next_ < script_.steps.size()) {
+        Fail(sawDialog_ ? "the dialog closed before this step: " + script_.steps[next_].source
+                        : "no dialog opened (the call gave " + std::to_string(result) + ")");
+    } else if (!sawDialog_ && messages_.empty()) {
         Fail("no dialog opened (the call gave " + std::to_string(result) + ")");
-    } else if (next_ < script_.steps.size()) {
-        Fail("the dialog closed before this step: " + script_.steps[next_].source);
     }
     return result;
 }
@@ -104,6 +110,11 @@ bool ScriptPlayer::TickOnce() {
             if (StepIsLate()) Fail("no dialog opens");
             return false;
         }
+        const Verb verb = next_ < script_.steps.size() ? script_.steps[next_].verb : Verb::kOk;
+        if ((verb == Verb::kAnswer || verb == Verb::kExpectMessage) && IsMessage(active)) {
+            TickOnMessage(active);
+            return false;
+        }
         dialog_ = active;
         sawDialog_ = true;
     }
@@ -116,6 +127,8 @@ bool ScriptPlayer::TickOnce() {
         if (StepIsLate()) Fail("the dialog takes no input");
         return false;
     }
+    CheckTyped();
+    if (!error_.empty()) return false;
     if (next_ == script_.steps.size()) {
         if (++idleTicks_ > kIdleTicksAtEnd) Fail("the script is over and the dialog is still open");
         return false;
@@ -227,8 +240,12 @@ ScriptPlayer::State ScriptPlayer::Expect(const Step& step, HWND dialog) {
         if (!tabs) {
             Fail("the dialog has no tabs");
         } else {
-            Compare("the page", ChosenItem(tabs), step.argument);
+            CompareItem("the page", tabs, step.argument);
         }
+        return State::kDone;
+    }
+    if (IsLater(step)) {
+        ExpectValue(step);
         return State::kDone;
     }
     HWND control = ControlOf(step, dialog, false);
@@ -239,7 +256,7 @@ ScriptPlayer::State ScriptPlayer::Expect(const Step& step, HWND dialog) {
             Compare("the text of " + name, OneLineEnd(TextOf(control)), step.argument);
             break;
         case Verb::kExpectChosen:
-            Compare("the choice in " + name, ChosenItem(control), step.argument);
+            CompareItem("the choice in " + name, control, step.argument);
             break;
         case Verb::kExpectItem:
             if (IndexOfItem(control, step.argument) < 0)
@@ -274,9 +291,11 @@ ScriptPlayer::State ScriptPlayer::Expect(const Step& step, HWND dialog) {
 // --- Input -----------------------------------------------------------------------------------
 
 HWND ScriptPlayer::ControlOf(const Step& step, HWND dialog, bool forInput) {
-    HWND control = FindControl(dialog, step.control);
+    HWND control =
+        step.field ? FindFieldBehind(dialog, step.control) : FindControl(dialog, step.control);
     if (!control) {
-        Fail("there is no control " + Describe(step.control));
+        Fail((step.field ? "there is no field behind " : "there is no control ") +
+             Describe(step.control) + "; there are " + ListControls(dialog));
         return nullptr;
     }
     if (forInput && (!IsWindowVisible(control) || !IsWindowEnabled(control))) {
@@ -386,19 +405,43 @@ ScriptPlayer::State ScriptPlayer::PickFromMenu(const Step& step) {
 }
 
 void ScriptPlayer::Type(const Step& step, HWND dialog, HWND control) {
+    if (!IsField(control)) {
+        Fail("control " + Describe(step.control) + " is no field that can be typed into");
+        return;
+    }
+    bool exact = false;
+    const std::string characters = ToSystem(step.argument.text, &exact);
+    if (!exact) {
+        Fail("the dialogs have no such character in " + Quote(step.argument.text));
+        return;
+    }
     SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
     HWND focus = GetFocus();
     if (!focus || (focus != control && !IsChild(control, focus))) {
         Fail("control " + Describe(step.control) + " does not take the focus");
         return;
     }
+    typed_ = &step;
+    typedInto_ = control;
     SendMessageA(focus, EM_SETSEL, 0, -1);
     if (step.argument.text.empty()) {
         PostMessageA(focus, WM_KEYDOWN, VK_DELETE, 1 | (1 << 24));
         return;
     }
-    for (char c : step.argument.text)
-        PostMessageA(focus, WM_CHAR, static_cast<unsigned char>(c), 1);
+    for (char c : characters) PostMessageA(focus, WM_CHAR, static_cast<unsigned char>(c), 1);
+}
+
+// A field may take some characters and leave others.
+void ScriptPlayer::CheckTyped() {
+    if (!typed_) return;
+    const Step& step = *std::exchange(typed_, nullptr);
+    if (!IsWindow(typedInto_)) return;
+    const std::string held = TextOf(typedInto_);
+    if (held == step.argument.text) return;
+    const Step* outer = std::exchange(running_, &step);
+    Fail("control " + Describe(step.control) + " holds " + Quote(held) + " after " +
+         Quote(step.argument.text) + " was typed");
+    running_ = outer;
 }
 
 void ScriptPlayer::Press(const Step& step, HWND dialog) {
@@ -427,6 +470,35 @@ void ScriptPlayer::Press(const Step& step, HWND dialog) {
 void ScriptPlayer::Compare(const std::string& what, const std::string& seen, const Word& wanted) {
     if (seen != wanted.text)
         Fail(what + " is " + Quote(seen) + " and should be " + Quote(wanted.text));
+}
+
+// An item by its text, or by its position from 1.
+void ScriptPlayer::CompareItem(const std::string& what, HWND control, const Word& wanted) {
+    const int position = NumberOf(wanted);
+    if (position < 0) {
+        Compare(what, ChosenItem(control), wanted);
+    } else if (ChosenIndex(control) + 1 != position) {
+        Fail(what + " is item " + std::to_string(ChosenIndex(control) + 1) + ", " +
+             Quote(ChosenItem(control)) + ", and should be item " + std::to_string(position));
+    }
+}
+
+bool ScriptPlayer::IsLater(const Step& step) const {
+    return step.verb == Verb::kExpectRecord || step.verb == Verb::kExpectStore;
+}
+
+void ScriptPlayer::ExpectValue(const Step& step) {
+    const Step* outer = std::exchange(running_, &step);
+    const bool record = step.verb == Verb::kExpectRecord;
+    std::string seen, error;
+    double number = 0.0, wanted = 0.0;
+    if (!(record ? readRecord_ : readStore_)(step.name.text, &seen, &error)) {
+        Fail(error);
+    } else if (!ParseNumber(seen, &number) || !ParseNumber(step.argument.text, &wanted) ||
+               number != wanted) {
+        Compare(record ? "field " + step.name.text : "key " + step.name.text, seen, step.argument);
+    }
+    running_ = outer;
 }
 
 void ScriptPlayer::Check(const Step& step, bool holds, const char* is) {

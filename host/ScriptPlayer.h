@@ -4,15 +4,17 @@
 //     const int32_t result = player.Play([&] { return ZXADLG_ShowNormalizeDialog(...); });
 //     if (!player.Error().empty()) ...
 //
-// Steps act on the dialog that opened; a message on top of it must be met by "expect message" or
-// "answer". The first step that cannot be done, a dialog that closes before the last step or stays
-// open behind it, no dialog at all and the time limit end the script with an error, and all dialogs
-// are cancelled. One player plays at a time.
+// Steps act on the dialog that opened; a message on top of it, or in place of it, must be met by
+// "expect message" or "answer". Expectations of records and store may stand behind the step that
+// closes the dialog. The first step that cannot be done, a dialog that closes before the last step
+// or stays open behind it, no dialog at all and the time limit end the script with an error, and
+// all dialogs are cancelled. One player plays at a time.
 #pragma once
 
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Script.h"
@@ -28,6 +30,15 @@ class ScriptPlayer {
     ~ScriptPlayer();
     ScriptPlayer(const ScriptPlayer&) = delete;
     ScriptPlayer& operator=(const ScriptPlayer&) = delete;
+
+    // Answers "expect record" and "expect store": gives the value of a field or a key, or false
+    // with what is wrong.
+    using ReadValue =
+        std::function<bool(const std::string& name, std::string* value, std::string* error)>;
+    void SetReaders(ReadValue record, ReadValue store) {
+        readRecord_ = std::move(record);
+        readStore_ = std::move(store);
+    }
 
     // Opens the dialog by the call, plays the script, and gives what the call gives.
     std::int32_t Play(const std::function<std::int32_t()>& open);
@@ -56,8 +67,12 @@ class ScriptPlayer {
     void Press(const Step& step, HWND dialog);
     void PostClick(HWND hwnd, POINT point, unsigned held);
     void HoldKeys(unsigned held);
+    void CheckTyped();
+    void ExpectValue(const Step& step);
+    bool IsLater(const Step& step) const;
     HWND ControlOf(const Step& step, HWND dialog, bool forInput);
     void Compare(const std::string& what, const std::string& seen, const Word& wanted);
+    void CompareItem(const std::string& what, HWND control, const Word& wanted);
     void Check(const Step& step, bool holds, const char* is);
     bool StepIsLate() const;
     void Fail(const std::string& why);
@@ -79,6 +94,10 @@ class ScriptPlayer {
     bool sawDialog_ = false;
     const Step* running_ = nullptr;
     UINT_PTR timer_ = 0;
+    ReadValue readRecord_;
+    ReadValue readStore_;
+    HWND typedInto_ = nullptr;  // by the step before, whose characters have arrived by now
+    const Step* typed_ = nullptr;
 };
 
 }  // namespace zxhost

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <vector>
 
+#include "System.h"
 #include "zxadlg/headless.h"
 
 namespace zxhost {
@@ -14,6 +15,8 @@ namespace {
 // The library looks below "Software" in the branch that this variable names.
 constexpr char kRootVariable[] = "ZDC_REGISTRY_ROOT";
 constexpr char kOwnRoot[] = "ZxHost";
+// The file that takes the name of the store when it is whole.
+constexpr char kNewFile[] = ".new";
 constexpr DWORD kNameSize = 1024;
 
 int runs = 0;
@@ -68,18 +71,19 @@ void ReadSection(HKEY key, std::map<std::string, std::string>* values) {
                              &size) != ERROR_SUCCESS)
             continue;
         text.resize(std::min<std::size_t>(text.find('\0'), size));
-        (*values)[std::string(name, nameSize)] = text;
+        (*values)[FromSystem(std::string(name, nameSize))] = FromSystem(text);
     }
 }
 
 bool WriteSection(const std::string& path, const std::map<std::string, std::string>& values) {
     HKEY key = nullptr;
-    if (RegCreateKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr,
-                        &key, nullptr) != ERROR_SUCCESS)
+    if (RegCreateKeyExA(HKEY_CURRENT_USER, ToSystem(path).c_str(), 0, nullptr, 0, KEY_SET_VALUE,
+                        nullptr, &key, nullptr) != ERROR_SUCCESS)
         return false;
     bool good = true;
-    for (const auto& [name, value] : values) {
-        if (RegSetValueExA(key, name.c_str(), 0, REG_SZ,
+    for (const auto& [name, text] : values) {
+        const std::string value = ToSystem(text);
+        if (RegSetValueExA(key, ToSystem(name).c_str(), 0, REG_SZ,
                            reinterpret_cast<const BYTE*>(value.c_str()),
                            static_cast<DWORD>(value.size() + 1)) != ERROR_SUCCESS)
             good = false;
@@ -88,7 +92,7 @@ bool WriteSection(const std::string& path, const std::map<std::string, std::stri
     return good;
 }
 
-bool IsReadOnly(const std::string& path) {
+bool IsReadOnly(const std::filesystem::path& path) {
     using std::filesystem::perms;
     std::error_code code;
     const perms rights = std::filesystem::status(path, code).permissions();
@@ -110,6 +114,11 @@ std::string FormatSettings(const Settings& settings) {
 
 bool ParseSettings(const std::string& text, const std::string& name, Settings* settings,
                    std::string* error) {
+    const std::string wide = WrongEncoding(text);
+    if (!wide.empty()) {
+        *error = name + ": " + wide;
+        return false;
+    }
     Settings read;
     std::map<std::string, std::string>* section = nullptr;
     std::size_t at = 0;
@@ -123,6 +132,7 @@ bool ParseSettings(const std::string& text, const std::string& name, Settings* s
             return false;
         };
         if (line.find('\0') != std::string::npos) return fail("this is not a text file");
+        if (FindWrongByte(line) != std::string::npos) return fail("this is not UTF-8 text");
         if (line.empty() || line.front() == ';') continue;
         if (line.front() == '[') {
             if (line.size() < 3 || line.back() != ']') return fail("a section is \"[NAME]\"");
@@ -142,7 +152,7 @@ bool ParseSettings(const std::string& text, const std::string& name, Settings* s
 
 SettingsStore::~SettingsStore() {
     if (!open_) return;
-    if (temporary_) RegDeleteTreeA(HKEY_CURRENT_USER, ("Software\\" + root_).c_str());
+    if (keep_ != Keep::kLive) RegDeleteTreeA(HKEY_CURRENT_USER, ("Software\\" + root_).c_str());
     SetEnvironmentVariableA(kRootVariable, hadRoot_ ? oldRoot_.c_str() : nullptr);
 }
 
@@ -151,55 +161,89 @@ std::string SettingsStore::Key() const {
 }
 
 bool SettingsStore::Open(const std::string& path, std::string* error) {
+    if (path.empty()) return Prepare(Keep::kLive, {}, error);
     Settings settings;
-    if (!path.empty()) {
-        std::error_code code;
-        if (std::filesystem::exists(path, code)) {
-            if (std::filesystem::is_directory(path, code)) {
-                *error = path + ": this is a folder, not a store";
-                return false;
-            }
-            if (IsReadOnly(path)) {
-                *error = path + ": the store is read-only";
-                return false;
-            }
-            std::ifstream file(path, std::ios::binary);
-            textBefore_.assign(std::istreambuf_iterator<char>(file),
-                               std::istreambuf_iterator<char>());
-            if (!file) {
-                *error = path + ": the store cannot be read";
-                return false;
-            }
-            if (!ParseSettings(textBefore_, path, &settings, error)) return false;
-        } else {
-            const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-            if (!folder.empty() && !std::filesystem::is_directory(folder, code)) {
-                *error = path + ": there is no such folder for the store";
-                return false;
-            }
+    const std::filesystem::path file = PathOf(path);
+    std::error_code code;
+    if (std::filesystem::exists(file, code)) {
+        if (std::filesystem::is_directory(file, code)) {
+            *error = path + ": this is a folder, not a store";
+            return false;
         }
+        if (IsReadOnly(file)) {
+            *error = path + ": the store is read-only";
+            return false;
+        }
+        std::ifstream stream(file, std::ios::binary);
+        textBefore_.assign(std::istreambuf_iterator<char>(stream),
+                           std::istreambuf_iterator<char>());
+        if (!stream) {
+            *error = path + ": the store cannot be read";
+            return false;
+        }
+        if (!ParseSettings(textBefore_, path, &settings, error)) return false;
+    } else if (!file.parent_path().empty() &&
+               !std::filesystem::is_directory(file.parent_path(), code)) {
+        *error = path + ": there is no such folder for the store";
+        return false;
     }
+    // Better now than when the user has made all choices.
+    const std::filesystem::path made = PathOf(path + kNewFile);
+    if (!std::ofstream(made, std::ios::binary | std::ios::trunc)) {
+        *error = path + ": the store cannot be written";
+        return false;
+    }
+    std::filesystem::remove(made, code);
+    path_ = path;
+    return Prepare(Keep::kFile, settings, error);
+}
+
+bool SettingsStore::OpenScratch(std::string* error) {
+    return Prepare(Keep::kNothing, {}, error);
+}
+
+bool SettingsStore::OpenCopy(std::string* error) {
+    Settings settings;
+    {
+        SettingsStore own;
+        if (!own.Open("", error)) return false;
+        settings = own.Read();
+    }
+    return Prepare(Keep::kOwn, settings, error);
+}
+
+bool SettingsStore::Prepare(Keep keep, const Settings& settings, std::string* error) {
     char old[kNameSize];
     const DWORD size = GetEnvironmentVariableA(kRootVariable, old, sizeof old);
     hadRoot_ = size > 0 && size < sizeof old;
     if (hadRoot_) oldRoot_.assign(old, size);
-    path_ = path;
-    temporary_ = !path.empty();
-    if (temporary_) {
-        root_ = "ZxHost-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++runs);
-    } else {
+    keep_ = keep;
+    if (keep == Keep::kLive) {
         root_ = hadRoot_ ? oldRoot_ : kOwnRoot;
+    } else {
+        root_ = "ZxHost-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++runs);
+        // A run that was killed may have left a branch of this name behind.
+        RegDeleteTreeA(HKEY_CURRENT_USER, ("Software\\" + root_).c_str());
     }
     SetEnvironmentVariableA(kRootVariable, root_.c_str());
     open_ = true;
-    // A run that was killed may have left a branch of this name behind.
-    if (temporary_) RegDeleteTreeA(HKEY_CURRENT_USER, ("Software\\" + root_).c_str());
+    if (!WriteAll(settings, error)) return false;
+    before_ = Read();
+    return true;
+}
+
+bool SettingsStore::WriteAll(const Settings& settings, std::string* error) {
     for (const auto& [section, values] : settings) {
         if (WriteSection(Key() + "\\" + section, values)) continue;
-        *error = path + ": the settings cannot be kept in the registry";
+        *error = path_ + ": the settings cannot be kept in the registry";
         return false;
     }
     return true;
+}
+
+bool SettingsStore::Replace(const Settings& settings, std::string* error) {
+    RegDeleteTreeA(HKEY_CURRENT_USER, Key().c_str());
+    return WriteAll(settings, error);
 }
 
 Settings SettingsStore::Read() const {
@@ -210,7 +254,7 @@ Settings SettingsStore::Read() const {
     for (const std::string& name : SubKeys(key)) {
         HKEY section = nullptr;
         if (RegOpenKeyExA(key, name.c_str(), 0, KEY_READ, &section) != ERROR_SUCCESS) continue;
-        ReadSection(section, &settings[name]);
+        ReadSection(section, &settings[FromSystem(name)]);
         RegCloseKey(section);
     }
     RegCloseKey(key);
@@ -218,10 +262,19 @@ Settings SettingsStore::Read() const {
 }
 
 bool SettingsStore::Save(std::string* error) const {
-    if (!temporary_) return true;
+    if (keep_ == Keep::kOwn) {
+        const std::string own = "Software\\" + (hadRoot_ ? oldRoot_ : std::string(kOwnRoot)) +
+                                "\\" + ProfileName() + "\\";
+        for (const auto& [section, values] : Read()) {
+            if (WriteSection(own + section, values)) continue;
+            *error = "the user's own settings cannot be written";
+            return false;
+        }
+    }
+    if (keep_ != Keep::kFile) return true;
     const std::string text = FormatSettings(Read());
     if (text == textBefore_) return true;
-    const std::string made = path_ + ".new";
+    const std::filesystem::path made = PathOf(path_ + kNewFile);
     std::error_code code;
     {
         std::ofstream file(made, std::ios::binary | std::ios::trunc);
@@ -233,7 +286,7 @@ bool SettingsStore::Save(std::string* error) const {
             return false;
         }
     }
-    std::filesystem::rename(made, path_, code);
+    std::filesystem::rename(made, PathOf(path_), code);
     if (!code) return true;
     *error = path_ + ": the store cannot be replaced: " + code.message();
     std::filesystem::remove(made, code);

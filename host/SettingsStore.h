@@ -33,9 +33,14 @@ class SettingsStore {
     SettingsStore(const SettingsStore&) = delete;
     SettingsStore& operator=(const SettingsStore&) = delete;
 
-    // Makes the store ready; an empty path means the host's own branch. A file that is not there
-    // yet is an empty store. On failure false with what is wrong, and the file as it was.
+    // Makes the store ready; an empty path means the host's own branch as it is. A file that is not
+    // there yet is an empty store. On failure, also where the file could not be written afterwards,
+    // false with what is wrong, and the file as it was.
     bool Open(const std::string& path, std::string* error);
+    // A store for this run alone.
+    bool OpenScratch(std::string* error);
+    // What the host's own branch holds; what a run changes goes there with Save.
+    bool OpenCopy(std::string* error);
 
     // What the dialogs get as the name of the store.
     const char* ProfileName() const { return "zxhost"; }
@@ -43,20 +48,30 @@ class SettingsStore {
     // What is in the store now.
     Settings Read() const;
 
-    // Writes the file, where there is one and its content is another. On failure false with what is
-    // wrong, and the file as it was.
+    // Makes these all that is in the store.
+    bool Replace(const Settings& settings, std::string* error);
+
+    // Writes the file or the own branch, where the run has a branch to itself and its content is
+    // another one than before. On failure false with what is wrong, and the file as it was.
     bool Save(std::string* error) const;
 
-  private:
-    std::string Key() const;
+    // What was in the store when it was opened.
+    const Settings& Before() const { return before_; }
 
+  private:
+    enum class Keep { kLive, kNothing, kFile, kOwn };
+    std::string Key() const;
+    bool WriteAll(const Settings& settings, std::string* error);
+    bool Prepare(Keep keep, const Settings& settings, std::string* error);
+
+    Keep keep_ = Keep::kLive;
+    Settings before_;
     std::string path_;
     std::string root_;
     std::string oldRoot_;
     bool open_ = false;
     bool hadRoot_ = false;
-    bool temporary_ = false;
-    std::string textBefore_;
+    std::string textBefore_;  // of the file
 };
 
 }  // namespace zxhost

@@ -1,13 +1,14 @@
 #include "TextReader.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <memory>
+#include <fstream>
 #include <string_view>
+
+#include "Numbers.h"
+#include "System.h"
 
 namespace zxhost {
 namespace {
@@ -35,20 +36,6 @@ std::string_view Unquoted(std::string_view text) {
     if (text.size() >= 2 && text.front() == '"' && text.back() == '"')
         return text.substr(1, text.size() - 2);
     return text;
-}
-
-bool ReadNumber(std::string_view text, double* value) {
-    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
-    const char* end = text.data() + text.size();
-    const auto [stop, code] = std::from_chars(text.data(), end, *value);
-    return code == std::errc() && stop == end && std::isfinite(*value);
-}
-
-char FindDelimiter(std::string_view line) {
-    for (char c : {'\t', ';', ','}) {
-        if (line.find(c) != std::string_view::npos) return c;
-    }
-    return ' ';
 }
 
 // Calls `take` with each value of the line; stops when it gives false.
@@ -82,9 +69,48 @@ void SplitHeading(std::string_view text, TextColumn* column) {
     column->name = text;
 }
 
+// "4,5" with a decimal comma: digits on both sides of one comma, or none.
+bool ReadCommaNumber(std::string_view text, double* value) {
+    const std::size_t comma = text.find(',');
+    if (text.find('.') != std::string_view::npos) return false;
+    if (comma == std::string_view::npos) return ParseNumber(text, value);
+    std::string changed(text);
+    changed[comma] = '.';
+    return ParseNumber(changed, value);
+}
+
+// The values of a line may be separated by blanks and have decimal commas: "0,25 -75,6".
+bool HasCommaNumbers(std::string_view line) {
+    std::size_t count = 0;
+    bool all = true;
+    ForEachValue(line, ' ', [&](std::string_view text) {
+        double value;
+        ++count;
+        all = ReadCommaNumber(text, &value) && text.back() != ',' && text.front() != ',';
+        return all;
+    });
+    return all && count > 1;
+}
+
+char FindDelimiter(std::string_view line) {
+    for (char c : {'\t', ';', ','}) {
+        if (line.find(c) == std::string_view::npos) continue;
+        return c == ',' && HasCommaNumbers(line) ? ' ' : c;
+    }
+    return ' ';
+}
+
+struct DelimiterWord {
+    const char* word;
+    char delimiter;
+};
+constexpr DelimiterWord kDelimiters[] = {
+    {"tab", '\t'}, {"semicolon", ';'}, {"comma", ','}, {"blank", ' '}};
+
 class Reader {
   public:
-    Reader(std::string path, std::vector<TextColumn>* columns) : path_(path), columns_(columns) {}
+    Reader(const std::string& path, std::vector<TextColumn>* columns, char delimiter)
+        : path_(path), columns_(columns), delimiter_(delimiter), isTold_(delimiter != 0) {}
 
     bool Run(const ReadProgress& progress, std::string* error) {
         if (!ReadAll(progress)) {
@@ -96,6 +122,8 @@ class Reader {
     }
 
   private:
+    enum class Decimal { kUnknown, kPoint, kComma };
+
     bool Fail(const std::string& why) {
         error_ = path_ + ": " + why;
         return false;
@@ -106,12 +134,12 @@ class Reader {
     }
 
     bool ReadAll(const ReadProgress& progress) {
+        const std::filesystem::path path = PathOf(path_);
         std::error_code code;
-        if (std::filesystem::is_directory(path_, code)) return Fail("this is a folder, not a file");
-        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path_.c_str(), "rb"),
-                                                                   &std::fclose);
+        if (std::filesystem::is_directory(path, code)) return Fail("this is a folder, not a file");
+        std::ifstream file(path, std::ios::binary);
         if (!file) return Fail(std::string("cannot be opened: ") + std::strerror(errno));
-        const auto size = std::filesystem::file_size(path_, code);
+        const auto size = std::filesystem::file_size(path, code);
         fileSize_ = code ? 0.0 : static_cast<double>(size);
         std::vector<char> buffer(kPiece);
         std::size_t kept = 0;
@@ -119,11 +147,16 @@ class Reader {
         bool first = true;
         while (true) {
             if (buffer.size() < kept + kPiece) buffer.resize(kept + kPiece);
-            const std::size_t got = std::fread(buffer.data() + kept, 1, kPiece, file.get());
-            if (std::ferror(file.get())) return FailAtLine("cannot be read further");
+            file.read(buffer.data() + kept, kPiece);
+            if (file.bad()) return FailAtLine("cannot be read further");
+            const auto got = static_cast<std::size_t>(file.gcount());
             const bool last = got == 0;
             std::string_view text(buffer.data(), kept + got);
-            if (first && text.substr(0, 3) == "\xEF\xBB\xBF") text.remove_prefix(3);
+            if (first) {
+                const std::string wrong = WrongEncoding(text);
+                if (!wrong.empty()) return Fail(wrong);
+                if (text.substr(0, 3) == "\xEF\xBB\xBF") text.remove_prefix(3);
+            }
             first = false;
             if (!TakeLines(&text, last)) return false;
             if (last) break;
@@ -140,6 +173,12 @@ class Reader {
         if (rows_ == 0) {
             return Fail(line_ == 0 ? "the file is empty" : "the file has no row of numbers");
         }
+        if (MayBeDecimalCommas()) {
+            return Fail(
+                "the commas may separate columns or decimals; --delimiter comma says that they "
+                "separate columns, and with decimal commas the values need tabs, semicolons or "
+                "blanks between them");
+        }
         for (TextColumn& column : *columns_) column.values.shrink_to_fit();
         return true;
     }
@@ -153,6 +192,8 @@ class Reader {
             text->remove_prefix(end == std::string_view::npos ? text->size() : end + 1);
             ++line_;
             if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+            // Most lines of most files are rows like the one before.
+            if (rows_ > 0 && TakeRow(line)) continue;
             if (line.find('\0') != std::string_view::npos)
                 return FailAtLine("this is not a text file (there is a byte 0)");
             if (!TakeLine(line)) return false;
@@ -179,11 +220,16 @@ class Reader {
         return "there are more than " + std::to_string(kMaxColumns) + " columns";
     }
 
+    bool Number(std::string_view text, double* value) const {
+        if (decimal_ != Decimal::kComma && ParseNumber(text, value)) return true;
+        return decimal_ != Decimal::kPoint && delimiter_ != ',' && ReadCommaNumber(text, value);
+    }
+
     bool HasNumbers(std::string_view line) const {
         bool any = false;
         ForEachValue(line, delimiter_, [&](std::string_view text) {
             double value;
-            any = ReadNumber(text, &value);
+            any = Number(text, &value);
             return !any;
         });
         return any;
@@ -191,6 +237,14 @@ class Reader {
 
     bool TakeHeading(std::string_view line) {
         if (++headings_ > 2) return FailAtLine("text where the first row of numbers should be");
+        const std::size_t wrong = FindWrongByte(line);
+        if (wrong != std::string_view::npos) {
+            constexpr char kDigits[] = "0123456789ABCDEF";
+            const auto byte = static_cast<unsigned char>(line[wrong]);
+            return FailAtLine(std::string("byte ") + kDigits[byte >> 4] + kDigits[byte & 15] +
+                              " at place " + std::to_string(wrong + 1) +
+                              " is not UTF-8; save the file as UTF-8");
+        }
         std::size_t index = 0;
         bool tooMany = false;
         ForEachValue(line, delimiter_, [&](std::string_view text) {
@@ -214,8 +268,12 @@ class Reader {
     }
 
     std::string Ragged(std::size_t count) const {
-        return std::to_string(count) + (count == 1 ? " value" : " values") +
-               " where the lines before have " + std::to_string(columns_->size());
+        const std::size_t wanted = columns_->size();
+        std::string text = std::to_string(count) + (count == 1 ? " value" : " values") +
+                           " where the lines before have " + std::to_string(wanted);
+        if (delimiter_ == ',' && count > wanted && count <= 2 * wanted)
+            text += "; with decimal commas the values need tabs or semicolons between them";
+        return text;
     }
 
     // Columns that grow by doubling would take up to three times their size.
@@ -224,6 +282,44 @@ class Reader {
         const double most = static_cast<double>(kMaxValues) / static_cast<double>(columns_->size());
         for (TextColumn& column : *columns_)
             column.values.reserve(static_cast<std::size_t>(std::min(rows, most)));
+        row_.resize(columns_->size());
+    }
+
+    bool IsBlank(char c) const { return c == ' ' || (c == '\t' && delimiter_ != '\t'); }
+
+    // Takes a row that is as it should be; false leaves it, with nothing taken, to TakeLine, which
+    // knows what may be wrong.
+    bool TakeRow(std::string_view line) {
+        const std::size_t wanted = row_.size();
+        if ((rows_ + 1) * wanted > kMaxValues) return false;
+        if (decimal_ == Decimal::kComma) {
+            if (line.find('.') != std::string_view::npos) return false;
+            changed_.assign(line);
+            std::replace(changed_.begin(), changed_.end(), ',', '.');
+            line = changed_;
+        } else if (decimal_ == Decimal::kUnknown) {
+            if (line.find('.') != std::string_view::npos) return false;
+            if (delimiter_ != ',' && line.find(',') != std::string_view::npos) return false;
+        }
+        const char* at = line.data();
+        const char* const end = at + line.size();
+        for (std::size_t i = 0; i < wanted; ++i) {
+            while (at < end && IsBlank(*at)) ++at;
+            at = ReadDecimal(at, end, &row_[i]);
+            if (at == nullptr) return false;
+            if (i + 1 == wanted) break;
+            if (delimiter_ == ' ') {
+                if (at == end || !IsBlank(*at)) return false;
+            } else {
+                while (at < end && IsBlank(*at)) ++at;
+                if (at == end || *at++ != delimiter_) return false;
+            }
+        }
+        while (at < end && IsBlank(*at)) ++at;
+        if (at != end) return false;
+        for (std::size_t i = 0; i < wanted; ++i) (*columns_)[i].values.push_back(row_[i]);
+        ++rows_;
+        return true;
     }
 
     bool TakeNumbers(std::string_view line) {
@@ -237,12 +333,8 @@ class Reader {
         ForEachValue(line, delimiter_, [&](std::string_view text) {
             if (index < wanted) {
                 double value = 0.0;
-                if (!ReadNumber(text, &value)) {
-                    good = false;
-                    const std::string where = " in column " + std::to_string(index + 1);
-                    return text.empty() ? FailAtLine("a value is missing" + where)
-                                        : FailAtLine(Shown(text) + where + " is not a number");
-                }
+                good = TakeNumber(text, index, &value);
+                if (!good) return false;
                 (*columns_)[index].values.push_back(value);
             }
             ++index;
@@ -254,84 +346,64 @@ class Reader {
         return true;
     }
 
+    bool TakeNumber(std::string_view text, std::size_t index, double* value) {
+        if (!Number(text, value)) {
+            const std::string where = " in column " + std::to_string(index + 1);
+            if (text.empty()) return FailAtLine("a value is missing" + where);
+            double other;
+            std::string why = Shown(text) + where + " is not a number";
+            if (delimiter_ != ',' && decimal_ == Decimal::kPoint && ReadCommaNumber(text, &other))
+                why += ": the numbers before have decimal points";
+            if (decimal_ == Decimal::kComma && ParseNumber(text, &other))
+                why += ": the numbers before have decimal commas";
+            return FailAtLine(why);
+        }
+        if (decimal_ == Decimal::kUnknown) {
+            if (text.find('.') != std::string_view::npos) decimal_ = Decimal::kPoint;
+            if (text.find(',') != std::string_view::npos) decimal_ = Decimal::kComma;
+        }
+        return true;
+    }
+
+    // "0,25" in a file with no heading: two columns of whole numbers, or one with decimals.
+    bool MayBeDecimalCommas() const {
+        if (isTold_ || delimiter_ != ',' || headings_ > 0) return false;
+        if (decimal_ == Decimal::kPoint || columns_->size() % 2 != 0) return false;
+        for (std::size_t i = 1; i < columns_->size(); i += 2) {
+            for (double value : (*columns_)[i].values) {
+                if (std::signbit(value)) return false;
+            }
+        }
+        return true;
+    }
+
     std::string path_;
     std::vector<TextColumn>* columns_;
     std::string error_;
+    std::vector<double> row_;  // the one that is being read
+    std::string changed_;      // its text with decimal points
     double fileSize_ = 0.0;
     std::size_t line_ = 0;
     std::size_t rows_ = 0;
     int headings_ = 0;
-    char delimiter_ = 0;
+    char delimiter_;
+    bool isTold_;
+    Decimal decimal_ = Decimal::kUnknown;
 };
-
-std::string FileName(const std::string& path) {
-    return std::filesystem::path(path).filename().string();
-}
-
-bool Rises(const std::vector<double>& x, std::size_t* at) {
-    for (std::size_t i = 1; i < x.size(); ++i) {
-        if (x[i] > x[i - 1]) continue;
-        *at = i;
-        return false;
-    }
-    return true;
-}
 
 }  // namespace
 
 bool ReadTextColumns(const std::string& path, std::vector<TextColumn>* columns, std::string* error,
-                     const ReadProgress& progress) {
+                     const ReadProgress& progress, char delimiter) {
     columns->clear();
-    return Reader(path, columns).Run(progress, error);
+    return Reader(path, columns, delimiter).Run(progress, error);
 }
 
-bool ReadRecording(const std::string& path, DataKind kind, Recording* recording, std::string* error,
-                   const ReadProgress& progress) {
-    std::vector<TextColumn> columns;
-    if (!ReadTextColumns(path, &columns, error, progress)) return false;
-    Recording made;
-    made.title = FileName(path);
-    made.kind = kind;
-    Group group;
-    std::size_t first = 0;
-    if (kind == DataKind::kSheet) {
-        group.name = "Sheet 1";
-    } else {
-        if (columns.size() < 2) {
-            *error = path + ": a recording needs an x column and at least one trace; this has " +
-                     "one column, which --recording sheet reads";
-            return false;
-        }
-        std::size_t at = 0;
-        if (!Rises(columns[0].values, &at)) {
-            *error = path + ": the x column does not rise at its value " + std::to_string(at + 1) +
-                     "; --recording sheet reads the columns as they are";
-            return false;
-        }
-        made.xUnits = columns[0].units.empty() ? "ms" : columns[0].units;
-        made.x = std::move(columns[0].values);
-        const double span = made.x.back() - made.x.front();
-        if (kind == DataKind::kRecording && span > 0.0) {
-            const double perSecond = made.xUnits == "s" ? 1.0 : 1000.0;
-            made.samplingFrequency = perSecond * static_cast<double>(made.x.size() - 1) / span;
-        }
-        group.name = columns.size() == 2 && !columns[1].name.empty() ? columns[1].name : "Signal 1";
-        group.units = columns[1].units;
-        first = 1;
+char DelimiterOf(const std::string& word) {
+    for (const DelimiterWord& row : kDelimiters) {
+        if (word == row.word) return row.delimiter;
     }
-    for (std::size_t i = first; i < columns.size(); ++i) {
-        Set set;
-        set.name = columns[i].name;
-        if (set.name.empty())
-            set.name = (first ? "Sweep " : "Column ") + std::to_string(i + 1 - first);
-        set.units = columns[i].units;
-        set.values = std::move(columns[i].values);
-        group.sets.push_back(std::move(set));
-    }
-    made.groups.push_back(std::move(group));
-    AddCursorRegions(&made);
-    *recording = std::move(made);
-    return true;
+    return 0;
 }
 
 }  // namespace zxhost

@@ -1,18 +1,18 @@
 // Reads delimited text into columns of numbers.
 //
 // Values are separated by tabs, semicolons, commas or blanks, whichever of these, in this order,
-// the first line has. Lines that begin with "#" and empty lines are passed over. The first line may
-// give names, as "Vm" or "Vm (mV)", and the line behind it units. Numbers have a decimal point.
-// Every row has the same number of values; anything else is an error with its line, and nothing is
-// given. The text is read in pieces: beyond the numbers themselves little memory is used.
+// the first line has, unless the caller says which. Lines that begin with "#" and empty lines are
+// passed over. The first line may give names, as "Vm" or "Vm (mV)", and the line behind it units.
+// Numbers have a decimal point, or in all of the file a decimal comma where commas do not separate.
+// A file whose commas may be either is refused. Text is UTF-8. Every row has the same number of
+// values; anything else is an error with its line, and nothing is given. The text is read in
+// pieces: beyond the numbers themselves little memory is used.
 #pragma once
 
 #include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "Recording.h"
 
 namespace zxhost {
 
@@ -28,13 +28,12 @@ struct TextColumn {
 // Told how much of the file is read, from 0 to 1; false gives up.
 using ReadProgress = std::function<bool(double fraction)>;
 
-// On failure false, with `error` as "FILE:LINE: what is wrong" or "FILE: what is wrong".
+// On failure false, with `error` as "FILE:LINE: what is wrong" or "FILE: what is wrong". A
+// delimiter of 0 is found out.
 bool ReadTextColumns(const std::string& path, std::vector<TextColumn>* columns, std::string* error,
-                     const ReadProgress& progress = nullptr);
+                     const ReadProgress& progress = nullptr, char delimiter = 0);
 
-// A recording of what the file holds: as a sheet of columns, or, for the other kinds, with the
-// first column as the x axis (in ms unless its units say "s") and each further column as a sweep.
-bool ReadRecording(const std::string& path, DataKind kind, Recording* recording, std::string* error,
-                   const ReadProgress& progress = nullptr);
+// What stands for a delimiter on the command line, as "tab"; 0 for none of these words.
+char DelimiterOf(const std::string& word);
 
 }  // namespace zxhost

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+#include "System.h"
+
 namespace zxhost {
 namespace {
 
@@ -28,7 +30,7 @@ std::string ItemText(HWND control, UINT lengthMessage, UINT textMessage, int ind
     std::string text(static_cast<std::size_t>(length) + 1, '\0');
     const int got = Ask(control, textMessage, at, reinterpret_cast<LPARAM>(text.data()));
     text.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
-    return text;
+    return FromSystem(text);
 }
 
 std::string TabText(HWND control, int index) {
@@ -39,12 +41,30 @@ std::string TabText(HWND control, int index) {
     item.cchTextMax = sizeof text;
     SendMessageA(control, TCM_GETITEMA, static_cast<WPARAM>(index),
                  reinterpret_cast<LPARAM>(&item));
-    return text;
+    return FromSystem(text);
 }
 
 bool IsButton(HWND hwnd) {
     return ClassOf(hwnd) == "button" &&
            (GetWindowLongA(hwnd, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX;
+}
+
+bool IsFieldOrList(HWND hwnd) {
+    const std::string kind = ClassOf(hwnd);
+    return kind == "edit" || kind == "combobox" || kind == "listbox";
+}
+
+bool IsPushButton(HWND hwnd) {
+    const LONG type = GetWindowLongA(hwnd, GWL_STYLE) & BS_TYPEMASK;
+    return IsButton(hwnd) && (type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON);
+}
+
+// The caption by which a script names a control; empty for none.
+std::string CaptionOf(HWND hwnd) {
+    if (IsButton(hwnd)) return Plain(TextOf(hwnd));
+    if (!IsFieldOrList(hwnd)) return "";
+    HWND label = GetWindow(hwnd, GW_HWNDPREV);
+    return label && ClassOf(label) == "static" ? Plain(TextOf(label)) : "";
 }
 
 // Of the candidates, one that can be seen where there is one.
@@ -63,7 +83,7 @@ std::string TextOf(HWND hwnd) {
     std::string text(static_cast<std::size_t>(length) + 1, '\0');
     const int got = GetWindowTextA(hwnd, text.data(), length + 1);
     text.resize(static_cast<std::size_t>(std::max(got, 0)));
-    return text;
+    return FromSystem(text);
 }
 
 std::string ClassOf(HWND hwnd) {
@@ -106,17 +126,52 @@ HWND FindControl(HWND dialog, const Word& control) {
     }
     if (!found.empty()) return Best(found);
     for (HWND child : all) {
-        const std::string kind = ClassOf(child);
-        if (kind != "edit" && kind != "combobox" && kind != "listbox") continue;
-        HWND label = GetWindow(child, GW_HWNDPREV);
-        if (label && ClassOf(label) == "static" && Plain(TextOf(label)) == wanted)
-            found.push_back(child);
+        if (IsFieldOrList(child) && CaptionOf(child) == wanted) found.push_back(child);
     }
     if (!found.empty()) return Best(found);
     for (HWND child : all) {
         if (ClassOf(child) == "static" && Plain(TextOf(child)) == wanted) found.push_back(child);
     }
     return Best(found);
+}
+
+HWND FindFieldBehind(HWND dialog, const Word& caption) {
+    const std::string wanted = Plain(caption.text);
+    const std::vector<HWND> all = Descendants(dialog);
+    std::vector<HWND> found;
+    for (HWND child : all) {
+        if (IsFieldOrList(child) && CaptionOf(child) == wanted) found.push_back(child);
+    }
+    if (!found.empty()) return Best(found);
+    for (HWND child : all) {
+        if (!IsButton(child) || Plain(TextOf(child)) != wanted) continue;
+        HWND next = GetWindow(child, GW_HWNDNEXT);
+        while (next && !IsFieldOrList(next) && !IsButton(next)) next = GetWindow(next, GW_HWNDNEXT);
+        if (next && IsFieldOrList(next)) found.push_back(next);
+    }
+    return Best(found);
+}
+
+std::string ListControls(HWND dialog) {
+    constexpr std::size_t kMost = 100;
+    std::string all;
+    std::size_t count = 0;
+    for (HWND child : Descendants(dialog)) {
+        if (!IsWindowVisible(child) || !(IsButton(child) || IsFieldOrList(child))) continue;
+        const std::string caption = CaptionOf(child);
+        if (++count > kMost) return all + ", ...";
+        if (!all.empty()) all += ", ";
+        all += std::to_string(GetDlgCtrlID(child));
+        if (!caption.empty()) all += " \"" + caption + "\"";
+    }
+    return all;
+}
+
+bool IsField(HWND control) {
+    const LONG style = GetWindowLongA(control, GWL_STYLE);
+    const std::string kind = ClassOf(control);
+    if (kind == "combobox") return (style & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
+    return kind == "edit" && (style & ES_READONLY) == 0;
 }
 
 HWND FindByClass(HWND dialog, const char* className) {
@@ -152,18 +207,16 @@ int IndexOfItem(HWND control, const Word& item) {
     return found == items.end() ? -1 : static_cast<int>(found - items.begin());
 }
 
-std::string ChosenItem(HWND control) {
+int ChosenIndex(HWND control) {
     const std::string kind = ClassOf(control);
-    int index = -1;
-    if (kind == "combobox") {
-        const LONG type = GetWindowLongA(control, GWL_STYLE) & CBS_DROPDOWNLIST;
-        if (type != CBS_DROPDOWNLIST) return TextOf(control);
-        index = Ask(control, CB_GETCURSEL);
-    } else if (kind == "listbox") {
-        index = Ask(control, LB_GETCURSEL);
-    } else if (kind == "systabcontrol32") {
-        index = Ask(control, TCM_GETCURSEL);
-    }
+    if (kind == "combobox") return Ask(control, CB_GETCURSEL);
+    if (kind == "listbox") return Ask(control, LB_GETCURSEL);
+    return kind == "systabcontrol32" ? Ask(control, TCM_GETCURSEL) : -1;
+}
+
+std::string ChosenItem(HWND control) {
+    if (ClassOf(control) == "combobox" && IsField(control)) return TextOf(control);
+    const int index = ChosenIndex(control);
     const std::vector<std::string> items = ItemsOf(control);
     return index >= 0 && index < static_cast<int>(items.size())
                ? items[static_cast<std::size_t>(index)]
@@ -230,6 +283,16 @@ Message ReadMessage(HWND dialog) {
         message.text += text;
     }
     return message;
+}
+
+bool IsMessage(HWND dialog) {
+    bool buttons = false;
+    for (HWND child : Descendants(dialog)) {
+        if (!IsWindowVisible(child)) continue;
+        if (ClassOf(child) != "static" && !IsPushButton(child)) return false;
+        buttons = buttons || IsPushButton(child);
+    }
+    return buttons;
 }
 
 HWND FindAnswer(HWND dialog, const Word& answer) {

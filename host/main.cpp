@@ -2,16 +2,16 @@
 // other command works with no display.
 #include <iostream>
 #include <string>
-#include <vector>
 
 #include "CommandLine.h"
 #include "HostWindow.h"
+#include "System.h"
 
 int main(int argc, char** argv) {
+    zxhost::PrepareConsole();
     zxhost::Options options;
     std::string error;
-    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
-    if (!zxhost::ParseCommandLine(arguments, &options, &error)) {
+    if (!zxhost::ParseCommandLine(zxhost::ProgramArguments(argc, argv), &options, &error)) {
         std::cerr << "zxhost: " << error << "\n";
         return zxhost::kWrongUsage;
     }

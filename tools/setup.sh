@@ -6,9 +6,9 @@
 # Exit codes: 0 all there; 3 the packages of a group cannot be had (the reason is on standard error).
 set -u
 
-need_native="g++ cmake ninja-build make python3 googletest llvm binutils"
+need_native="g++ cmake ninja-build make python3 googletest llvm binutils nlohmann-json3-dev"
 need_windows="g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix wine wine64 wine32:i386 fonts-wine xvfb clang lld llvm"
-need_bench="libbenchmark-dev libmuparser-dev libglib2.0-dev libsimpleini-dev pkg-config util-linux"
+need_bench="libbenchmark-dev libmuparser-dev libglib2.0-dev libsimpleini-dev pkg-config util-linux python3-pandas"
 need_fuzz="clang libclang-rt-14-dev"
 need_lint="clang-format python3 llvm binutils-mingw-w64-i686"
 need_mutate="python3 python3-clang-14"

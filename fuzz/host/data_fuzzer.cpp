@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "TextReader.h"
+#include "RecordingReader.h"
 
 namespace {
 
@@ -38,6 +38,26 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
     } else if (error.rfind(path + ":", 0) != 0 || !columns.empty()) {
         std::abort();
+    }
+    // As every kind of data and in every layout: sets of one length, or a reason.
+    const zxhost::ReadingOptions kReadings[] = {
+        {},
+        {.layout = zxhost::Layout::kSweeps, .xUnits = "s"},
+        {.layout = zxhost::Layout::kSignals, .delimiter = ','},
+        {.kind = zxhost::DataKind::kSecondKind},
+        {.kind = zxhost::DataKind::kSheet}};
+    for (const zxhost::ReadingOptions& reading : kReadings) {
+        zxhost::Recording recording;
+        if (!zxhost::ReadRecording(path, reading, &recording, &error)) {
+            if (error.rfind(path + ":", 0) != 0 || !recording.groups.empty()) std::abort();
+            continue;
+        }
+        for (const zxhost::Group& group : recording.groups) {
+            if (group.sets.size() != recording.groups[0].sets.size()) std::abort();
+            for (const zxhost::Set& set : group.sets)
+                if (set.values.size() != recording.PointCount()) std::abort();
+        }
+        if (recording.Describe().empty()) std::abort();
     }
     std::remove(path.c_str());
     return 0;

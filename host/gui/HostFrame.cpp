@@ -2,6 +2,7 @@
 // their dialogs, below the fields of the records before and after and the store.
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <iostream>
@@ -12,11 +13,15 @@
 #include "HostDataSource.h"
 #include "HostFileSource.h"
 #include "HostWindow.h"
+#include "Look.h"
 #include "PlotView.h"
+#include "Report.h"
 #include "SettingsStore.h"
+#include "System.h"
 #include "zxadlg/headless.h"
 // The file dialog needs the types of the platform.
 #include <commdlg.h>
+#include <shellapi.h>
 
 namespace zxhost {
 namespace {
@@ -30,6 +35,7 @@ enum Id {
     kIdAnalyses,
     kIdParams,
     kIdOpen,
+    kIdUndo,
     kIdChangedOnly,
     kIdFields,
     kIdStore,
@@ -38,13 +44,14 @@ enum Id {
     kIdLabel,
 };
 
-constexpr int kMargin = 8;  // pixels, as all below
-constexpr int kSide = 250;
-constexpr int kButton = 26;
-constexpr int kLabel = 16;
-constexpr int kStoreWidth = 320;
-constexpr int kFieldsHeight = 210;
-constexpr int kStatusHeight = 18;
+// Pixels.
+const int kMargin = Scaled(8);
+const int kSide = Scaled(250);
+const int kButton = Scaled(26);
+const int kLabel = Scaled(16);
+const int kStoreWidth = Scaled(320);
+const int kFieldsHeight = Scaled(210);
+const int kStatusHeight = Scaled(18);
 constexpr COLORREF kChangedBack = RGB(255, 244, 204);
 
 const char* const kRecordings[] = {"Simulated family", "Simulated, second kind",
@@ -58,11 +65,14 @@ class Frame {
     int Run() {
         std::string error;
         if (!store_.Open(options_.store, &error)) {
-            MessageBoxA(nullptr, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
+            Complain(error);
             return kNoInput;
         }
         // A file may take its time and is read when there is a window to tell so.
-        if (options_.data.empty()) LoadRecording(options_, &recording_, &error);
+        if (options_.data.empty() && LoadRecording(options_, &recording_, &error) != kDone) {
+            Complain(error);
+            return kWrongUsage;
+        }
         for (const Analysis& analysis : kAnalyses) {
             recordOf_.emplace_back(analysis.size / sizeof(double) + 1, 0.0);
             std::memcpy(recordOf_.back().data(), analysis.defaults, analysis.size);
@@ -81,8 +91,10 @@ class Frame {
         RegisterClassA(&wc);
         hwnd_ = CreateWindowExA(WS_EX_CONTROLPARENT, kClassName, "zxhost",
                                 WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
-                                1120, 800, nullptr, nullptr, wc.hInstance, this);
+                                Scaled(1120), Scaled(800), nullptr, nullptr, wc.hInstance, this);
         if (!hwnd_) return kNoInput;
+        DragAcceptFiles(hwnd_, TRUE);
+        RefreshPlot(Item(kIdPlot));
         ShowWindow(hwnd_, SW_SHOW);
         SetFocus(Item(kIdAnalyses));
         if (!options_.data.empty()) {
@@ -120,13 +132,16 @@ class Frame {
                 Arrange(LOWORD(lParam), HIWORD(lParam));
                 return 0;
             case WM_GETMINMAXINFO:
-                reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {820, 640};
+                reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {Scaled(820), Scaled(640)};
                 return 0;
             case WM_COMMAND:
                 Command(LOWORD(wParam), HIWORD(wParam));
                 return 0;
             case WM_NOTIFY:
                 return Notify(*reinterpret_cast<NMHDR*>(lParam), lParam);
+            case WM_DROPFILES:
+                TakeDropped(reinterpret_cast<HDROP>(wParam));
+                return 0;
             case WM_DESTROY:
                 DeleteObject(fixedFont_);
                 PostQuitMessage(0);
@@ -144,8 +159,7 @@ class Frame {
         HWND made = CreateWindowExA(exStyle, kind, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
                                     hwnd_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                                     GetModuleHandleA(nullptr), nullptr);
-        SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)),
-                     FALSE);
+        SendMessageA(made, WM_SETFONT, reinterpret_cast<WPARAM>(DialogFont()), FALSE);
         return made;
     }
 
@@ -171,6 +185,7 @@ class Frame {
             SendMessageA(analyses, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(analysis.title));
         SendMessageA(analyses, LB_SETCURSEL, 0, 0);
         Make("BUTTON", "&Open dialog", WS_TABSTOP | BS_DEFPUSHBUTTON, kIdOpen);
+        Make("BUTTON", "&Undo last dialog", WS_TABSTOP | WS_DISABLED, kIdUndo);
         labels_[2] = Make("STATIC", "&Parameters of the dialog", 0, kIdLabel);
         MakeParams();
         Make("BUTTON", "&Changed only", BS_AUTOCHECKBOX | WS_TABSTOP, kIdChangedOnly);
@@ -180,15 +195,15 @@ class Frame {
             Make(WC_LISTVIEWA, "", LVS_REPORT | LVS_SINGLESEL | LVS_NOSORTHEADER | WS_TABSTOP,
                  kIdFields, WS_EX_CLIENTEDGE);
         ListView_SetExtendedListViewStyle(fields, LVS_EX_FULLROWSELECT);
-        AddColumn(fields, 0, "Field", 200);
-        AddColumn(fields, 1, "Before", 120);
-        AddColumn(fields, 2, "After", 150);
+        AddColumn(fields, 0, "Field", Scaled(200));
+        AddColumn(fields, 1, "Before", Scaled(120));
+        AddColumn(fields, 2, "After", Scaled(150));
         labels_[4] = Make("STATIC", "S&tore", 0, kIdLabel);
         HWND store =
             Make("EDIT", "", ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | WS_VSCROLL | WS_TABSTOP,
                  kIdStore, WS_EX_CLIENTEDGE);
-        fixedFont_ = CreateFontA(-12, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0,
-                                 0, FIXED_PITCH | FF_MODERN, "Courier New");
+        fixedFont_ = CreateFontA(-Scaled(12), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET,
+                                 0, 0, 0, FIXED_PITCH | FF_MODERN, "Courier New");
         SendMessageA(store, WM_SETFONT, reinterpret_cast<WPARAM>(fixedFont_), FALSE);
         Make("STATIC", "", SS_LEFTNOWORDWRAP | SS_NOPREFIX, kIdStatus);
         HWND progress = Make(PROGRESS_CLASSA, "", 0, kIdProgress);
@@ -217,8 +232,9 @@ class Frame {
 
     static void SetCell(HWND list, int row, int column, const std::string& text) {
         LVITEMA item = {};
+        std::string told = ToSystem(text);
         item.iSubItem = column;
-        item.pszText = const_cast<char*>(text.c_str());
+        item.pszText = told.data();
         SendMessageA(list, LVM_SETITEMTEXTA, static_cast<WPARAM>(row),
                      reinterpret_cast<LPARAM>(&item));
     }
@@ -228,7 +244,7 @@ class Frame {
             Make(WC_LISTVIEWA, "", LVS_REPORT | LVS_SINGLESEL | LVS_NOCOLUMNHEADER | WS_TABSTOP,
                  kIdParams, WS_EX_CLIENTEDGE);
         ListView_SetExtendedListViewStyle(list, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
-        AddColumn(list, 0, "Parameter", kSide - 30);
+        AddColumn(list, 0, "Parameter", kSide - Scaled(30));
         for (std::size_t i = 0; i < kParamNames.size(); ++i) {
             AddRow(list, static_cast<int>(i), kParamNames[i].name);
             ListView_SetCheckState(list, static_cast<int>(i), params_.*kParamNames[i].byte != 0);
@@ -246,15 +262,16 @@ class Frame {
         int y = kMargin;
         Place(labels_[0], kMargin, y, kSide, kLabel);
         y += kLabel;
-        Place(Item(kIdRecording), kMargin, y, kSide, 160);
-        y += 28;
+        Place(Item(kIdRecording), kMargin, y, kSide, Scaled(160));
+        y += Scaled(28);
         Place(Item(kIdLoad), kMargin, y, kSide, kButton);
         y += kButton + kMargin;
         Place(labels_[1], kMargin, y, kSide, kLabel);
         y += kLabel;
-        Place(Item(kIdAnalyses), kMargin, y, kSide, 150);
-        y += 150 + 6;
-        Place(Item(kIdOpen), kMargin, y, kSide, kButton);
+        Place(Item(kIdAnalyses), kMargin, y, kSide, Scaled(150));
+        y += Scaled(156);
+        Place(Item(kIdOpen), kMargin, y, kSide / 2 - Scaled(2), kButton);
+        Place(Item(kIdUndo), kMargin + kSide / 2 + Scaled(2), y, kSide / 2 - Scaled(2), kButton);
         y += kButton + kMargin;
         Place(labels_[2], kMargin, y, kSide, kLabel);
         y += kLabel;
@@ -262,16 +279,19 @@ class Frame {
 
         const int lower = bottom - kFieldsHeight;
         Place(Item(kIdPlot), right, kMargin, width - right - kMargin,
-              lower - kLabel - 2 * kMargin - 2);
+              lower - kLabel - 2 * kMargin - Scaled(2));
         const int fields = width - right - kStoreWidth - 2 * kMargin;
-        Place(labels_[3], right, lower - kLabel - 2, fields - 120, kLabel);
-        Place(Item(kIdChangedOnly), right + fields - 110, lower - kLabel - 4, 110, kLabel + 2);
+        Place(labels_[3], right, lower - kLabel - Scaled(2), fields - Scaled(120), kLabel);
+        Place(Item(kIdChangedOnly), right + fields - Scaled(110), lower - kLabel - Scaled(4),
+              Scaled(110), kLabel + Scaled(2));
         Place(Item(kIdFields), right, lower, fields, kFieldsHeight);
-        Place(labels_[4], right + fields + kMargin, lower - kLabel - 2, kStoreWidth, kLabel);
+        Place(labels_[4], right + fields + kMargin, lower - kLabel - Scaled(2), kStoreWidth,
+              kLabel);
         Place(Item(kIdStore), right + fields + kMargin, lower, kStoreWidth, kFieldsHeight);
-        Place(Item(kIdStatus), kMargin, height - kStatusHeight - kMargin, width - 240,
+        Place(Item(kIdStatus), kMargin, height - kStatusHeight - kMargin, width - Scaled(240),
               kStatusHeight);
-        Place(Item(kIdProgress), width - 208, height - kStatusHeight - kMargin, 200, 14);
+        Place(Item(kIdProgress), width - Scaled(208), height - kStatusHeight - kMargin, Scaled(200),
+              Scaled(14));
     }
 
     // --- Events ---
@@ -283,7 +303,9 @@ class Frame {
         if (id == kIdLoad && code == BN_CLICKED) ChooseFile();
         if (id == kIdRecording && code == CBN_SELCHANGE) ChooseSimulation();
         if (id == kIdChangedOnly && code == BN_CLICKED) ShowFields();
+        if (id == kIdPlot && code == kPlotReadout) Tell(ReadPlot(Item(kIdPlot)));
         if (id == kIdPlot) TellCursor(code);
+        if (id == kIdUndo && code == BN_CLICKED) Undo();
     }
 
     LRESULT Notify(const NMHDR& header, LPARAM lParam) {
@@ -302,6 +324,7 @@ class Frame {
             if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT &&
                 draw.nmcd.dwItemSpec < shownChanged_.size() &&
                 shownChanged_[draw.nmcd.dwItemSpec]) {
+                draw.clrText = RGB(0, 0, 0);
                 draw.clrTextBk = kChangedBack;
                 return CDRF_NEWFONT;
             }
@@ -309,7 +332,11 @@ class Frame {
         return 0;
     }
 
-    void Tell(const std::string& text) { SetWindowTextA(Item(kIdStatus), text.c_str()); }
+    void Tell(const std::string& text) { SetWindowTextA(Item(kIdStatus), ToSystem(text).c_str()); }
+
+    void Complain(const std::string& text) {
+        MessageBoxA(hwnd_, ToSystem(text).c_str(), "zxhost", MB_OK | MB_ICONERROR);
+    }
 
     void TellCursor(int cursor) {
         if (cursor < 1 || cursor > kCursors) return;
@@ -347,35 +374,54 @@ class Frame {
         open.lpstrFile = path;
         open.nMaxFile = sizeof path;
         open.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-        return GetOpenFileNameA(&open) ? path : "";
+        return GetOpenFileNameA(&open) ? FromSystem(path) : "";
     }
 
     void ChooseFile() {
         const std::string path = PickFile(hwnd_);
-        if (path.empty()) return;
+        if (!path.empty()) OpenFile(path);
+    }
+
+    void TakeDropped(HDROP drop) {
+        char path[MAX_PATH] = "";
+        const UINT length = DragQueryFileA(drop, 0, path, sizeof path);
+        DragFinish(drop);
+        if (length > 0) OpenFile(FromSystem(path));
+    }
+
+    void OpenFile(const std::string& path) {
         Options chosen;
         chosen.data = path;
         if (recording_.kind == DataKind::kSheet) chosen.recording = "sheet";
         ReadFile(chosen);
     }
 
+    // Whether the user pressed Escape while a file is read; other input waits.
+    static bool EscapeWaits() {
+        MSG message;
+        bool pressed = false;
+        while (PeekMessageA(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE))
+            pressed = pressed || (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE);
+        return pressed;
+    }
+
     void ReadFile(const Options& chosen) {
         HWND progress = Item(kIdProgress);
         ShowWindow(progress, SW_SHOW);
-        Tell("Reading " + chosen.data);
+        Tell("Reading " + chosen.data + " (Escape stops)");
         EnableWindow(hwnd_, FALSE);
         std::string error;
-        const bool good = LoadRecording(chosen, &recording_, &error, [&](double fraction) {
+        const ExitCode code = LoadRecording(chosen, &recording_, &error, [&](double fraction) {
             SendMessageA(progress, PBM_SETPOS, static_cast<WPARAM>(fraction * 1000.0), 0);
             UpdateWindow(hwnd_);
             UpdateWindow(progress);
-            return true;
+            return !EscapeWaits();
         });
         EnableWindow(hwnd_, TRUE);
         ShowWindow(progress, SW_HIDE);
-        if (!good) {
+        if (code != kDone) {
             Tell(recording_.Describe());
-            MessageBoxA(hwnd_, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
+            Complain(error);
             return;
         }
         SendMessageA(Item(kIdRecording), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
@@ -396,25 +442,46 @@ class Frame {
         ZXADLG_DataOptions& data = dataOf_[at];
         const std::vector<double> optionsBefore = options;
         const ZXADLG_DataOptions dataBefore = data;
+        undo_ = {at, options, data, store_.Read(), recording_.cursors};
         HostDataSource source(&recording_, store_.ProfileName());
         const std::int32_t result =
             analysis.show({hwnd_, options.data(), &data, &source, &files_, &params_});
-        fields_ = CompareRecords(analysis.record, optionsBefore.data(), options.data());
-        const std::vector<FieldValue> more =
-            CompareRecords("ZXADLG_DataOptions", &dataBefore, &data);
-        fields_.insert(fields_.end(), more.begin(), more.end());
+        std::string error;
+        Report report;
+        report.analysis = &analysis;
+        report.result = result;
+        report.options = CompareRecords(analysis.record, optionsBefore.data(), options.data());
+        report.dataSelection = CompareRecords("ZXADLG_DataOptions", &dataBefore, &data);
+        report.store = store_.Read();
+        WriteText(report, std::cout);
+        fields_ = report.options;
+        fields_.insert(fields_.end(), report.dataSelection.begin(), report.dataSelection.end());
         const auto changed = std::count_if(fields_.begin(), fields_.end(),
                                            [](const FieldValue& value) { return value.changed; });
-        std::string error;
-        PrintOutcome(
-            {analysis, result, optionsBefore.data(), options.data(), dataBefore, data, store_},
-            std::cout);
-        if (!store_.Save(&error)) MessageBoxA(hwnd_, error.c_str(), "zxhost", MB_OK | MB_ICONERROR);
+        if (!store_.Save(&error)) Complain(error);
+        EnableWindow(Item(kIdUndo), TRUE);
         ShowFields();
         ShowStore();
         InvalidateRect(Item(kIdPlot), nullptr, FALSE);
         Tell(std::string(analysis.title) + " gave " + std::to_string(result) + " (" +
              DescribeResult(result) + "); " + std::to_string(changed) + " fields changed");
+    }
+
+    // The records, the settings and the cursors as they were before the last dialog.
+    void Undo() {
+        const Analysis& analysis = kAnalyses[undo_.analysis];
+        recordOf_[undo_.analysis] = undo_.options;
+        dataOf_[undo_.analysis] = undo_.data;
+        recording_.cursors = undo_.cursors;
+        std::string error;
+        if (!store_.Replace(undo_.settings, &error) || !store_.Save(&error)) Complain(error);
+        EnableWindow(Item(kIdUndo), FALSE);
+        SetFocus(Item(kIdAnalyses));
+        fields_.clear();
+        ShowFields();
+        ShowStore();
+        InvalidateRect(Item(kIdPlot), nullptr, FALSE);
+        Tell(std::string(analysis.title) + " is as it was before its last dialog");
     }
 
     void ShowFields() {
@@ -441,7 +508,8 @@ class Frame {
             if (c == '\n') text += '\r';
             text += c;
         }
-        SetWindowTextA(Item(kIdStore), text.empty() ? "Nothing is stored yet." : text.c_str());
+        SetWindowTextA(Item(kIdStore),
+                       text.empty() ? "Nothing is stored yet." : ToSystem(text).c_str());
     }
 
     Options options_;
@@ -449,13 +517,20 @@ class Frame {
     Recording recording_;
     SettingsStore store_;
     HostFileSource files_{[](HWND__* owner) { return PickFile(owner); },
-                          [this](const std::string& error) {
-                              MessageBoxA(hwnd_, error.c_str(), "Control file", MB_ICONERROR);
-                          }};
+                          [this](const std::string& error) { Complain(error); }};
     // The records of each analysis, as its last dialog left them. Doubles make the room fit for
     // every record.
     std::vector<std::vector<double>> recordOf_;
     std::vector<ZXADLG_DataOptions> dataOf_;
+    // What stood before the last dialog.
+    struct Step {
+        std::size_t analysis = 0;
+        std::vector<double> options;
+        ZXADLG_DataOptions data = {};
+        Settings settings;
+        std::array<std::int32_t, kCursors> cursors = {};
+    };
+    Step undo_;
     std::vector<FieldValue> fields_;
     std::vector<bool> shownChanged_;
     HWND hwnd_ = nullptr;

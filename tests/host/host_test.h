@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "CommandLine.h"
+#include "System.h"
 #include "fixtures/ScratchStore.h"
 
 namespace host_test {
@@ -18,11 +19,11 @@ class HostTest : public testing::Test {
     // Writes a file of these bytes and gives its path.
     std::string WriteFile(const std::string& name, const std::string& bytes) {
         const std::string path = scratch.File(name);
-        std::ofstream(path, std::ios::binary) << bytes;
+        std::ofstream(zxhost::PathOf(path), std::ios::binary) << bytes;
         return path;
     }
     static std::string ReadFile(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
+        std::ifstream file(zxhost::PathOf(path), std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     }
     std::string Store() const { return scratch.File("store.ini"); }

@@ -43,6 +43,16 @@ TEST_F(Player, MeetsTheMessagesOfAStep) {
     EXPECT_EQ(result, IDCANCEL);
 }
 
+TEST_F(Player, MeetsAMessageInPlaceOfTheDialog) {
+    const auto open = [] { return MessageBoxA(nullptr, "No waveform", "A", MB_OK) + 1; };
+    EXPECT_EQ(Play("expect message \"No waveform\"\nanswer OK\n", open), "");
+    EXPECT_EQ(result, 2);
+    EXPECT_EQ(Play("expect message \"No waveform\"\nanswer OK\nclick 5\n", open),
+              "s:3: no dialog opened (the call gave 2)");
+    EXPECT_EQ(Play("expect message \"Another\"\nanswer OK\n", open),
+              "s:1: the message is \"No waveform\" and should be \"Another\"");
+}
+
 TEST_F(Player, EndsADialogThatTheScriptLeavesOpen) {
     EXPECT_NE(Play("expect title \"Other\"\n",
                    [] { return MessageBoxA(nullptr, "x", "Sure?", MB_OKCANCEL); }),

@@ -68,7 +68,10 @@ TEST(SimulatedRecording, ComesInEveryKindOfData) {
     EXPECT_EQ(second.kind, zxhost::DataKind::kSecondKind);
     const Recording sheet = SimulateRecording(Simulation::kSheet);
     EXPECT_EQ(sheet.kind, zxhost::DataKind::kSheet);
-    EXPECT_EQ(sheet.Describe(), "Simulated results sheet: 5 columns, 12 points");
+    EXPECT_EQ(
+        sheet.Describe(),
+        "Simulated results sheet: 5 columns (Step in mV, Peak in pA, Steady in pA, Tail in pA, "
+        "Holding in pA), 12 rows");
     EXPECT_EQ(sheet.groups[0].sets[0].values.front(), -100.0);
 }
 

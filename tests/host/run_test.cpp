@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "HostFileSource.h"
 #include "SettingsStore.h"
 #include "host_test.h"
 #include "platform/platform.h"
@@ -179,7 +180,9 @@ TEST_F(HostRun, OpensDataFromAFile) {
                    {"--data", WriteFile("cell.csv", rows)}),
               0)
         << err;
-    EXPECT_TRUE(OutHas("data: cell.csv: 1 signal, 1 sweep, 400 points\n"));
+    EXPECT_TRUE(
+        OutHas("data: cell.csv: 1 signal (Vm in mV), 1 sweep, 400 points at 1 kHz, 0 to "
+               "399 ms\nresult"));
     EXPECT_TRUE(OutHas("  dMaxValue: 0 -> 6\n"));
     EXPECT_TRUE(OutHas("  dSamplingFrequency: 0 -> 1000\n"));
 }
@@ -226,16 +229,26 @@ TEST_F(HostRun, LetsTheUserPickAControlFile) {
     EXPECT_TRUE(OutHas("  nNumGroups: 0 -> 1\n")) << out;
 }
 
-TEST_F(HostRun, AControlFileThatCannotBeReadLeavesPathAndList) {
-    const std::string script =
-        WriteFile("steps.txt", "click \"Select File\"\nexpect text 2551 \"\"\nok\n");
+TEST_F(HostRun, AControlFileThatCannotBeReadIsToldBeforeTheDialogOpens) {
+    const std::string script = WriteFile("steps.txt", "click \"Select File\"\nok\n");
+    const std::string control = WriteFile("broken.csv", "a,b\n1\nx,y\n");
     EXPECT_EQ(Run({"run", "subtract-control", "--script", script, "--store", Store(), "--control",
-                   WriteFile("broken.csv", "a,b\n1\nx,y\n")}),
-              0)
-        << err;
-    EXPECT_NE(err.find("broken.csv"), std::string::npos) << err;
-    EXPECT_TRUE(OutHas("store:")) << out;
-    EXPECT_FALSE(OutHas("nFileID: 0")) << out;
+                   control}),
+              zxhost::kNoInput);
+    EXPECT_EQ(err, "zxhost: " + control + ":2: 1 value where the lines before have 2\n");
+    EXPECT_EQ(out, "");
+}
+
+// In the window the user may pick any file.
+TEST_F(HostRun, AControlFileThatCannotBeReadLeavesPathAndList) {
+    std::string told;
+    const std::string control = WriteFile("broken.csv", "a,b\n1\nx,y\n");
+    zxhost::HostFileSource files([&](HWND__*) { return control; },
+                                 [&](const std::string& why) { told = why; });
+    EXPECT_EQ(files.BrowseForFile(nullptr), nullptr);
+    EXPECT_EQ(told, control + ":2: 1 value where the lines before have 2");
+    EXPECT_EQ(files.GetGroupCount(), 0);
+    EXPECT_EQ(files.GetFileHandle(), 0u);
 }
 
 TEST_F(HostRun, WithoutAControlFileBrowsingIsANo) {
@@ -251,9 +264,11 @@ TEST_F(HostRun, AFailedStepTellsItsLineAndLeavesNothing) {
     EXPECT_TRUE(OutHas("result: 2 (Cancel)\n"));
     EXPECT_FALSE(std::filesystem::exists(Store()));
     EXPECT_EQ(Play("click 4711\nok\n"), zxhost::kScriptFailed);
-    EXPECT_EQ(err, script + ":1: there is no control 4711\n");
+    EXPECT_EQ(err.find(script + ":1: there is no control 4711; there are "), 0u) << err;
+    EXPECT_NE(err.find(", 2364 \"Baseline region\", "), std::string::npos) << err;
+    EXPECT_NE(err.find(", 1 \"OK\", 2 \"Cancel\""), std::string::npos) << err;
     EXPECT_EQ(Play("click \"Select Some\"\nok\n"), zxhost::kScriptFailed);
-    EXPECT_EQ(err, script + ":1: there is no control \"Select Some\"\n");
+    EXPECT_EQ(err.find(script + ":1: there is no control \"Select Some\"; there are "), 0u) << err;
     EXPECT_EQ(Play("choose 2364 1\nok\n"), zxhost::kScriptFailed);
     EXPECT_EQ(err, script + ":1: control 2364 cannot be used: it is disabled\n");
     EXPECT_EQ(
@@ -370,7 +385,8 @@ TEST_F(HostRun, AWrongCommandLineIsTold) {
     const std::string how = " (zxhost --help tells how)";
     EXPECT_EQ(wrong({"dance"}), "there is no command \"dance\"" + how);
     EXPECT_EQ(wrong({"run"}), "run needs the name of one analysis" + how);
-    EXPECT_EQ(wrong({"run", "nothing"}), "there is no analysis \"nothing\"" + how);
+    EXPECT_EQ(wrong({"run", "nothing"}),
+              "there is no analysis \"nothing\"; zxhost list names them" + how);
     EXPECT_EQ(wrong({"run", "normalize"}), "run needs --script FILE" + how);
     EXPECT_EQ(wrong({"--data"}), "--data needs a value" + how);
     EXPECT_EQ(wrong({"--colour", "red"}), "there is no option --colour" + how);
@@ -394,6 +410,7 @@ class HostProgram : public host_test::HostTest {
         const std::string path = (std::filesystem::path(self).parent_path() / program).string();
         const std::string file = scratch.File("printed.txt");
         const int code = std::system((path + " " + arguments + " >" + file + " 2>&1").c_str());
+        printed.clear();
         for (char c : ReadFile(file)) {
             if (c != '\r') printed += c;
         }

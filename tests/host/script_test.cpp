@@ -35,6 +35,15 @@ TEST_F(ScriptText, TakesControlsByNumberAndByCaption) {
     EXPECT_EQ(zxhost::NumberOf(step.control), -1);
 }
 
+TEST_F(ScriptText, TakesTheFieldBehindAButton) {
+    const Step step = One("\xEF\xBB\xBFtype field \"Value:\" 12");
+    EXPECT_TRUE(step.field);
+    EXPECT_EQ(step.control.text, "Value:");
+    EXPECT_EQ(step.argument.text, "12");
+    EXPECT_FALSE(One("type \"field\" 12").field);
+    EXPECT_FALSE(One("click field").field);
+}
+
 TEST_F(ScriptText, TakesTextsWithQuotesAndLineEnds) {
     const Step step = One("expect message \"a \\\"b\\\" \\\\ c\\nd\"");
     EXPECT_EQ(step.verb, Verb::kExpectMessage);
@@ -61,10 +70,11 @@ TEST_F(ScriptText, KnowsEveryStep) {
         "5\nok\ncancel\n"
         "close\nexpect message a\nexpect title a\nexpect tab a\nexpect text 1 a\n"
         "expect chosen 1 a\nexpect item 1 a\nexpect enabled 1\nexpect disabled 1\nexpect shown 1\n"
-        "expect hidden 1\nexpect checked 1\nexpect unchecked 1\nexpect focus 1\n";
+        "expect hidden 1\nexpect checked 1\nexpect unchecked 1\nexpect focus 1\n"
+        "expect record a 1\nexpect store a/b 1\n";
     ASSERT_TRUE(zxhost::ParseScript(kAll, "s", &script, &error)) << error;
-    ASSERT_EQ(script.steps.size(), 24u);
-    for (int i = 0; i < 24; ++i) {
+    ASSERT_EQ(script.steps.size(), 26u);
+    for (int i = 0; i < 26; ++i) {
         const Step& step = script.steps[static_cast<std::size_t>(i)];
         EXPECT_EQ(static_cast<int>(step.verb), i) << step.source;
         EXPECT_EQ(step.line, i + 1);
@@ -83,6 +93,13 @@ TEST_F(ScriptText, RefusesAWrongLineWithItsNumber) {
     EXPECT_EQ(Refused("tab \"Data"), "s:1: a quote is not closed");
     EXPECT_EQ(Refused(std::string("ok\n\0", 4)), "s:2: this is not a text file");
     EXPECT_EQ(Refused("# nothing\n"), "s: the script has no steps");
+    EXPECT_EQ(Refused("expect record a"), "s:1: this should be \"expect record FIELD VALUE\"");
+    EXPECT_EQ(Refused("expect store a"), "s:1: this should be \"expect store SECTION/KEY VALUE\"");
+    EXPECT_EQ(Refused("type field \"a\""), "s:1: this should be \"type CONTROL TEXT\"");
+    EXPECT_EQ(Refused("# \xC2\xB5 is well\ntab \xB5\n"),
+              "s:2: the byte at place 5 is not UTF-8; save the script as UTF-8");
+    EXPECT_EQ(Refused(std::string("\xFF\xFEo\0k\0", 6)),
+              "s: this is UTF-16 text; save it as UTF-8 (in a spreadsheet: \"CSV UTF-8\")");
     EXPECT_EQ(Refused("expect"), "s:1: \"expect\" is no step");
 }
 

@@ -4,8 +4,6 @@
 
 namespace {
 
-using zxhost::DataKind;
-using zxhost::Recording;
 using zxhost::TextColumn;
 
 class TextReader : public host_test::HostTest {
@@ -71,15 +69,14 @@ TEST_F(TextReader, RefusesFilesThatHoldNoText) {
 }
 
 TEST_F(TextReader, RefusesRaggedRowsWithTheirLine) {
-    EXPECT_EQ(Refused("1,2\n3,4,5\n"), "2: 3 values where the lines before have 2");
+    EXPECT_EQ(Refused("1;2\n3;4;5\n"), "2: 3 values where the lines before have 2");
     EXPECT_EQ(Refused("1,2\n3\n"), "2: 1 value where the lines before have 2");
     EXPECT_EQ(Refused("1,2\n3,\n"), "2: a value is missing in column 2");
-    EXPECT_EQ(Refused("a,b\nms,mV,pA\n1,2\n"), "2: 3 values where the lines before have 2");
+    EXPECT_EQ(Refused("a;b\nms;mV;pA\n1;2\n"), "2: 3 values where the lines before have 2");
 }
 
 TEST_F(TextReader, RefusesTextInNumberColumns) {
     EXPECT_EQ(Refused("a,b\n1,2\n3,off\n"), "3: \"off\" in column 2 is not a number");
-    EXPECT_EQ(Refused("1;2\n3;4,5\n"), "2: \"4,5\" in column 2 is not a number");
     EXPECT_EQ(Refused("1,2\n3,nan\n"), "2: \"nan\" in column 2 is not a number");
     EXPECT_EQ(Refused("1,2\n3,1e999\n"), "2: \"1e999\" in column 2 is not a number");
     EXPECT_EQ(Refused("a,b\nms,mV\nx,y\n1,2\n"),
@@ -89,7 +86,7 @@ TEST_F(TextReader, RefusesTextInNumberColumns) {
 TEST_F(TextReader, TakesManyColumnsAndRefusesTooMany) {
     const auto row = [](int count) {
         std::string text;
-        for (int i = 0; i < count; ++i) text += (i ? "," : "") + std::to_string(i);
+        for (int i = 0; i < count; ++i) text += (i ? ";" : "") + std::to_string(i);
         return text + "\n";
     };
     ASSERT_TRUE(Read(row(5000) + row(5000) + row(5000))) << error;
@@ -121,33 +118,93 @@ TEST_F(TextReader, TellsItsProgressAndCanBeStopped) {
     EXPECT_TRUE(columns.empty());
 }
 
-TEST_F(TextReader, MakesARecordingOfAnXColumnAndTraces) {
-    path = WriteFile("cell.csv", "Time (s),A (mV),B (mV)\n0,1,2\n0.001,3,4\n0.002,5,6\n");
-    Recording recording;
-    ASSERT_TRUE(zxhost::ReadRecording(path, DataKind::kRecording, &recording, &error)) << error;
-    EXPECT_EQ(recording.Describe(), "cell.csv: 1 signal, 2 sweeps, 3 points");
-    EXPECT_EQ(recording.samplingFrequency, 1000.0);
-    EXPECT_EQ(recording.groups[0].units, "mV");
-    EXPECT_EQ(recording.groups[0].sets[1].name, "B");
-    EXPECT_EQ(recording.groups[0].sets[1].values, (std::vector<double>{2, 4, 6}));
-    EXPECT_EQ(recording.regions.size(), 3u);
-    ASSERT_TRUE(zxhost::ReadRecording(path, DataKind::kSheet, &recording, &error)) << error;
-    EXPECT_EQ(recording.Describe(), "cell.csv: 3 columns, 3 points");
-    EXPECT_EQ(recording.groups[0].sets[0].units, "s");
+TEST_F(TextReader, TakesDecimalCommasWhereCommasSeparateNothing) {
+    for (const char* text :
+         {"0,25;-75,5\n1;2,5e1\n", "0,25\t-75,5\n1\t2,5e1\n", "0,25 -75,5\n1  2,5e1\n",
+          "t Vm\n0,25 -75,5\n1 2,5e1\n", "t;Vm\n0,25;-75,5\n1;2,5e1\n"}) {
+        SCOPED_TRACE(text);
+        ASSERT_TRUE(Read(text)) << error;
+        ASSERT_EQ(columns.size(), 2u);
+        EXPECT_EQ(columns[0].values, (std::vector<double>{0.25, 1}));
+        EXPECT_EQ(columns[1].values, (std::vector<double>{-75.5, 25}));
+    }
+    ASSERT_TRUE(Read("Vm\n-75,5\n-7\n")) << error;
+    EXPECT_EQ(columns[0].values, (std::vector<double>{-75.5, -7}));
 }
 
-TEST_F(TextReader, RefusesARecordingWithoutTracesOrWithAnAxisThatFalls) {
-    Recording recording;
-    path = WriteFile("one.txt", "1\n2\n");
-    EXPECT_FALSE(zxhost::ReadRecording(path, DataKind::kRecording, &recording, &error));
-    EXPECT_EQ(error, path +
-                         ": a recording needs an x column and at least one trace; this has one "
-                         "column, which --recording sheet reads");
-    path = WriteFile("fall.txt", "1 1\n2 1\n2 1\n");
-    EXPECT_FALSE(zxhost::ReadRecording(path, DataKind::kRecording, &recording, &error));
-    EXPECT_EQ(error, path +
-                         ": the x column does not rise at its value 3; --recording sheet reads "
-                         "the columns as they are");
+TEST_F(TextReader, RefusesPointsAndCommasInOneFile) {
+    EXPECT_EQ(Refused("1;2\n1,5;2\n2;2.5\n"),
+              "3: \"2.5\" in column 2 is not a number: the numbers before have decimal commas");
+    EXPECT_EQ(Refused("1.5;2\n2;2,5\n"),
+              "2: \"2,5\" in column 2 is not a number: the numbers before have decimal points");
+    EXPECT_EQ(Refused("1;2\n1.234,5;2\n"), "2: \"1.234,5\" in column 1 is not a number");
+    EXPECT_EQ(Refused("1;2\n1,2,3;2\n"), "2: \"1,2,3\" in column 1 is not a number");
+}
+
+// "0,25" is a quarter to some and two columns to others.
+TEST_F(TextReader, RefusesCommasThatMayBeEither) {
+    const std::string either =
+        " the commas may separate columns or decimals; --delimiter comma says that they separate "
+        "columns, and with decimal commas the values need tabs, semicolons or blanks between them";
+    EXPECT_EQ(Refused("0,25\n1,50\n"), either);
+    EXPECT_EQ(Refused("0,0,-75,68\n0,25,-75,62\n"), either);
+    EXPECT_EQ(Refused("Time,Vm\n0,0,-75,68\n"),
+              "2: 4 values where the lines before have 2; with decimal commas the values need tabs "
+              "or semicolons between them");
+    // A heading, a point, a sign or a third column shows what the commas are.
+    EXPECT_TRUE(Read("Time,Vm\n0,25\n1,50\n")) << error;
+    EXPECT_TRUE(Read("0,25\n1,50.5\n")) << error;
+    EXPECT_TRUE(Read("0,-25\n1,50\n")) << error;
+    EXPECT_TRUE(Read("0,25,1\n1,50,2\n")) << error;
+    path = WriteFile("data.txt", "0,25\n1,50\n");
+    ASSERT_TRUE(zxhost::ReadTextColumns(path, &columns, &error, nullptr, ',')) << error;
+    EXPECT_EQ(columns[1].values, (std::vector<double>{25, 50}));
+}
+
+TEST_F(TextReader, TakesTheDelimiterThatTheCallerSays) {
+    path = WriteFile("data.txt", "1,5 2,5\n");
+    EXPECT_FALSE(zxhost::ReadTextColumns(path, &columns, &error, nullptr, ','));
+    EXPECT_EQ(error, path + ":1: \"5 2\" in column 2 is not a number");
+    EXPECT_EQ(zxhost::DelimiterOf("tab"), '\t');
+    EXPECT_EQ(zxhost::DelimiterOf("semicolon"), ';');
+    EXPECT_EQ(zxhost::DelimiterOf("comma"), ',');
+    EXPECT_EQ(zxhost::DelimiterOf("blank"), ' ');
+    EXPECT_EQ(zxhost::DelimiterOf("colon"), 0);
+}
+
+TEST_F(TextReader, RefusesTextThatIsNotUtf8WithAHint) {
+    const std::string utf16 =
+        " this is UTF-16 text; save it as UTF-8 (in a spreadsheet: \"CSV UTF-8\")";
+    EXPECT_EQ(Refused(std::string("\xFF\xFE"
+                                  "1\0,\0"
+                                  "2\0\n\0",
+                                  10)),
+              utf16);
+    EXPECT_EQ(Refused(std::string("\xFE\xFF\0"
+                                  "1\0,\0"
+                                  "2\0\n",
+                                  10)),
+              utf16);
+    EXPECT_EQ(Refused(std::string("1\0,\0"
+                                  "2\0\n\0",
+                                  8)),
+              utf16);
+    EXPECT_EQ(Refused(std::string("\0"
+                                  "1\0,\0"
+                                  "2\0\n",
+                                  8)),
+              utf16);
+    EXPECT_EQ(Refused("Time,I (\xB5"
+                      "A)\n0,1\n"),
+              "1: byte B5 at place 9 is not UTF-8; save the file as UTF-8");
+    ASSERT_TRUE(Read("Time,I (µA)\n0,1\n")) << error;
+    EXPECT_EQ(columns[1].units, "µA");
+}
+
+TEST_F(TextReader, RefusesSignsThatAreTooMany) {
+    EXPECT_EQ(Refused("a,b\n1,2\n+-3,4\n"), "3: \"+-3\" in column 1 is not a number");
+    ASSERT_TRUE(Read("a,b\n1,2\n+3,4\n")) << error;
+    EXPECT_EQ(columns[0].values, (std::vector<double>{1, 3}));
 }
 
 }  // namespace

@@ -28,6 +28,36 @@ std::string Block(const std::string& language, int which) {
     return guide.substr(first, guide.find("```", first) - first);
 }
 
+// What the guide says for an empty folder, as it is printed.
+TEST(Package, TheCommandsOfTheGuideRunInAnEmptyFolder) {
+    const test_support::ScratchStore scratch;
+    const std::string root = scratch.File("empty");
+    const std::string log = scratch.File("log.txt");
+    std::filesystem::create_directories(root);
+    ASSERT_EQ(std::system((ZX_CMAKE " --install " ZX_BINARY_DIR
+                                    " --component ZxAnalysisDialogs --prefix " +
+                           root + "/zx >" + log + " 2>&1")
+                              .c_str()),
+              0)
+        << Read(log);
+    std::ofstream(root + "/CMakeLists.txt") << Block("cmake", 0);
+    std::ofstream(root + "/minimal_host.cpp") << Block("cpp", 0);
+    for (int which : {0, 1}) {
+        const std::string commands = Block("sh", which);
+        ASSERT_NE(commands, "");
+        std::ofstream(root + "/commands.sh")
+            << "set -e\nexport ZX=" << root << "/zx CXXFLAGS='" ZX_CONSUMER_FLAGS "'\n"
+            << "cd " << root << "\n"
+            << commands;
+        ASSERT_EQ(std::system(("sh " + root + "/commands.sh >" + log + " 2>&1").c_str()), 0)
+            << Read(log);
+        EXPECT_NE(Read(log).find("Baseline region 0, peak region 0, in 3 of 3 sweeps.\n"),
+                  std::string::npos)
+            << Read(log);
+    }
+    std::filesystem::remove_all(root);
+}
+
 TEST(Package, TheGuidesProgramsBuildAgainstAnInstallationAndRun) {
     const test_support::ScratchStore scratch;
     const std::string root = scratch.File("package");
