@@ -10,7 +10,7 @@
 struct ZXADLG_AdjustBaselineOptions {
     int32_t eAdjustMode;   // 0 mean, 1 slope, 2 fixed value, 3 by hand
     int32_t eValueRegion;  // region id for mean and slope
-    double dFixedValue;    // value to subtract
+    double dFixedValue;    // value to subtract, in the units of the data (GetUnits)
     ZXADLG_AnalysisCommon common;
 };
 static_assert(sizeof(ZXADLG_AdjustBaselineOptions) == 24, "layout");

@@ -9,8 +9,8 @@
 
 struct ZXADLG_CorrelationOptions {
     int32_t eType;              // 0 autocorrelation, 1 cross-correlation
-    double dSamplingFrequency;  // Hz
-    uint32_t uNumberOfLags;
+    double dSamplingFrequency;  // Hz; in effect where the data tell none
+    uint32_t uNumberOfLags;     // points; start with one above 0
     uint8_t reserved0[68];
     ZXADLG_AnalysisCommon common;
 };

@@ -10,18 +10,20 @@
 struct ZXADLG_CurrentVoltageOptions {
     int32_t ePeakRegion;    // region id
     int32_t ePeakPolarity;  // 0 positive, 1 negative, 2 absolute
-    int32_t
-        eVoltageSource;  // 0 waveform at cursor 1, 1 at cursor 3, 2 data group at cursor 3, 3 epoch
-    int32_t eCurrentSource;     // 0 value at cursor 1, 1 mean, 2 peak
-    int32_t eFixedEpoch;        // epoch code
-    int32_t eSetSelectionMode;  // 1 all including hidden, 0 visible
-    uint32_t uWaveformIndex;    // waveform number
-    uint32_t uXDataGroupIndex;
-    uint32_t uYDataGroupIndex;
-    uint32_t uSmoothingPoints;
-    uint8_t bInvertX;
-    uint8_t bInvertY;
-    uint8_t bDoFilter;
+    // 0 waveform at cursor 1, 1 waveform at cursor 3, 2 data group at cursor 3, 3 epoch
+    int32_t eVoltageSource;
+    int32_t eCurrentSource;  // 0 value at cursor 1, 1 mean, 2 peak
+    // Epoch variable: 0 to 9 the levels of epochs A to J, 10 to 19 their durations, 20 the user's
+    // list (HasUserList). The data have variable n where a region has the id n + 26
+    int32_t eFixedEpoch;
+    int32_t eSetSelectionMode;     // 1 all including hidden, 0 visible
+    uint32_t uWaveformIndex;       // the number that GetEpochName gave
+    uint32_t uXDataGroupIndex;     // group, from 0, of the x axis; used where eVoltageSource is 2
+    uint32_t uYDataGroupIndex;     // group, from 0, of the y axis
+    uint32_t uSmoothingPoints;     // points; 1 or more. Start with 5
+    uint8_t bInvertX;              // the sign of x is changed
+    uint8_t bInvertY;              // the sign of y is changed
+    uint8_t bDoFilter;             // smooth over uSmoothingPoints
     ZXADLG_AnalysisCommon common;  // its flags have the keys bGraphDynamicLink and bVerboseOutput
 };
 static_assert(sizeof(ZXADLG_CurrentVoltageOptions) == 52, "layout");

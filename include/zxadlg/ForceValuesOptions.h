@@ -8,9 +8,11 @@
 #include "zxadlg/AnalysisCommon.h"
 
 struct ZXADLG_ForceValuesOptions {
-    int32_t eForceValuesMode;  // 0 to 4, the selected method
-    int32_t eRegionToForce;    // region id
-    double dFixedValue;        // units of the data
+    // 0 the data value at cursor 1, 1 the mean between cursors 1 and 2, 2 the mean between cursors
+    // 3 and 4, 3 a straight line between cursors 1 and 2, 4 dFixedValue
+    int32_t eForceValuesMode;
+    int32_t eRegionToForce;  // region id of the points that are overwritten
+    double dFixedValue;      // in the units of the data (GetUnits)
     ZXADLG_AnalysisCommon common;
 };
 static_assert(sizeof(ZXADLG_ForceValuesOptions) == 24, "layout");

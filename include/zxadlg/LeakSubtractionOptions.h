@@ -8,9 +8,11 @@
 #include "zxadlg/AnalysisCommon.h"
 
 struct ZXADLG_LeakSubtractionOptions {
-    double dPassiveResistance;  // megohms
+    double dPassiveResistance;  // megohms; start with one above 0
+    // 0.000001 for pA and V, 0.001 for pA and mV, 1 for nA and mV, 1000 for uA and mV, 1000000 for
+    // mA and mV; any other value shows as the first. Start with 1
     double dConversionFactor;
-    uint32_t uWaveformIndex;  // waveform number
+    uint32_t uWaveformIndex;  // the number that GetEpochName gave
     ZXADLG_AnalysisCommon common;
 };
 static_assert(sizeof(ZXADLG_LeakSubtractionOptions) == 32, "layout");

@@ -11,8 +11,8 @@ struct ZXADLG_ModifySampleRateOptions {
     int32_t eRateConversionType;   // 0 reduction, 1 interpolation
     int32_t eReductionMethod;      // 0 decimate, 1 substitute average, 2 min/max
     int32_t eInterpolationMethod;  // 0 straight line, 1 cubic spline
-    int32_t nReduceFactor;         // 2 to 1000
-    int32_t nInterpolFactor;       // 1 to 100
+    int32_t nReduceFactor;         // 2 to 1000; that many points become one
+    int32_t nInterpolFactor;       // 1 to 100; one point becomes that many
     ZXADLG_AnalysisCommon common;
 };
 static_assert(sizeof(ZXADLG_ModifySampleRateOptions) == 28, "layout");

@@ -8,9 +8,9 @@
 #include "zxadlg/AnalysisCommon.h"
 
 struct ZXADLG_NormalizeOptions {
-    uint32_t eBaselineRegion;  // region id
-    uint32_t ePeakRegion;      // region id
-    uint8_t bUseAllPoints;
+    uint32_t eBaselineRegion;  // region id; used where bUseAllPoints is 1
+    uint32_t ePeakRegion;      // region id; used where bUseAllPoints is 1
+    uint8_t bUseAllPoints;  // its name says the contrary: 0 all points, 1 between the two regions
     ZXADLG_AnalysisCommon common;
 };
 static_assert(sizeof(ZXADLG_NormalizeOptions) == 20, "layout");

@@ -6,14 +6,14 @@
 #include <stdint.h>
 
 struct ZXADLG_SubtractControlOptions {
-    char szSubtractFileName[512];
-    double dMultiplier;
+    char szSubtractFileName[512];  // path of the control file, as BrowseForFile gave it
+    double dMultiplier;  // of the control, no units; used where bUseMultiplier is 1. Start with 1
     uint8_t bUseMultiplier;
-    uint8_t bUseFirstTraceOnly;
-    uint8_t bUseLastFile;     // kept with the record; no control shows it
-    int32_t anListEntry[16];  // indices of the selected signals
-    int32_t nFileID;          // identifier that GetFileHandle gave
-    int32_t nNumGroups;       // entries of the list in use
+    uint8_t bUseFirstTraceOnly;  // the control's first sweep is subtracted from all
+    uint8_t bUseLastFile;        // kept with the record; no control shows it
+    int32_t anListEntry[16];     // the selected signals of the control file, from 0
+    int32_t nFileID;             // identifier that GetFileHandle gave
+    int32_t nNumGroups;          // entries of the list in use
     uint8_t reserved0[12];
 };
 static_assert(sizeof(ZXADLG_SubtractControlOptions) == 608, "layout");

@@ -15,7 +15,7 @@ struct ZXADLG_TimeShiftOptions {
     int32_t ePeakPolarity;     // 0 positive, 1 negative, 2 absolute
     int32_t eValueRegion;      // region id for "between cursors"
     int32_t eSearchRegion;     // region id of the region to search
-    uint32_t uDataGroupIndex;  // group to search for peaks
+    uint32_t uDataGroupIndex;  // group to search for peaks, from 0
     double dShiftValue;        // fixed interval, ms
     ZXADLG_AnalysisCommon common;
 };

@@ -11,14 +11,16 @@ struct ZXADLG_TraceVsTraceOptions {
     int32_t eXSource;      // 0 waveform, 1 data group
     int32_t eYSource;      // 0 waveform, 1 data group
     int32_t eValueRegion;  // region id
+    // Of each axis: set and group, both from 0, where its source is 1; otherwise the waveform, by
+    // the number that GetEpochName gave.
     uint32_t uXDataSetIndex;
     uint32_t uYDataSetIndex;
-    uint32_t uXWaveformIndex;  // waveform number
-    uint32_t uYWaveformIndex;  // waveform number
+    uint32_t uXWaveformIndex;
+    uint32_t uYWaveformIndex;
     uint32_t uXDataGroupIndex;
     uint32_t uYDataGroupIndex;
-    uint8_t bInvertX;
-    uint8_t bInvertY;
+    uint8_t bInvertX;              // the sign of x is changed
+    uint8_t bInvertY;              // the sign of y is changed
     ZXADLG_AnalysisCommon common;  // its flags have the keys bGraphDynamicLink and bVerboseOutput
 };
 static_assert(sizeof(ZXADLG_TraceVsTraceOptions) == 48, "layout");
