@@ -44,7 +44,12 @@ TEST(Encoding, GivesTheDialogsTheirOwnBytesAndBack) {
 class HostEncoding : public host_test::HostTest {};
 
 TEST_F(HostEncoding, NamesAndUnitsReachTheDialogAndComeBack) {
-    const std::string data = WriteFile("µ.csv", "Zeit (µs),Strom µ (µA)\n0,1.5\n1,2\n2,3\n");
+    // The folder is named in ASCII; the file is not.
+    std::string data = scratch.File("x");
+    data.back() = '\xC2';
+    data += "\xB5.csv";
+    std::ofstream(zxhost::PathOf(data), std::ios::binary)
+        << "Zeit (µs),Strom µ (µA)\n0,1.5\n1,2\n2,3\n";
     ASSERT_EQ(Play("tab Data\nexpect item 2189 \"Strom µ\"\ntab Options\nok\n", {"--data", data}),
               0)
         << err;
