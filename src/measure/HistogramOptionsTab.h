@@ -29,7 +29,6 @@ class CHistogramOptionsTab : public COptionsTab<ZXADLG_HistogramOptions> {
                    float Record::*pLimit, float (*clamp)(float, const HistogramRange&));
     HistogramRange ReadRange();
     void TakeRange();
-    void SetWidth(double dWidth);
     void SetBins(std::int32_t nBins);
     // The width that counts: that of the record, unless the field shows none.
     float WidthInUse();
