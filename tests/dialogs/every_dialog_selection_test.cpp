@@ -51,6 +51,7 @@ TEST_F(EverySelection, IsKeptUnderTheNameOfTheAnalysis) {
         {"Normalize", "NormalizeDataSection"},
         {"Time Shift", "TimeShiftDataSection"},
         {"Curve Fitting", "CurveFitDataSection"},
+        {"Histogram", "HistogramDataSection"},
         {"Force Values", "ForceValuesDataSection"},
         {"Adjust Baseline", "AdjustBaselineDataSection"},
         {"Leak Subtraction", "LeakSubtractionDataSection"},
