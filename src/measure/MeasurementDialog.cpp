@@ -31,7 +31,7 @@ CMeasurementDialog::CMeasurementDialog(HWND hwndParent, ZXADLG_MeasurementOption
         m_pOutput = pOutput.get();
         AddOptionsTab(std::move(pOutput));
     }
-    AddUnitaryDataTab();
+    AddUsualDataTab();
     // What nobody can change is not checked.
     if (!IsReadOnly()) AddChecks();
 }
