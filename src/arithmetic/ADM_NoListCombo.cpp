@@ -1,5 +1,7 @@
 #include "arithmetic/ADM_NoListCombo.h"
 
+#include "framework/Theming.h"
+
 namespace {
 
 constexpr char kClassName[] = "ZXADLG_NoListCombo_PictureWnd32";
@@ -139,7 +141,9 @@ void ADM_NoListCombo::Draw(HDC hDC) {
 
 void ADM_NoListCombo::DrawFace(HDC hDC, bool bEnabled) const {
     RECT rc = m_rcClient;
-    const HTHEME hTheme = OpenThemeData(GetOwnWindow(), L"Button");
+    // As the buttons beside it, which have the theme with that version of their library alone.
+    const HTHEME hTheme =
+        IsThemedWithCommonControls6() ? OpenThemeData(GetOwnWindow(), L"Button") : nullptr;
     if (hTheme == nullptr) {
         DrawFrameControl(hDC, &rc, DFC_BUTTON,
                          DFCS_BUTTONPUSH | static_cast<UINT>(m_bPressed ? DFCS_PUSHED : 0));
