@@ -27,6 +27,7 @@ constexpr UINT kPulse = WM_APP + 1;
 constexpr UINT kRetryAfter = 10;    // ms
 constexpr int kMostAnswers = 12;    // until a dialog that does not end is destroyed
 constexpr int kMostRetries = 1500;  // without a dialog to be seen
+constexpr int kMostWaits = 100;     // for what was posted
 
 uint64_t HashOf(const std::string& text) {
     uint64_t hash = 14695981039346656037u;
@@ -180,10 +181,14 @@ class Session {
             return;
         }
         if (Busy()) {
-            PostMessageA(m_pulse, kPulse, 0, 0);
+            // What comes from the mouse itself comes after what is posted: it gets its turn.
+            if (++m_waits < kMostWaits)
+                PostMessageA(m_pulse, kPulse, 0, 0);
+            else
+                SetTimer(m_pulse, kPulse, kRetryAfter, nullptr);
             return;
         }
-        m_retries = 0;
+        m_retries = m_waits = 0;
         if (DoPending()) {
             PostMessageA(m_pulse, kPulse, 0, 0);
             return;
@@ -262,6 +267,7 @@ class Session {
     std::size_t m_next = 1;
     int m_answers = 0;
     int m_retries = 0;
+    int m_waits = 0;
 };
 
 }  // namespace
