@@ -132,7 +132,9 @@ DialogRow MeasurementRow() {
     };
     row.delicate = {IDC_MEASURE_SEARCH, IDC_MEASURE_REGION, IDC_MEASURE_BASELINE,
                     IDC_MEASURE_LENGTH};
-    row.fromData = {"StatsRegionStart", "StatsRegionEnd", "BaseRegionStart", "BaseRegionEnd"};
+    // The regions follow the data, and what is plotted is emptied where the peak's amplitude is.
+    row.fromData = {"StatsRegionStart", "StatsRegionEnd", "BaseRegionStart",
+                    "BaseRegionEnd",    "NumYPlotItems",  "AutoPlotYVariable"};
     row.alive = {IDC_MEASURE_SEARCH, IDC_MEASURE_SEARCH_SPIN};
     row.nOptionPages = 2;
     return row;

@@ -59,6 +59,7 @@ TEST_F(EverySelection, IsKeptUnderTheNameOfTheAnalysis) {
         {"Filter", "FilterDataSection"},
         {"Power Spectrum", "SpectrumDataSection"},
         {"Correlation", "CorrelationDataSection"},
+        {"Measurements", "MeasurementsDataSection"},
     };
     std::size_t tabbed = 0;
     for (const DialogRow& row : Rows()) tabbed += row.bHasDataTab ? 1 : 0;
