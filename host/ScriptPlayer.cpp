@@ -518,6 +518,11 @@ void ScriptPlayer::Fail(const std::string& why) {
 
 void ScriptPlayer::EndAllDialogs() {
     ++endingTicks_;
+    // An open menu has a loop of its own, which the end of its dialog does not end.
+    if (HWND menu = OpenMenu()) {
+        PostMessageA(menu, WM_KEYDOWN, VK_ESCAPE, 1);
+        return;
+    }
     for (HWND hwnd : OpenDialogs()) {
         if (endingTicks_ < kTicksToEnd) {
             EndDialog(hwnd, IDCANCEL);

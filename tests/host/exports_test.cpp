@@ -26,7 +26,8 @@ class ModuleExports : public host_test::HostTest {};
 TEST_F(ModuleExports, NameEveryShowFunctionOfTheHeader) {
     const std::string source = ZX_SOURCE_DIR;
     const auto declared = ShowFunctions(ReadFile(source + "/include/ZXADLG.h"));
-    EXPECT_GE(declared.size(), zxhost::kAnalyses.size());
+    // Two of the analyses are forms of one function.
+    EXPECT_GE(declared.size() + 1, zxhost::kAnalyses.size());
     EXPECT_EQ(declared,
               ShowFunctions(ReadFile(source + "/src/entry/module/show_functions.def.in")));
 }

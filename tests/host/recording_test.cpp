@@ -209,7 +209,7 @@ TEST(RecordFields, ShowEveryByteOfTheOptionRecordsButTheirPadding) {
     // Of signal processing: what is reserved, in the record and its four sections, and padding.
     constexpr std::size_t kSigprocUnseen = 8 + 3 * (3 + 28) + 54 + 4 + 16 + 4 + 4 + 4 + 2;
     // Of arithmetic: what is reserved, padding, and what stands behind the end of its texts.
-    constexpr std::size_t kArithmeticUnseen = 1000 + 1 + 2 + 5 + 3;
+    constexpr std::size_t kArithmeticUnseen = 3 * 254 + 999 + 1000 + 1 + 1 + 3 + 2;
     // Of each search of the measurements: what is reserved and padding. The polarities that run
     // over their place show the rest.
     constexpr std::size_t kMeasurementUnseen = 24 * (6 + 4);

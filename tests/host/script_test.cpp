@@ -66,15 +66,15 @@ TEST_F(ScriptText, TakesKeysAndWhatIsHeld) {
 
 TEST_F(ScriptText, KnowsEveryStep) {
     const char kAll[] =
-        "tab Data\nclick 1\nchoose 1 2\ntype 1 x\npress Tab\nfocus 1\nanswer OK\nwait "
+        "tab Data\nclick 1\nchoose 1 2\npick 3\ntype 1 x\npress Tab\nfocus 1\nanswer OK\nwait "
         "5\nok\ncancel\n"
         "close\nexpect message a\nexpect title a\nexpect tab a\nexpect text 1 a\n"
         "expect chosen 1 a\nexpect item 1 a\nexpect enabled 1\nexpect disabled 1\nexpect shown 1\n"
         "expect hidden 1\nexpect checked 1\nexpect unchecked 1\nexpect focus 1\n"
         "expect record a 1\nexpect store a/b 1\n";
     ASSERT_TRUE(zxhost::ParseScript(kAll, "s", &script, &error)) << error;
-    ASSERT_EQ(script.steps.size(), 26u);
-    for (int i = 0; i < 26; ++i) {
+    ASSERT_EQ(script.steps.size(), 27u);
+    for (int i = 0; i < 27; ++i) {
         const Step& step = script.steps[static_cast<std::size_t>(i)];
         EXPECT_EQ(static_cast<int>(step.verb), i) << step.source;
         EXPECT_EQ(step.line, i + 1);
