@@ -100,7 +100,7 @@ TEST_F(Pages, TheScriptsOfTheGuideRun) {
     // By their first lines: the analysis that each is for.
     const std::map<std::string, std::vector<std::string>> kAnalyses = {
         {"expect title \"Normalize\"", {"normalize"}},
-        {"type \"Number of terms (n)\" \"2\"", {"curve-fit"}},
+        {"tab Function", {"curve-fit"}},
         {"expect message \"Current/voltage analysis applies to waveform stimulus files only.\"",
          {"current-voltage", "--recording", "no-waveform"}}};
     std::size_t count = 0;
