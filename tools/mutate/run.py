@@ -41,6 +41,7 @@ PROGRAMS = {
     "fit": ["fit"],
     "sigproc": ["sigproc", "dialogs"],
     "arithmetic": ["arithmetic", "dialogs"],
+    "measure": ["measure", "dialogs"],
 }
 # Where the numbers of a folder begin, so that those of one do not move with another's code.
 NUMBERS = {folder: 1 + 10000 * i for i, folder in enumerate(PROGRAMS)}
