@@ -1,6 +1,7 @@
 #include "RecordingReader.h"
 
 #include <cctype>
+#include <cmath>
 
 #include "System.h"
 
@@ -19,6 +20,15 @@ constexpr TimeUnit kUnitsOfTime[] = {{"s", 1000.0}, {"ms", 1.0},        {"us", 0
 
 std::string Heading(const TextColumn& column) {
     return column.units.empty() ? column.name : column.name + " (" + column.units + ")";
+}
+
+// Times that were once stored in single precision, or printed with few digits, give 3999.9998 Hz
+// for 4000: a frequency of four digits that is that close is the one that was meant.
+double WithoutNoise(double frequency) {
+    const double unit = std::pow(10.0, std::floor(std::log10(frequency)) - 3.0);
+    const double round = unit < 1.0 ? std::round(frequency / unit) / std::round(1.0 / unit)
+                                    : std::round(frequency / unit) * unit;
+    return std::abs(round - frequency) <= 1e-6 * frequency ? round : frequency;
 }
 
 bool Rises(const std::vector<double>& x, std::size_t* at) {
@@ -118,7 +128,8 @@ class Maker {
         made.x = std::move(x);
         const double span = made.x.back() - made.x.front();
         if (span > 0.0)
-            made.samplingFrequency = 1000.0 * static_cast<double>(made.x.size() - 1) / span;
+            made.samplingFrequency =
+                WithoutNoise(1000.0 * static_cast<double>(made.x.size() - 1) / span);
         return true;
     }
 

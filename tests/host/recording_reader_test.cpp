@@ -109,6 +109,16 @@ TEST_F(RecordingReader, TellsWhatItAssumesOfTheTime) {
     EXPECT_TRUE(recording.notes.empty());
 }
 
+// Times of single precision are 0.25000001 ms apart.
+TEST_F(RecordingReader, TakesTheFrequencyThatTimesOfFewDigitsMean) {
+    ASSERT_TRUE(Read("0 1.5\n0.2500000118743628 2\n0.5000000237487257 3\n")) << error;
+    EXPECT_EQ(recording.samplingFrequency, 4000.0);
+    ASSERT_TRUE(Read("0 1.5\n0.250001 2\n0.500002 3\n")) << error;
+    EXPECT_EQ(recording.samplingFrequency, 1000.0 * 2 / 0.500002);
+    ASSERT_TRUE(Read("0 1.5\n8000 2\n16000.0008 3\n")) << error;
+    EXPECT_EQ(recording.samplingFrequency, 0.125);
+}
+
 TEST_F(RecordingReader, RefusesOtherUnitsOfTheXColumn) {
     EXPECT_EQ(Refused("Time (h),V\n0,1.5\n"),
               "the x column is \"Time (h)\", and \"h\" is no unit of time: s, ms, us, µs and min "
