@@ -131,7 +131,7 @@ wait_closed() {  # TITLE
 }
 
 open_normalize() {
-    click "$main" 132 271
+    click "$main" 70 271
     dialog=$(window Normalize) || exit 1
 }
 
