@@ -11,6 +11,7 @@
 #include "ZXADLG.h"
 #include "analysis/CParentDialogBase.h"
 #include "fixtures/DialogScript.h"
+#include "fixtures/DialogShowTest.h"
 #include "fixtures/TestDataSource.h"
 #include "fixtures/WindowReading.h"
 #include "histogram_ids.h"
@@ -27,7 +28,7 @@ using test_support::TestDataSource;
 // The first button of a message.
 constexpr int kOkButton = 101;
 
-class HistogramDialogTest : public testing::Test {
+class HistogramDialogTest : public test_support::DialogShowTest {
   protected:
     HistogramDialogTest() {
         InitDialogFramework(GetModuleHandleA(nullptr));
@@ -61,17 +62,9 @@ class HistogramDialogTest : public testing::Test {
         data.bUseFullDataRange = 1;
         std::snprintf(data.szDepVarSelectionList, sizeof data.szDepVarSelectionList, "1..2");
     }
-    int Show(DialogScript& script) {
+    int Show(DialogScript& script) override {
         CHistogramDialog dialog(nullptr, &options, &data, &source, &params);
         return script.Run([&] { return static_cast<int>(dialog.DoModal()); });
-    }
-    void ShowAndCancel(DialogScript& script) {
-        script.Click(IDCANCEL);
-        EXPECT_EQ(Show(script), IDCANCEL);
-    }
-    void ShowAndAccept(DialogScript& script) {
-        script.Click(IDOK);
-        EXPECT_EQ(Show(script), IDOK);
     }
 
     ZXADLG_HistogramOptions options = {};

@@ -14,6 +14,7 @@
 #include "ZXADLG.h"
 #include "analysis/CParentDialogBase.h"
 #include "fixtures/DialogScript.h"
+#include "fixtures/DialogShowTest.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/TestDataSource.h"
 #include "fixtures/WindowReading.h"
@@ -35,7 +36,7 @@ using test_support::TestDataSource;
 constexpr int kOkButton = 101;
 constexpr int kCancelButton = 102;
 
-class MeasurementTest : public testing::Test {
+class MeasurementTest : public test_support::DialogShowTest {
   protected:
     MeasurementTest() {
         InitDialogFramework(GetModuleHandleA(nullptr));
@@ -84,18 +85,10 @@ class MeasurementTest : public testing::Test {
 
     // The dialog works on `options` itself. Where the host has passed nothing else, on what that
     // is.
-    int Show(DialogScript& script) {
+    int Show(DialogScript& script) override {
         const ZXADLG_MeasurementOptions passed = pHost != nullptr ? *pHost : options;
         CMeasurementDialog dialog(nullptr, &options, &passed, nullptr, &data, &source, &params);
         return script.Run([&] { return static_cast<int>(dialog.DoModal()); });
-    }
-    void ShowAndCancel(DialogScript& script) {
-        script.Click(IDCANCEL);
-        EXPECT_EQ(Show(script), IDCANCEL);
-    }
-    void ShowAndAccept(DialogScript& script) {
-        script.Click(IDOK);
-        EXPECT_EQ(Show(script), IDOK);
     }
 
     ZXADLG_MeasurementOptions options = {};

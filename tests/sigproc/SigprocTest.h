@@ -14,6 +14,7 @@
 #include "ZXADLG.h"
 #include "analysis/CParentDialogBase.h"
 #include "fixtures/DialogScript.h"
+#include "fixtures/DialogShowTest.h"
 #include "fixtures/ScratchStore.h"
 #include "fixtures/TestDataSource.h"
 #include "fixtures/WindowReading.h"
@@ -57,7 +58,7 @@ inline std::vector<std::string> TitlesOf(const DialogScript& script) {
 }
 
 template <class Dialog, class Record>
-class SigprocDialogTest : public testing::Test {
+class SigprocDialogTest : public test_support::DialogShowTest {
   protected:
     SigprocDialogTest() {
         InitDialogFramework(GetModuleHandleA(nullptr));
@@ -88,17 +89,9 @@ class SigprocDialogTest : public testing::Test {
     virtual std::unique_ptr<Dialog> Make() {
         return std::make_unique<Dialog>(nullptr, &options, &data, &source, &params);
     }
-    int Show(DialogScript& script) {
+    int Show(DialogScript& script) override {
         const std::unique_ptr<Dialog> dialog = Make();
         return script.Run([&] { return static_cast<int>(dialog->DoModal()); });
-    }
-    void ShowAndCancel(DialogScript& script) {
-        script.Click(IDCANCEL);
-        EXPECT_EQ(Show(script), IDCANCEL);
-    }
-    void ShowAndAccept(DialogScript& script) {
-        script.Click(IDOK);
-        EXPECT_EQ(Show(script), IDOK);
     }
 
     Record options = {};
